@@ -1,0 +1,75 @@
+// Time of one silent refresh of each of the eighteen designs, when the degrees of freedom are those of the
+// last refresh and when they are new.
+#include <benchmark/benchmark.h>
+
+#include <string>
+
+#include "engine/design_routines.h"
+#include "screen/design.h"
+#include "support/test_library.h"
+
+namespace {
+
+using namespace lorvane;
+
+void fill(Study& s, int levels, int randomized, int dataType) {
+    s.NumLevels = levels;
+    s.RandomizedLevel = randomized;
+    s.DataType = dataType;
+    s.IccMetric = IccMetrics::icc;
+    s.txtd = 0.3;
+    s.txtPrev = 0.4;
+    s.txtOR = 1.6;
+    for (int level = 1; level <= levels; ++level) {
+        s.txtNT(level) = s.txtNC(level) = s.txtNB(level) = level == levels ? 20 : 5;
+        s.txtCostT(level) = s.txtCostC(level) = s.txtCostB(level) = 10;
+        s.txtICC(level) = level > 1 ? 0.05 : 0;
+        s.txtTauSq(level) = 0.02;
+    }
+}
+
+// The size at the top, which moves the degrees of freedom of every design.
+void setTop(Study& s, double size) {
+    s.txtNT(s.NumLevels) = s.txtNC(s.NumLevels) = s.txtNB(s.NumLevels) = size;
+}
+
+void silentRefresh(benchmark::State& state, int levels, int randomized, int dataType, bool newDf) {
+    NumericDistributionLibrary library;
+    const FixedLocale locale;
+    Design design(library, locale);
+    fill(design.study(), levels, randomized, dataType);
+    double size = 20;
+    for (auto _ : state) {
+        if (newDf) {
+            size = size < 4000 ? size + 1 : 20;
+            setTop(design.study(), size);
+        }
+        design.DoRefresh(false);
+        benchmark::DoNotOptimize(design.study().result.txtPower);
+    }
+    if (design.study().result.xValid != 1)
+        state.SkipWithError("the study gives no power");
+}
+
+void registerAll() {
+    for (int levels = 2; levels <= 4; ++levels) {
+        for (int randomized = 1; randomized <= levels; ++randomized) {
+            for (const int dataType : {DataTypes::means, DataTypes::binary}) {
+                const std::string name = std::string(routinesOf(levels, randomized).name) +
+                                         (dataType == DataTypes::means ? "Means" : "Binary");
+                for (const bool newDf : {false, true})
+                    benchmark::RegisterBenchmark((name + (newDf ? "/new_df" : "/same_df")).c_str(),
+                                                 silentRefresh, levels, randomized, dataType, newDf);
+            }
+        }
+    }
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+    registerAll();
+    benchmark::Initialize(&argc, argv);
+    benchmark::RunSpecifiedBenchmarks();
+    return 0;
+}

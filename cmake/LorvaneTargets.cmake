@@ -1,0 +1,36 @@
+# How every target of the project is made: language level, warnings, sanitizers, one library a folder.
+
+find_program(CCACHE_PROGRAM ccache)
+if(CCACHE_PROGRAM)
+    set(CMAKE_CXX_COMPILER_LAUNCHER ${CCACHE_PROGRAM})
+endif()
+
+option(LORVANE_SANITIZE "Build with the address and undefined-behaviour sanitizers" OFF)
+
+add_library(lorvane_options INTERFACE)
+target_compile_features(lorvane_options INTERFACE cxx_std_20)
+target_include_directories(lorvane_options INTERFACE ${CMAKE_SOURCE_DIR}/src)
+target_compile_options(lorvane_options INTERFACE
+    -Wall -Wextra -Wpedantic -Wshadow -Wconversion -Wnon-virtual-dtor -Werror -ffp-contract=off)
+if(LORVANE_SANITIZE)
+    target_compile_options(lorvane_options INTERFACE
+        -fsanitize=address,undefined -fno-sanitize-recover=all -fno-omit-frame-pointer)
+    target_link_options(lorvane_options INTERFACE -fsanitize=address,undefined)
+endif()
+
+# lorvane_library(name SOURCES a.cpp ... LIBRARIES lorvane_base ...): the library of one folder of src/.
+function(lorvane_library name)
+    cmake_parse_arguments(ARG "" "" "SOURCES;LIBRARIES" ${ARGN})
+    add_library(${name} STATIC ${ARG_SOURCES})
+    target_link_libraries(${name} PUBLIC lorvane_options ${ARG_LIBRARIES})
+endfunction()
+
+# lorvane_test(name SOURCES a.cpp ... LIBRARIES lorvane_engine ...): one GoogleTest program.
+function(lorvane_test name)
+    cmake_parse_arguments(ARG "" "" "SOURCES;LIBRARIES" ${ARGN})
+    add_executable(${name} ${ARG_SOURCES})
+    target_link_libraries(${name} PRIVATE lorvane_options ${ARG_LIBRARIES} GTest::gtest_main)
+    target_include_directories(${name} PRIVATE ${CMAKE_SOURCE_DIR}/tests)
+    target_compile_definitions(${name} PRIVATE LORVANE_TEST_DATA="${CMAKE_SOURCE_DIR}/tests/data")
+    add_test(NAME ${name} COMMAND ${name})
+endfunction()

@@ -1,0 +1,102 @@
+// Makes one of everything on given platform interfaces and wires it. The desktop, the command line and the
+// tests all act through it.
+#pragma once
+
+#include <span>
+#include <stdexcept>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "persistence/scenario_grid.h"
+#include "persistence/scenario_list.h"
+#include "platform/control_registry.h"
+#include "platform/distribution_library.h"
+#include "platform/file_store.h"
+#include "platform/system_locale.h"
+#include "screen/design.h"
+#include "screen/study_fields.h"
+
+namespace lorvane {
+
+/// What the outside gives to the program.
+struct Platform {
+    DistributionLibrary& distributions;
+    const SystemLocale& locale;
+    FileStore& files;
+};
+
+/// A name or a value that the program does not take; one sentence that names it.
+class UseProblem : public std::runtime_error {
+public:
+    using std::runtime_error::runtime_error;
+};
+
+/// A field by name with its new value.
+struct Assignment {
+    std::string name;
+    FieldValue value;
+};
+
+class Application {
+public:
+    explicit Application(const Platform& platform);
+    Application(const Application&) = delete;
+    Application& operator=(const Application&) = delete;
+
+    /// Starts from a new study and writes the values at once, as opening a file with them would: what no
+    /// dialog offers is taken. Then one refresh. Throws UseProblem or ArithmeticFault and changes nothing
+    /// then.
+    void load(std::span<const Assignment> values);
+
+    /// Writes values into the study as dialogs would, within their limits; design choices first, whatever
+    /// their order, each by its operation; then one refresh. Throws UseProblem or ArithmeticFault and changes
+    /// nothing then.
+    void set(std::span<const Assignment> values);
+
+    /// A field's value from its text, by the kind of the field. Throws UseProblem for an unknown field, with
+    /// the nearest known name, and for a text that does not spell a value.
+    Assignment parse(const std::string& name, const std::string& text) const;
+
+    /// Opens a study file: all scenarios, and the state of the screen when it was saved. Throws FileProblem
+    /// or ArithmeticFault and changes nothing then.
+    void open(const std::string& path);
+
+    /// Saves the study with its scenarios. Throws FileProblem; the file that was there stays then.
+    void save(const std::string& path);
+
+    /// Puts a scenario of the study on the screen. Throws UseProblem when there is none of that name, with
+    /// the names that there are.
+    void restoreScenario(const std::string& name);
+
+    std::vector<ScenarioLine> scenarios() const { return scenarioLines(scenarios_); }
+    const ScenarioGrid& scenarioGrid() const noexcept { return scenarios_; }
+
+    /// Whether the last refresh gave a power. A risk ratio and two risks have no test of their own.
+    bool hasPower() const;
+
+    /// Why the study gives no power, in the words of the window that tells it; needs a study without power.
+    std::string whyNoPower() const;
+
+    const ControlRegistry& names() const noexcept { return names_; }
+    const Grid* grid(std::string_view name) const { return names_.grid(name); }
+    const Design& design() const noexcept { return design_; }
+    const StudyFields& fields() const noexcept { return fields_; }
+
+private:
+    const StudyField& knownField(const std::string& name) const;
+    enum class Kind { choices, values };
+    void check(std::span<const Assignment> values, Kind kind, ValueSource source) const;
+    void applyChoices(std::span<const Assignment> values);
+    void write(std::span<const Assignment> values);
+    template <typename Change>
+    void changeOrUndo(Change change);
+
+    Platform platform_;
+    Design design_;
+    StudyFields fields_;
+    ScenarioGrid scenarios_;
+    ControlRegistry names_;
+};
+
+}  // namespace lorvane

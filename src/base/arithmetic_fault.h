@@ -1,0 +1,38 @@
+// The one failure that a computation can raise: arithmetic that cannot go on.
+// Knows nothing of studies; carries only the name of the routine that stopped.
+#pragma once
+
+#include <cmath>
+#include <initializer_list>
+#include <stdexcept>
+#include <string>
+
+namespace lorvane {
+
+/// Thrown when a formula meets a square root of a negative number, a division by zero, a NaN or an
+/// overflow. Searches and graphs put their study back and let it pass; the outermost handler tells the user.
+class ArithmeticFault : public std::runtime_error {
+public:
+    explicit ArithmeticFault(const char* routine)
+        : std::runtime_error(std::string("The arithmetic of ") + routine +
+                             " cannot go on with these values; please modify the values entered last."),
+          routine_(routine) {}
+
+    /// Name of the routine that stopped, a string literal.
+    const char* routine() const noexcept { return routine_; }
+
+private:
+    const char* routine_;
+};
+
+/// Passes when every value is finite, and throws ArithmeticFault for the routine otherwise.
+/// A routine lists its intermediate results here: a division by zero or a root of a negative number
+/// always leaves an infinity or a NaN in one of them.
+inline void requireFinite(const char* routine, std::initializer_list<double> values) {
+    for (const double value : values) {
+        if (!std::isfinite(value))
+            throw ArithmeticFault(routine);
+    }
+}
+
+}  // namespace lorvane

@@ -1,0 +1,63 @@
+// Names of controls and fields.
+#include "base/names.h"
+
+#include <algorithm>
+#include <charconv>
+#include <limits>
+#include <vector>
+
+#include "base/number_text.h"
+
+namespace lorvane {
+
+namespace {
+
+std::size_t editDistance(const std::string& a, const std::string& b) {
+    std::vector<std::size_t> row(b.size() + 1);
+    for (std::size_t j = 0; j <= b.size(); ++j)
+        row[j] = j;
+    for (std::size_t i = 1; i <= a.size(); ++i) {
+        std::size_t diagonal = row[0];
+        row[0] = i;
+        for (std::size_t j = 1; j <= b.size(); ++j) {
+            const std::size_t replaced = diagonal + (a[i - 1] == b[j - 1] ? 0 : 1);
+            diagonal = row[j];
+            row[j] = std::min({row[j] + 1, row[j - 1] + 1, replaced});
+        }
+    }
+    return row[b.size()];
+}
+
+}  // namespace
+
+IndexedName splitName(std::string_view name) {
+    const std::size_t open = name.rfind('(');
+    if (open == std::string_view::npos || open == 0 || name.back() != ')')
+        return {name, std::nullopt};
+    const std::string_view digits = name.substr(open + 1, name.size() - open - 2);
+    int index = 0;
+    const auto result = std::from_chars(digits.data(), digits.data() + digits.size(), index);
+    if (result.ec != std::errc() || result.ptr != digits.data() + digits.size())
+        return {name, std::nullopt};
+    return {name.substr(0, open), index};
+}
+
+std::string indexedName(std::string_view stem, int index) {
+    return std::string(stem) + "(" + std::to_string(index) + ")";
+}
+
+std::string nearestName(std::string_view name, std::span<const std::string> known) {
+    const std::string wanted = lowerCased(name);
+    std::string best;
+    std::size_t fewest = std::numeric_limits<std::size_t>::max();
+    for (const std::string& candidate : known) {
+        const std::size_t edits = editDistance(wanted, lowerCased(candidate));
+        if (edits < fewest) {
+            fewest = edits;
+            best = candidate;
+        }
+    }
+    return best;
+}
+
+}  // namespace lorvane

@@ -1,0 +1,27 @@
+// Names of controls and fields as people write them: "txtNT(2)" is the stem "txtNT" at index 2.
+#pragma once
+
+#include <optional>
+#include <span>
+#include <string>
+#include <string_view>
+
+namespace lorvane {
+
+/// A name taken apart; index is empty where the name carries none.
+struct IndexedName {
+    std::string_view stem;
+    std::optional<int> index;
+};
+
+/// "txtNT(2)" gives {"txtNT", 2}; "txtd" gives {"txtd"}. A malformed index stays part of the stem.
+IndexedName splitName(std::string_view name);
+
+/// The stem with its index, as in "txtNT(2)".
+std::string indexedName(std::string_view stem, int index);
+
+/// The known name with the fewest single-letter edits from the given one, upper and lower case being the
+/// same; empty when there are no known names.
+std::string nearestName(std::string_view name, std::span<const std::string> known);
+
+}  // namespace lorvane

@@ -1,0 +1,209 @@
+// A scripted session.
+#include "cli/drive.h"
+
+#include <array>
+#include <functional>
+#include <istream>
+#include <nlohmann/json.hpp>
+#include <ostream>
+#include <vector>
+
+#include "base/arithmetic_fault.h"
+#include "base/names.h"
+#include "base/number_text.h"
+#include "cli/json_text.h"
+#include "cli/script_words.h"
+#include "platform/file_store.h"
+
+namespace lorvane {
+
+namespace {
+
+using Json = nlohmann::ordered_json;
+
+struct Session {
+    Application& application;
+    DistributionLibrary& distributions;
+};
+
+Json done() { return {{"ok", true}}; }
+
+FieldValue fieldValueOf(const std::string& name, const Json& value) {
+    if (value.is_boolean())
+        return value.get<bool>();
+    if (value.is_number())
+        return value.get<double>();
+    if (value.is_string())
+        return value.get<std::string>();
+    throw UseProblem(name + " takes a number, a text, or true or false.");
+}
+
+Json load(Session& session, ScriptWords& words) {
+    const Json fields = Json::parse(words.rest(), nullptr, false);
+    if (!fields.is_object())
+        throw UseProblem("load takes one JSON object, such as load {\"txtd\": 0.5}.");
+    std::vector<Assignment> values;
+    for (const auto& [name, value] : fields.items())
+        values.push_back({name, fieldValueOf(name, value)});
+    session.application.load(values);
+    return done();
+}
+
+Json set(Session& session, ScriptWords& words) {
+    const std::string name = words.need("The name of a field");
+    const std::string text = words.rest();
+    const std::array values = {session.application.parse(name, text)};
+    session.application.set(values);
+    return done();
+}
+
+Json get(Session& session, ScriptWords& words) {
+    const ControlRegistry& registry = session.application.names();
+    Json answer = Json::object();
+    while (const auto name = words.next()) {
+        const auto value = registry.read(*name);
+        if (!value)
+            throw UseProblem("There is no name \"" + *name + "\"; the nearest is \"" +
+                             nearestName(*name, registry.names()) + "\".");
+        answer[*name] = jsonOf(*value);
+    }
+    if (answer.empty())
+        throw UseProblem("get takes at least one name.");
+    return answer;
+}
+
+Json names(Session& session, ScriptWords& words) {
+    const std::string prefix = words.rest();
+    Json answer = Json::array();
+    for (const std::string& name : session.application.names().names()) {
+        if (name.starts_with(prefix))
+            answer.push_back(name);
+    }
+    return answer;
+}
+
+Json state(Session& session, ScriptWords&) {
+    const ControlRegistry& registry = session.application.names();
+    Json answer = Json::object();
+    for (const std::string& name : registry.names())
+        answer[name] = jsonOf(*registry.read(name));
+    return answer;
+}
+
+// Nothing that a script can do so far asks anything in a message box or a file dialog.
+Json messages(Session&, ScriptWords&) { return Json::array(); }
+
+Json grid(Session& session, ScriptWords& words) {
+    const std::string name = words.need("The name of a grid");
+    const ControlRegistry& registry = session.application.names();
+    if (const Grid* table = registry.grid(name))
+        return jsonOf(*table);
+    throw UseProblem("There is no grid \"" + name + "\"; the nearest is \"" +
+                     nearestName(name, registry.gridNames()) + "\".");
+}
+
+Json save(Session& session, ScriptWords& words) {
+    session.application.save(words.rest());
+    return done();
+}
+
+Json open(Session& session, ScriptWords& words) {
+    session.application.open(words.rest());
+    return done();
+}
+
+double needNumber(ScriptWords& words, const char* what) {
+    const std::string word = words.need(what);
+    if (const auto number = readNumber(word))
+        return *number;
+    throw UseProblem(std::string(what) + " must be a number, not \"" + word + "\".");
+}
+
+Json valueOf(double value) { return {{"value", value}}; }
+
+Json dist(Session& session, ScriptWords& words) {
+    DistributionLibrary& library = session.distributions;
+    const std::string function = words.need("The name of a distribution function");
+    double value = 0;
+    if (function == "normal") {
+        library.VBDNORDF(needNumber(words, "X"), value);
+        return valueOf(value);
+    }
+    if (function == "normal-inverse") {
+        library.VBDNORIN(needNumber(words, "P"), value);
+        return valueOf(value);
+    }
+    if (function == "t-inverse") {
+        const double p = needNumber(words, "P");
+        library.VBDTIN(p, needNumber(words, "DF"), value);
+        return valueOf(value);
+    }
+    if (function == "noncentral-t") {
+        const double t = needNumber(words, "T");
+        const double df = needNumber(words, "DF");
+        const double lambda = needNumber(words, "LAMBDA");
+        library.VBDTNDF(t, df, lambda, value);
+        double upper = 1 - value;
+        double unused = 0;
+        if (t >= 0)
+            library.NoncentralTTails(t, df, lambda, upper, unused);
+        return {{"value", value}, {"upper", upper}};
+    }
+    throw UseProblem("There is no distribution function \"" + function +
+                     "\"; there are normal, normal-inverse, t-inverse and noncentral-t.");
+}
+
+struct Command {
+    std::string_view name;
+    Json (*run)(Session&, ScriptWords&);
+};
+
+constexpr Command commands[] = {{"load", load},   {"set", set},           {"get", get},   {"names", names},
+                                {"state", state}, {"messages", messages}, {"grid", grid}, {"save", save},
+                                {"open", open},   {"dist", dist}};
+
+Json run(Session& session, std::string_view line) {
+    ScriptWords words(line);
+    const std::string name = words.need("A command");
+    for (const Command& command : commands) {
+        if (command.name == name)
+            return command.run(session, words);
+    }
+    throw UseProblem("There is no command \"" + name + "\".");
+}
+
+Json errorOf(const std::exception& problem) { return {{"error", problem.what()}}; }
+
+Json runOrError(Session& session, std::string_view line) {
+    try {
+        return run(session, line);
+    } catch (const UseProblem& problem) {
+        return errorOf(problem);
+    } catch (const FileProblem& problem) {
+        return errorOf(problem);
+    } catch (const ArithmeticFault& fault) {
+        return errorOf(fault);
+    }
+}
+
+}  // namespace
+
+std::string answerTo(std::string_view line, Application& application, DistributionLibrary& distributions) {
+    const std::string_view command = trimmed(line);
+    if (command.empty() || command.front() == '#')
+        return "";
+    Session session{application, distributions};
+    return jsonText(runOrError(session, command));
+}
+
+void drive(std::istream& in, std::ostream& out, Application& application,
+           DistributionLibrary& distributions) {
+    std::string line;
+    while (std::getline(in, line)) {
+        const std::string answer = answerTo(line, application, distributions);
+        if (!answer.empty())
+            out << answer << '\n' << std::flush;
+    }
+}
+
+}  // namespace lorvane

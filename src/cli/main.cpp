@@ -1,0 +1,114 @@
+// lorvane-cli: the program without a screen.
+#include <CLI/CLI.hpp>
+#include <functional>
+#include <iostream>
+
+#include "app/application.h"
+#include "base/arithmetic_fault.h"
+#include "cli/commands.h"
+#include "cli/drive.h"
+#include "numerics/numeric_distribution_library.h"
+#include "os/disk_file_store.h"
+#include "os/environment_locale.h"
+
+namespace {
+
+using namespace lorvane;
+
+struct Requests {
+    PowerRequest power;
+    NewRequest fresh;
+    ScenariosRequest scenarios;
+    std::string driven;
+};
+
+constexpr const char* setHelp = "Give a field or a design choice a value; may be repeated";
+
+void addPower(CLI::App& cli, PowerRequest& request) {
+    CLI::App* command = cli.add_subcommand("power", "Power and cost of a study");
+    command->add_option("STUDY", request.study, "Study file")->required();
+    command->add_option("--set", request.settings, setHelp)
+        ->type_name("FIELD=VALUE")
+        ->allow_extra_args(false);
+    command->add_option("--scenario", request.scenario, "Answer for this scenario of the file")
+        ->type_name("NAME");
+    command->add_flag("--json", request.json, "Answer with one JSON object");
+    command->footer(
+        "Example:\n  lorvane-cli power schools.Lorvane --set \"txtNT(3)=24\" --set \"txtNC(3)=24\"");
+}
+
+void addNew(CLI::App& cli, NewRequest& request) {
+    CLI::App* command = cli.add_subcommand("new", "A study file from the start values");
+    command->add_option("--out", request.out, "Study file to write")->required()->type_name("STUDY");
+    command->add_option("--set", request.settings, setHelp)
+        ->type_name("FIELD=VALUE")
+        ->allow_extra_args(false);
+    command->footer("Example:\n  lorvane-cli new --out trial.Lorvane --set NumLevels=3 --set txtd=0.4");
+}
+
+void addScenarios(CLI::App& cli, ScenariosRequest& request) {
+    CLI::App* command = cli.add_subcommand("scenarios", "The table of scenarios of a study");
+    command->add_option("STUDY", request.study, "Study file")->required();
+    command->add_flag("--json", request.json, "Answer with one JSON object");
+    command->footer("Example:\n  lorvane-cli scenarios schools.Lorvane");
+}
+
+void addDrive(CLI::App& cli, std::string& study) {
+    CLI::App* command =
+        cli.add_subcommand("drive", "A scripted session: one command a line from standard input");
+    command->add_option("STUDY", study, "Study file to start from");
+    command->footer("Example:\n  echo 'get txtPower' | lorvane-cli drive schools.Lorvane");
+}
+
+int runChosen(const CLI::App& cli, const Requests& requests) {
+    NumericDistributionLibrary distributions;
+    const EnvironmentLocale locale;
+    DiskFileStore files;
+    Application application({distributions, locale, files});
+    if (cli.got_subcommand("power"))
+        return printPower(requests.power, application, std::cout, std::cerr);
+    if (cli.got_subcommand("new"))
+        return makeNew(requests.fresh, application, std::cout);
+    if (cli.got_subcommand("scenarios"))
+        return printScenarios(requests.scenarios, application, std::cout);
+    if (!requests.driven.empty())
+        application.open(requests.driven);
+    drive(std::cin, std::cout, application, distributions);
+    return ExitCodes::done;
+}
+
+int failed(int code, const std::exception& problem) {
+    std::cerr << problem.what() << '\n';
+    return code;
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+    CLI::App cli("Lorvane plans cluster-randomized trials: power and cost of designs of two to four levels.",
+                 "lorvane-cli");
+    Requests requests;
+    cli.set_version_flag("--version", "Lorvane " LORVANE_VERSION);
+    cli.require_subcommand(1);
+    cli.footer("Example:\n  lorvane-cli power schools.Lorvane\n"
+               "Exit codes: 0 done, 1 the study gives no answer, 2 wrong use, 3 a file could not be read or "
+               "written.");
+    addPower(cli, requests.power);
+    addNew(cli, requests.fresh);
+    addScenarios(cli, requests.scenarios);
+    addDrive(cli, requests.driven);
+    try {
+        cli.parse(argc, argv);
+    } catch (const CLI::ParseError& error) {
+        return cli.exit(error) == 0 ? ExitCodes::done : ExitCodes::wrongUse;
+    }
+    try {
+        return runChosen(cli, requests);
+    } catch (const UseProblem& problem) {
+        return failed(ExitCodes::wrongUse, problem);
+    } catch (const FileProblem& problem) {
+        return failed(ExitCodes::fileFailed, problem);
+    } catch (const ArithmeticFault& fault) {
+        return failed(ExitCodes::noAnswer, fault);
+    }
+}

@@ -1,0 +1,51 @@
+// Total cost of the nine designs: for every level the number of units in the whole study times the cost of
+// one, rounded to a whole number a product, summed in 32 bits.
+#include "base/money.h"
+#include "engine/design_routines.h"
+
+namespace lorvane {
+
+namespace {
+
+// The levels are walked from the top down: a blocked level has one kind of unit, a level from the
+// randomized one down has units in each arm, counted over all blocks.
+std::int32_t totalCost(const Study& s, int NumLevels, int RandomizedLevel) {
+    MoneySum sum;
+    double blocks = 1;
+    for (int level = NumLevels; level > RandomizedLevel; --level) {
+        blocks *= s.txtNB(level);
+        sum.add(s.txtCostB(level) * blocks);
+    }
+    double treated = blocks;
+    double control = blocks;
+    for (int level = RandomizedLevel; level >= 1; --level) {
+        treated *= s.txtNT(level);
+        control *= s.txtNC(level);
+        sum.add(s.txtCostT(level) * treated);
+        sum.add(s.txtCostC(level) * control);
+    }
+    return sum.total();
+}
+
+void writeCost(Study& s, int NumLevels, int RandomizedLevel) {
+    try {
+        s.result.txtCost = totalCost(s, NumLevels, RandomizedLevel);
+    } catch (const MoneyOverflow&) {
+        s.result.txtCost = 0;
+        s.result.txtCostProblem = 1;
+    }
+}
+
+}  // namespace
+
+void ComputeTwoLevelHDCost(Study& s) { writeCost(s, 2, 2); }
+void ComputeThreeLevelHDCost(Study& s) { writeCost(s, 3, 3); }
+void ComputeFourLevelHDCost(Study& s) { writeCost(s, 4, 4); }
+void ComputeTwoLevelRBStudentsCost(Study& s) { writeCost(s, 2, 1); }
+void ComputeThreeLevelRBStudentsCost(Study& s) { writeCost(s, 3, 1); }
+void ComputeFourLevelRBStudentsCost(Study& s) { writeCost(s, 4, 1); }
+void ComputeThreeLevelRBClassesCost(Study& s) { writeCost(s, 3, 2); }
+void ComputeFourLevelRBClassesCost(Study& s) { writeCost(s, 4, 2); }
+void ComputeFourLevelRBTeachersCost(Study& s) { writeCost(s, 4, 3); }
+
+}  // namespace lorvane

@@ -1,0 +1,38 @@
+// Degrees of freedom of the nine designs: those of the test, and those that every level must have.
+// Means and binary outcomes share them; a binary study passes 0 for the covariates of level 1 (Q1).
+#pragma once
+
+#include <optional>
+
+#include "engine/study.h"
+
+namespace lorvane {
+
+/// Degrees of freedom of the test of a hierarchical design: units of the top level in both arms, less 2, less
+/// the covariates of that level.
+double dfHierarchical(const Study& study);
+
+/// Degrees of freedom of the test of a randomized-block design. Nothing when a sampling model that decides is
+/// neither random (0 or 2) nor fixed (1).
+using TestDf = std::optional<double>;
+
+TestDf dfTwoLevelRBStudents(const Study& study, double Q1);
+TestDf dfThreeLevelRBStudents(const Study& study, double Q1);
+TestDf dfFourLevelRBStudents(const Study& study, double Q1);
+TestDf dfThreeLevelRBClasses(const Study& study);
+TestDf dfFourLevelRBClasses(const Study& study);
+TestDf dfFourLevelRBTeachers(const Study& study);
+
+/// The checks of a design: the df of the test, the df of each level from the top down, whatever the sampling
+/// models are, and the covariates of each level.
+void checkTwoLevelHD(Study& study, double Q1);
+void checkThreeLevelHD(Study& study, double Q1);
+void checkFourLevelHD(Study& study, double Q1);
+void checkTwoLevelRBStudents(Study& study, double Q1);
+void checkThreeLevelRBStudents(Study& study, double Q1);
+void checkFourLevelRBStudents(Study& study, double Q1);
+void checkThreeLevelRBClasses(Study& study, double Q1);
+void checkFourLevelRBClasses(Study& study, double Q1);
+void checkFourLevelRBTeachers(Study& study, double Q1);
+
+}  // namespace lorvane

@@ -1,0 +1,19 @@
+// The three checks that belong to the power computation. A check clears its flag and never sets one.
+#pragma once
+
+#include "engine/study.h"
+
+namespace lorvane {
+
+/// Clears xValidDF(level) when the degrees of freedom of a level lie below 0. A tolerance of 1e-7 keeps
+/// degrees of freedom that were computed from whole numbers from failing by rounding.
+void CheckDF(Study& study, double df, int level);
+
+/// Clears xValidTestdf when the degrees of freedom of the test lie below 1, with the same tolerance.
+void CheckTestDF(Study& study, double df);
+
+/// Clears xValidQ(level) when R-squared is above 0 without covariates. Level 1 of a binary study has no
+/// covariates and passes.
+void CheckQ(Study& study, double rSquared, double covariates, int level);
+
+}  // namespace lorvane

@@ -1,0 +1,17 @@
+// Files on the disk of a POSIX system.
+#pragma once
+
+#include "platform/file_store.h"
+
+namespace lorvane {
+
+class DiskFileStore final : public FileStore {
+public:
+    std::string read(const std::string& path, std::size_t largest) const override;
+
+    /// A symbolic link stays, and the file that it points to is replaced. The new file keeps the permissions
+    /// of the old one.
+    void replace(const std::string& path, std::string_view content) override;
+};
+
+}  // namespace lorvane

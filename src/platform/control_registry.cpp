@@ -1,0 +1,60 @@
+// Every control by its name.
+#include "platform/control_registry.h"
+
+#include <utility>
+
+namespace lorvane {
+
+namespace {
+
+struct ReadSource {
+    ControlValue operator()(const double* value) const { return *value; }
+    ControlValue operator()(const int* value) const { return static_cast<double>(*value); }
+    ControlValue operator()(const bool* value) const { return *value; }
+    ControlValue operator()(const std::string* value) const { return *value; }
+    ControlValue operator()(const Colour* value) const { return *value; }
+    ControlValue operator()(const Alignment* value) const {
+        return static_cast<double>(static_cast<int>(*value));
+    }
+};
+
+}  // namespace
+
+void ControlRegistry::add(std::string name, ControlSource source) {
+    names_.push_back(name);
+    sources_.emplace(std::move(name), source);
+}
+
+void ControlRegistry::add(const std::string& name, const Panel& panel) {
+    add(name + ".Caption", &panel.Caption);
+    add(name + ".Visible", &panel.Visible);
+    add(name + ".Alignment", &panel.Align);
+    add(name + ".ForeColor", &panel.ForeColor);
+    add(name + ".BackColor", &panel.BackColor);
+    add(name + ".Flood", &panel.Flood);
+}
+
+void ControlRegistry::add(const std::string& name, const Button& button) {
+    add(name + ".Caption", &button.Caption);
+    add(name + ".Visible", &button.Visible);
+    add(name + ".Enabled", &button.Enabled);
+}
+
+void ControlRegistry::addGrid(std::string name, const Grid& grid) {
+    gridNames_.push_back(name);
+    grids_.emplace(std::move(name), &grid);
+}
+
+std::optional<ControlValue> ControlRegistry::read(std::string_view name) const {
+    const auto found = sources_.find(name);
+    if (found == sources_.end())
+        return std::nullopt;
+    return std::visit(ReadSource(), found->second);
+}
+
+const Grid* ControlRegistry::grid(std::string_view name) const {
+    const auto found = grids_.find(name);
+    return found == grids_.end() ? nullptr : found->second;
+}
+
+}  // namespace lorvane

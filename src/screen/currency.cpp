@@ -1,0 +1,33 @@
+// Money as text.
+#include "screen/currency.h"
+
+#include "base/number_text.h"
+
+namespace lorvane {
+
+Currency detectCurrency(const SystemLocale& locale) {
+    const std::string zero = locale.currencyOfZero();
+    std::string rest;
+    for (const char c : zero) {
+        if (c != '0' && c != '.' && c != ',')
+            rest += c;
+    }
+    Currency currency{std::string(trimmed(rest))};
+    const bool standsBehind = !currency.Symbol.empty() && zero.find(currency.Symbol) > zero.find('0');
+    currency.Position = standsBehind ? CurrencyPositions::after : CurrencyPositions::before;
+    return currency;
+}
+
+std::string ReFormatCurrency(std::int32_t amount, const Currency& currency) {
+    const std::string text = groupedText(amount);
+    switch (currency.Position) {
+    case CurrencyPositions::before:
+        return currency.Symbol + text;
+    case CurrencyPositions::after:
+        return text + currency.Symbol;
+    default:
+        return "";
+    }
+}
+
+}  // namespace lorvane

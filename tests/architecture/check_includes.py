@@ -1,0 +1,115 @@
+"""Reads the includes of src/ and fails on any that breaks the order of the floors.
+
+A folder includes only what MAY_INCLUDE allows, no two files include each other, directly or round about, and
+below the edge nothing but the standard library comes from outside.
+"""
+
+import re
+import sys
+from pathlib import Path
+
+GROUND = {"base", "platform"}
+ENGINE = GROUND | {"engine"}
+VALIDATION = ENGINE | {"validation"}
+SCREEN = VALIDATION | {"screen"}
+CORE = SCREEN | {"persistence"}
+
+MAY_INCLUDE = {
+    "base": set(),
+    "platform": {"base"},
+    "numerics": {"platform"},
+    "engine": GROUND,
+    "validation": ENGINE,
+    "screen": VALIDATION,
+    "persistence": SCREEN,
+    "app": CORE,
+    "os": GROUND,
+    "cli": CORE | {"numerics", "app", "os"},
+}
+# The distribution functions see one header of the platform alone.
+NUMERICS_MAY_SEE = {"platform/distribution_library.h"}
+
+FOREIGN = {"os": re.compile(r"fcntl\.h|unistd\.h|sys/stat\.h"), "cli": re.compile(r"CLI/|nlohmann/")}
+STANDARD = re.compile(r"c?[a-z_0-9]+$")
+INCLUDE = re.compile(r'^\s*#\s*include\s*([<"])([^>"]+)[>"]')
+
+
+def includes(path):
+    for number, line in enumerate(path.read_text(encoding="utf-8").splitlines(), 1):
+        found = INCLUDE.match(line)
+        if found:
+            yield number, found.group(1) == "<", found.group(2)
+
+
+def problem_with(folder, is_foreign, name):
+    if is_foreign:
+        allowed = FOREIGN.get(folder)
+        if STANDARD.match(name) or (allowed and allowed.match(name)):
+            return None
+        return f"{name} is not part of the standard library"
+    target = name.split("/")[0]
+    if folder == "numerics" and target == "platform" and name not in NUMERICS_MAY_SEE:
+        return f"numerics/ may not see {name}"
+    if target != folder and target not in MAY_INCLUDE[folder]:
+        return f"{folder}/ may not include {target}/"
+    return None
+
+
+def find_cycle(graph):
+    done, path = set(), []
+
+    def visit(node):
+        if node in path:
+            return path[path.index(node):] + [node]
+        if node in done:
+            return None
+        path.append(node)
+        for following in graph.get(node, ()):
+            cycle = visit(following)
+            if cycle:
+                return cycle
+        path.pop()
+        done.add(node)
+        return None
+
+    for start in graph:
+        cycle = visit(start)
+        if cycle:
+            return cycle
+    return None
+
+
+def check(root):
+    problems, graph = [], {}
+    for path in sorted(root.rglob("*")):
+        if path.suffix not in {".h", ".cpp"}:
+            continue
+        own = path.relative_to(root).as_posix()
+        folder = own.split("/")[0]
+        if folder not in MAY_INCLUDE:
+            problems.append(f"{own}: the folder {folder}/ has no floor")
+            continue
+        graph[own] = []
+        for number, is_foreign, name in includes(path):
+            problem = problem_with(folder, is_foreign, name)
+            if problem:
+                problems.append(f"{own}:{number}: {problem}")
+            if not is_foreign:
+                graph[own].append(name)
+                if not (root / name).is_file():
+                    problems.append(f"{own}:{number}: {name} does not exist")
+    cycle = find_cycle(graph)
+    if cycle:
+        problems.append("files include each other: " + " -> ".join(cycle))
+    return problems, len(graph)
+
+
+def main():
+    problems, files = check(Path(sys.argv[1]))
+    print("\n".join(problems))
+    print(f"{files} files, {len(problems)} problems")
+    return 1 if problems or files == 0 else 0
+
+
+if __name__ == "__main__":
+    sys.exit(main())

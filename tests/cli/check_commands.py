@@ -1,0 +1,88 @@
+"""Runs lorvane-cli as a person or a script would: arguments in, exit code and streams out."""
+
+import json
+import subprocess
+import sys
+import tempfile
+from pathlib import Path
+
+PROGRAM, EXAMPLES = sys.argv[1], Path(sys.argv[2])
+STUDY = str(EXAMPLES / "schools.Lorvane")
+
+
+def run(*arguments, text=""):
+    done = subprocess.run([PROGRAM, *arguments], input=text, capture_output=True, text=True, timeout=60)
+    return done.returncode, done.stdout, done.stderr
+
+
+def check_answers(folder):
+    code, out, _ = run("power", STUDY)
+    assert code == 0 and "Power" in out and "Degrees of freedom  14" in out and "Cost" in out, out
+    code, out, _ = run("power", STUDY, "--scenario", "20 schools", "--json")
+    answer = json.loads(out)
+    assert code == 0 and answer["valid"] and answer["df"] == 18 and 0.86 < answer["power"] < 0.87, out
+    code, out, _ = run("scenarios", STUDY)
+    assert code == 0 and len(out.splitlines()) == 4 and "No pretest" in out, out
+    code, out, _ = run("scenarios", STUDY, "--json")
+    assert [row["name"] for row in json.loads(out)["scenarios"]] == ["16 schools", "No pretest", "20 schools"]
+    new = str(Path(folder) / "new.Lorvane")
+    code, out, _ = run("new", "--out", new, "--set", "txtd=0.4", "--set", "ICC Metric=1", "--set", "NumLevels=3",
+                       "--set", "RandomizedLevel=2", "--set", "txtName(1)=Patients")
+    assert code == 0, out
+    code, out, _ = run("drive", new, text='get NumLevels RandomizedLevel txtd txtName(1) "ICC Metric"\n')
+    assert json.loads(out) == {"NumLevels": 3, "RandomizedLevel": 2, "txtd": 0.4, "txtName(1)": "Patients",
+                               "ICC Metric": 1}, out
+
+
+def check_no_answer():
+    code, out, err = run("power", STUDY, "--set", "txtNB(3)=1")
+    assert code == 1 and "Cost" in out and err.startswith("There are insufficient degrees of freedom. "), err
+    code, out, err = run("power", STUDY, "--json", "--set", "txtICC(2)=0.95")
+    assert code == 1 and json.loads(out)["power"] is None and "sum of the ICCs" in err, err
+    code, out, err = run("power", STUDY, "--set", "DataType=2", "--set", "BinaryType=2")
+    assert code == 1 and "has no test" in err, err
+
+
+WRONG_USE = [
+    (["power", STUDY, "--set", "txtNT(9)=3"], '"txtNT(9)"; the nearest is "txtNT(1)"'),
+    (["power", STUDY, "--set", "txtd=much"], "txtd takes a number"),
+    (["power", STUDY, "--set", "txtd"], "FIELD=VALUE"),
+    (["power", STUDY, "--set", "txtAlpha=2"], "txtAlpha must lie from 0.001 to 0.49"),
+    (["power", STUDY, "--set", "NumLevels=7"], "NumLevels must be 2, 3 or 4"),
+    (["power", STUDY, "--set", "RandomizedLevel=4"], "RandomizedLevel"),
+    (["power", STUDY, "--scenario", "20 school"], 'the nearest is "20 schools"'),
+    (["power", STUDY, "--colour"], "--colour"),
+    (["power"], "STUDY"),
+    (["paint"], ""),
+    ([], "subcommand"),
+]
+
+
+def check_failures(folder):
+    for arguments, words in WRONG_USE:
+        code, _, err = run(*arguments)
+        assert code == 2 and words in err, (arguments, code, err)
+    broken = Path(folder) / "broken.Lorvane"
+    broken.write_text("not,a,study\n")
+    for arguments, words in [(["power", "/no/such.Lorvane"], "/no/such.Lorvane"), (["power", folder], "folder"),
+                             (["scenarios", str(broken)], "row 1"), (["new", "--out", "/no/such/folder/x"], "/no/such")]:
+        code, out, err = run(*arguments)
+        assert code == 3 and words in err and len(err.splitlines()) == 1 and out == "", (arguments, code, err)
+
+
+def check_help():
+    for arguments in [["--help"], ["power", "--help"], ["new", "--help"], ["scenarios", "--help"], ["drive", "--help"]]:
+        code, out, _ = run(*arguments)
+        assert code == 0 and "Example:" in out, out
+    assert run("--version")[1].startswith("Lorvane ")
+
+
+def main():
+    with tempfile.TemporaryDirectory() as folder:
+        check_answers(folder)
+        check_failures(folder)
+    check_no_answer()
+    check_help()
+
+
+main()

@@ -1,0 +1,88 @@
+// A saved and reopened study is the same study, cell for cell and name for name.
+#include <gtest/gtest.h>
+
+#include "app/application.h"
+#include "persistence/study_file.h"
+#include "support/memory_file_store.h"
+#include "support/random_study.h"
+#include "support/test_library.h"
+
+namespace lorvane {
+namespace {
+
+std::vector<ControlValue> stateOf(const Application& application) {
+    std::vector<ControlValue> values;
+    for (const std::string& name : application.names().names()) {
+        if (name != "StudyDirty" && name != "CurrentFile" && !name.starts_with("window:"))
+            values.push_back(*application.names().read(name));
+    }
+    return values;
+}
+
+TEST(RoundTrip, RandomStudiesComeBackAsTheyWere) {
+    NumericDistributionLibrary library;
+    const FixedLocale locale;
+    MemoryFileStore files;
+    Application application({library, locale, files});
+    RandomStudies random(20260101);
+    int withPower = 0;
+    for (int i = 0; i < 3000; ++i) {
+        application.load(random.next());
+        application.save("study");
+        // A second save starts from the same screen as the reopened one.
+        const std::string first = files.files["study"];
+        const double power = application.design().study().result.txtPower;
+        withPower += application.hasPower();
+        application.load(std::vector<Assignment>{});
+        application.open("study");
+        ASSERT_EQ(application.design().study().result.txtPower, application.hasPower() ? power : 0);
+        application.save("study");
+        ASSERT_EQ(files.files["study"], first);
+    }
+    EXPECT_GT(withPower, 1000);
+}
+
+TEST(RoundTrip, TheScreenComesBackWithTheStudy) {
+    NumericDistributionLibrary library;
+    const FixedLocale locale;
+    MemoryFileStore files;
+    Application saved({library, locale, files});
+    RandomStudies random(77);
+    for (int i = 0; i < 200; ++i) {
+        saved.load(random.next());
+        saved.save("study");
+        Application opened({library, locale, files});
+        opened.open("study");
+        ASSERT_EQ(stateOf(opened), stateOf(saved));
+    }
+}
+
+TEST(RoundTrip, ScenariosKeepTheirOrderAndSummary) {
+    NumericDistributionLibrary library;
+    const FixedLocale locale;
+    MemoryFileStore files;
+    Application application({library, locale, files});
+    application.save("study");
+    ScenarioGrid grid = LoadGrid(files, "study");
+    const std::size_t base = grid.addBlock("Copy");
+    for (std::size_t k = 1; k <= ScenarioGrid::blockRows; ++k) {
+        for (std::size_t column = 1; column < ScenarioGrid::columns; ++column)
+            grid.setText(base + k, column, std::string(grid.text(k, column)));
+    }
+    grid.setText(base + 1, 22, "as it was");
+    grid.setText(base + 1, 23, "812.5");
+    grid.setText(base + 1, 24, "1234567");
+    SaveGrid(files, "study", grid);
+    application.open("study");
+    ASSERT_EQ(application.scenarios().size(), 1u);
+    const ScenarioLine line = application.scenarios()[0];
+    EXPECT_EQ(line.name, "Copy");
+    EXPECT_EQ(line.description, "as it was");
+    EXPECT_EQ(line.power, "0.813");
+    EXPECT_EQ(line.cost, "1,234,567");
+    EXPECT_NO_THROW(application.restoreScenario("Copy"));
+    EXPECT_THROW(application.restoreScenario("Kopy"), UseProblem);
+}
+
+}  // namespace
+}  // namespace lorvane

@@ -1,0 +1,29 @@
+// Files kept in memory.
+#pragma once
+
+#include <map>
+
+#include "platform/file_store.h"
+
+namespace lorvane {
+
+class MemoryFileStore final : public FileStore {
+public:
+    std::map<std::string, std::string> files;
+    bool full = false;
+
+    std::string read(const std::string& path, std::size_t largest) const override {
+        const auto found = files.find(path);
+        if (found == files.end() || found->second.size() > largest)
+            throw FileProblem("The file \"" + path + "\" cannot be read.");
+        return found->second;
+    }
+
+    void replace(const std::string& path, std::string_view content) override {
+        if (full)
+            throw FileProblem("The file \"" + path + "\" cannot be written.");
+        files[path] = content;
+    }
+};
+
+}  // namespace lorvane
