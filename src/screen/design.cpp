@@ -69,7 +69,7 @@ void Design::synchronise(bool Show, ComputeDisplay& display) {
     if (!Show)
         return;
     writeIccPanel(study_, verdict, iccPanel_);
-    spreadICC_ = iccTable(study_);
+    spreadICC_ = iccTable(study_, verdict.sumIsGood);
     writeTauSqPanel(study_, message, tauSqPanel_);
     spreadTauSq_ = tauSqTable(study_);
     if (study_.isHierarchical())

@@ -33,6 +33,12 @@ int decimalsOfSpan(const Study& s) {
     return spanOfRisks ? std::clamp(s.decimals.txtDRange, 1, 3) : s.decimals.txtDRange;
 }
 
+// A negative tau-squared, as a file can hold, is a problem that still shows.
+int showsTauSq(const EffectDispersion& effect, int level) {
+    const bool told = effect.ValidTauSq(level) == 1 || effect.txtTauSq(level) < 0;
+    return told ? effect.ShowTauSq(level) : 0;
+}
+
 }  // namespace
 
 void writeIccPanel(const Study& study, const IccVerdict& verdict, IccPanel& panel) {
@@ -53,7 +59,7 @@ void writeTauSqPanel(const Study& study, TauSqMessage message, TauSqPanel& panel
     for (int level = 2; level <= highestLevel; ++level) {
         const bool blocked = level <= study.NumLevels && study.isBlocked(level);
         panel.pnlTauSq(level).Caption =
-            shownIf(blocked ? effect.ValidTauSq(level) : 0, effect.txtTauSq(level), decimalsOfTauSq(study));
+            shownIf(blocked ? showsTauSq(effect, level) : 0, effect.txtTauSq(level), decimalsOfTauSq(study));
         panel.pnlWidth(level).Caption =
             shownIf(blocked ? effect.ValidSpan(level) : 0, effect.txtSpan(level), decimalsOfSpan(study));
         panel.pnlOmega(level).Caption =

@@ -35,7 +35,14 @@ void limitsOfOutcome(const Study& s, double span, double& lower, double& upper) 
     }
 }
 
-double sdOfLevel(const Study& s, int level) { return s.txtMRange(level) / spanOfOneSd; }
+// Risks that are entered as limits have the width of the limits, whatever span was entered before.
+double spanOfLevel(const Study& s, int level) {
+    const bool asLimits =
+        s.isBinary() && s.IccMetric == IccMetrics::span && s.limits.RangeMode == RangeModes::limits;
+    return asLimits ? s.limits.txtUL(level) - s.limits.txtLL(level) : s.txtMRange(level);
+}
+
+double sdOfLevel(const Study& s, int level) { return spanOfLevel(s, level) / spanOfOneSd; }
 
 double shareOfLevel(const Study& s, int level) {
     if (level > 1)
@@ -62,12 +69,12 @@ void limitsOfEffect(const Study& s, double span, double& lower, double& upper) {
     }
 }
 
-Grid::Row iccCells(const Study& s, int level) {
+Grid::Row iccCells(const Study& s, int level, bool sumIsGood) {
     using enum IccColumn;
     Grid::Row cells(iccColumns);
     const IccRow row = iccRow(s, level);
     cell(cells, Level) = s.txtName(level);
-    if (!row.told || !GetOkICC(s))
+    if (!row.told || !sumIsGood)
         return cells;
     const int decimals = s.isMeans() ? 2 : 3;
     cell(cells, ICCW) = shortestText(row.share);
@@ -170,10 +177,10 @@ Grid LoadSpreadTauSq() {
               "UL", "Example", "Omega"}}};
 }
 
-Grid iccTable(const Study& study) {
+Grid iccTable(const Study& study, bool sumIsGood) {
     Grid table = LoadSpreadICC();
     for (int level = study.NumLevels; level >= 1; --level)
-        table.rows.push_back(iccCells(study, level));
+        table.rows.push_back(iccCells(study, level, sumIsGood));
     return table;
 }
 

@@ -75,9 +75,9 @@ Grid LoadSpreadICC();
 Grid LoadSpreadTauSq();
 
 /// The tables with one row a level, the top level first. Numbers stand in their shortest text. A dispersion
-/// that is not valid leaves the names of the levels alone; the effect table of a hierarchical design has its
-/// headings alone.
-Grid iccTable(const Study& study);
+/// that cannot be told (a bad sum of the ICCs, an effect dispersion that is not valid) leaves the names of
+/// the levels alone; the effect table of a hierarchical design has its headings alone.
+Grid iccTable(const Study& study, bool sumIsGood);
 Grid tauSqTable(const Study& study);
 
 }  // namespace lorvane

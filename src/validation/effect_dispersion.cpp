@@ -114,7 +114,7 @@ bool rangeOfRiskDifferencesIsTooWide(Study& s) {
         return false;
     bool tooWide = false;
     for (int level = firstBlockedLevel(s); level <= s.NumLevels; ++level) {
-        if (s.effect.txtSpan(level) > widestSpanOfRiskDifferences) {
+        if (s.effect.ValidSpan(level) == 1 && s.effect.txtSpan(level) > widestSpanOfRiskDifferences) {
             s.effect.ValidTauSq(level) = s.effect.ValidSpan(level) = 0;
             tooWide = true;
         }

@@ -1,0 +1,102 @@
+// The refresh: what it shows, which windows it moves, and that a silent one leaves no trace.
+#include <cstdlib>
+#include <new>
+#include <regex>
+
+#include "validation/cell_counts.h"
+#include "validation/study_bench.h"
+
+namespace {
+
+long allocations = 0;
+
+}  // namespace
+
+[[gnu::noinline]] void* operator new(std::size_t size) {
+    ++allocations;
+    if (void* memory = std::malloc(size == 0 ? 1 : size))
+        return memory;
+    throw std::bad_alloc();
+}
+
+[[gnu::noinline]] void operator delete(void* memory) noexcept { std::free(memory); }
+[[gnu::noinline]] void operator delete(void* memory, std::size_t) noexcept { std::free(memory); }
+
+namespace lorvane {
+namespace {
+
+// Values of controls, windows and outlines; not the fields and results of the study.
+std::vector<ControlValue> shown(const StudyBench& bench) {
+    static const std::regex display("pnl|cmd|outline|window:|SSPanel|DisplayICC.txt");
+    std::vector<ControlValue> values;
+    for (const std::string& name : bench.registry.names()) {
+        if (std::regex_search(name, display))
+            values.push_back(*bench.registry.read(name));
+    }
+    return values;
+}
+
+/// All eighteen designs, valid and with every kind of fault that the design knows.
+TEST(Refresh, SilentOneShowsNothingAndAllocatesNothing) {
+    for (int design = 0; design < 24; ++design) {
+        const int levels = 2 + design / 8, randomized = 1 + design / 2 % 4, type = 1 + design % 2;
+        StudyBench bench;
+        bench.study.NumLevels = levels, bench.study.RandomizedLevel = std::min(levels, randomized);
+        bench.study.DataType = type;
+        bench.play("d=0.4 OR=2 ICC_Metric=1 ICC(2)=0.1 ICC(3)=0.1 NT(1)=50 NC(1)=50 Q(2)=1 NB(2)=9 ;");
+        const Study good = bench.study;
+        const auto before = shown(bench);
+        const Grid::Row row = bench.registry.grid("frmSpreadICC.VS")->rows.at(2);
+        for (const auto& [change, valid] : {std::pair{"NT(1)=80", true},
+                                            {"Q(2)=9999 Q(3)=99 Q(4)=99", false},
+                                            {"Rsq(2)=0.5 Q(2)=0", false},
+                                            {"ICC(2)=0.995", false},
+                                            {"OR=1000000", type == 1},
+                                            {"MRange(1)=0 ICC_Metric=2", type == 2},
+                                            {"TauSq(2)=-1 TauSq(3)=-1 TauSq(4)=-1", randomized >= levels}}) {
+            SCOPED_TRACE(testing::Message() << levels << ' ' << randomized << ' ' << type << ' ' << change);
+            bench.study = good;
+            bench.play(change);
+            const long earlier = allocations;
+            bench.design.DoRefresh(false);
+            EXPECT_EQ(allocations, earlier);
+            EXPECT_EQ(bench.study.result.xValid, valid ? 1 : 0);
+            EXPECT_EQ(shown(bench), before);
+            EXPECT_EQ(bench.registry.grid("frmSpreadICC.VS")->rows.at(2), row);
+        }
+        EXPECT_GT(allocations, 0);
+    }
+}
+
+TEST(Refresh, PowerLineAndWindows) { playScenarios("power_line.txt", "", "pnlPower"); }
+
+TEST(Refresh, CostLine) { playScenarios("cost_line.txt", "", "pnlCost"); }
+
+TEST(CellCounts, PanelAndItsSetting) {
+    for (const auto& [mode, whenLow, whenOk] : {std::tuple{SchematicModes::off, "window:25=0", "window:25=0"},
+                                                {SchematicModes::automatic, "window:25=4", "window:25=1"},
+                                                {SchematicModes::on, "window:25=4", "window:25=4"}}) {
+        StudyBench bench;
+        bench.design.settings().ShowCellCounts = mode;
+        bench.play("DataType=2 ;");
+        bench.expect(whenLow);
+        EXPECT_EQ(bench.caption("frmCounts.pnlTitle"), "Cell counts are low");
+        bench.play("Prev=0.25 OR=2 NC(1)=100 NT(1)=200 ;");
+        bench.expect(whenOk);
+        std::string text;
+        for (const char* cell : {"Title", "N(1)", "N(2)", "Rate(1)", "Rate(2)", "Rate(3)", "Rate(4)",
+                                 "Mean(1)", "Mean(2)", "Mean(3)", "Mean(4)"})
+            text += bench.caption(std::string("frmCounts.pnl") + cell) + ' ';
+        EXPECT_EQ(text, "Cell counts are Ok 100 200 0.250 0.750 0.400 0.600 25.0 75.0 80.0 120.0 ");
+    }
+    for (const auto& [share, text, colour] :
+         {std::tuple{0.1, "10.00%", problemColour}, {0.0999, "9.99%", normalBackground}}) {
+        Panel cell;
+        CellColor(cell, share);
+        EXPECT_EQ(cell.Caption, text);
+        EXPECT_EQ(cell.BackColor, colour);
+    }
+}
+
+}  // namespace
+}  // namespace lorvane
