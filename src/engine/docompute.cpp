@@ -54,7 +54,8 @@ void resetFlags(PowerResult& result) {
     result.xValidDF.fill(1);
     result.xValidQ.fill(1);
     result.xValidTestdf = 1;
-    result.xValid = 1;
+    // Not valid until the power stands, so that a fault on the way leaves no earlier power as if it were good.
+    result.xValid = 0;
 }
 
 // Any model but 0 and 1 leaves the number used in formulas as it was.
@@ -82,14 +83,12 @@ void summarise(LevelFlags& flags) {
     }
 }
 
-void collectFlags(Study& s) {
+bool collectFlags(Study& s) {
     PowerResult& result = s.result;
     summarise(result.xValidDF);
     summarise(result.xValidQ);
-    const bool good = result.xValidDF(0) == 1 && result.xValidQ(0) == 1 && result.xValidTestdf == 1 &&
-                      s.outcome.ValidICC(0) != 0 && s.effect.ValidTauSq(0) != 0;
-    if (!good)
-        result.xValid = 0;
+    return result.xValidDF(0) == 1 && result.xValidQ(0) == 1 && result.xValidTestdf == 1 &&
+           s.outcome.ValidICC(0) != 0 && s.effect.ValidTauSq(0) != 0;
 }
 
 Problem tellInvalid(const PowerResult& result, ComputeDisplay& display) {
@@ -112,6 +111,7 @@ Problem tellInvalid(const PowerResult& result, ComputeDisplay& display) {
 Problem computeValidPower(Study& s, DistributionLibrary& library, ComputeDisplay& display) {
     s.result.xLambda = std::fabs(s.result.xLambda);
     ComputePower(s, library);
+    s.result.xValid = 1;
     display.showPower();
     display.withdrawWindow(WindowId::frmProblems);
     return noProblem;
@@ -122,9 +122,9 @@ Problem computePowerPath(Study& s, DistributionLibrary& library, ComputeDisplay&
     display.restoreCovariateColours();
     applyModels(s);
     runDesign(s, library);
-    collectFlags(s);
+    const bool good = collectFlags(s);
     display.clearOutlines();
-    if (s.result.xValid == 1)
+    if (good)
         return computeValidPower(s, library, display);
     display.askForData("Please modify data");
     const Problem problem = tellInvalid(s.result, display);

@@ -12,6 +12,7 @@ namespace lorvane {
 namespace {
 
 constexpr double nullEffectTolerance = 1e-12;
+constexpr double roundingOfRate = 1e-12;
 
 double treatedRate(const Study& study) {
     switch (study.BinaryType) {
@@ -26,8 +27,9 @@ double treatedRate(const Study& study) {
     }
 }
 
-bool tooLow(const Study& study, double rate) { return rate < study.limits.txtDelta; }
-bool tooHigh(const Study& study, double rate) { return rate > 1 - study.limits.txtDelta; }
+// A rate on a limit passes, also where the sum or product that gave it was rounded.
+bool tooLow(const Study& study, double rate) { return rate < study.limits.txtDelta - roundingOfRate; }
+bool tooHigh(const Study& study, double rate) { return rate > 1 - study.limits.txtDelta + roundingOfRate; }
 bool admissible(const Study& study, double rate) { return !tooLow(study, rate) && !tooHigh(study, rate); }
 
 // An odds ratio that differs from 1 by rounding only is the null effect.

@@ -1,4 +1,4 @@
-// What many tests need: the real distribution functions, a fixed locale, and a refresh of a bare study.
+// What many tests need: the real distribution functions, a fixed locale, and a study of a design.
 #pragma once
 
 #include <string>
