@@ -36,7 +36,8 @@ void setTop(Study& s, double size) {
 void silentRefresh(benchmark::State& state, int levels, int randomized, int dataType, bool newDf) {
     NumericDistributionLibrary library;
     const FixedLocale locale;
-    Design design(library, locale);
+    ScriptedMessageBoxes messages;
+    Design design(library, locale, messages);
     fill(design.study(), levels, randomized, dataType);
     double size = 20;
     for (auto _ : state) {

@@ -11,6 +11,7 @@
 #include "engine/effect_metrics.h"
 #include "persistence/scenario_cells.h"
 #include "persistence/study_file.h"
+#include "screen/commands.h"
 
 namespace lorvane {
 
@@ -36,16 +37,109 @@ std::optional<bool> readFlag(std::string_view text) {
 }  // namespace
 
 Application::Application(const Platform& platform)
-    : platform_(platform), design_(platform.distributions, platform.locale),
-      fields_(design_.study(), design_.settings()) {
+    : platform_(platform), design_(platform.distributions, platform.locale, platform.messages),
+      dialogs_(design_), details_(design_) {
     design_.registerNames(names_);
+    dialogs_.registerNames(names_);
+    details_.registerNames(names_);
     names_.addGrid("vsFile", scenarios_.grid());
+    registerCommands(events_, design_);
+    dialogs_.registerEvents(events_);
+    details_.registerEvents(events_);
+    registerPanels();
+}
+
+// A floating panel that is closed by its frame is withdrawn, since its flags take part in every computation.
+void Application::registerPanels() {
+    using enum WindowId;
+    static constexpr std::pair<const char*, WindowId> panels[] = {
+        {"frmDisplayICC", frmDisplayICC}, {"frmDisplayTauSq", frmDisplayTauSq},
+        {"frmProblems", frmProblems},     {"frmProblemES", frmProblemES},
+        {"frmCounts", frmCounts},         {"frmDetails", frmDetails}};
+    for (const auto& [name, window] : panels)
+        events_.onClose(
+            name, [this, window = window] { design_.SynchForms(window, WindowAction::withdrawForGood); });
+    events_.onClose("Design", [this] { design_.closeRequest(); });
+}
+
+// Runs an event and tells the faces that everything is right again, also after a fault.
+template <typename Event>
+void Application::handle(Event event) {
+    struct Announce {
+        Application& application;
+        ~Announce() {
+            application.design_.showTools();
+            application.events_.announceShown();
+        }
+    } const announce{*this};
+    event();
+}
+
+void Application::tool(const std::string& name) {
+    const Tool* tool = design_.tools().find(name);
+    if (tool == nullptr)
+        throw UseProblem("There is no tool \"" + name + "\"; the nearest is \"" + nearestTool(name) + "\".");
+    if (!tool->Enabled)
+        throw UseProblem("The tool \"" + name + "\" is not available: " + tool->ToolTipText + ".");
+    handle([&] { events_.tool(name); });
+}
+
+std::string Application::nearestTool(const std::string& name) const {
+    std::vector<std::string> known;
+    for (const Tool& tool : design_.tools().tools())
+        known.push_back(tool.Name);
+    return nearestName(name, known);
+}
+
+void Application::click(const std::string& control) {
+    handle([&] {
+        if (!events_.click(control))
+            throw UseProblem("There is no control \"" + control + "\" to click.");
+    });
+}
+
+void Application::type(const std::string& control, const std::string& text) {
+    TextBox* box = events_.textBox(control);
+    if (box == nullptr)
+        throw UseProblem("There is no text box \"" + control + "\".");
+    box->Text = text;
+}
+
+void Application::close(const std::string& window) {
+    handle([&] {
+        if (!events_.close(window))
+            throw UseProblem("There is no window \"" + window + "\" to close.");
+    });
+}
+
+void Application::spin(const std::string& control, int direction, Design::SpinMode mode) {
+    const IndexedName name = splitName(control);
+    const bool ofLevel = name.index && *name.index >= lowestLevel && *name.index <= highestLevel;
+    const auto arrows = findSpin(control);
+    if (!arrows && !(ofLevel && (name.stem == "spnModel" || name.stem == "spnPop")))
+        throw UseProblem("There are no arrows \"" + control + "\".");
+    handle([&] {
+        if (arrows)
+            design_.Spin(*arrows, direction, mode);
+        else if (name.stem == "spnModel")
+            design_.spinModel(*name.index, direction);
+        else
+            design_.spinPop(*name.index, direction);
+    });
+}
+
+void Application::spinReleased() {
+    handle([&] { design_.DoRefresh(true); });
+}
+
+void Application::openValue(const std::string& field) {
+    handle([&] { dialogs_.openValue(field); });
 }
 
 const StudyField& Application::knownField(const std::string& name) const {
-    const StudyField* field = fields_.find(name);
+    const StudyField* field = fields().find(name);
     if (field == nullptr)
-        throw UseProblem("There is no field \"" + name + "\"; the nearest is \"" + fields_.nearest(name) +
+        throw UseProblem("There is no field \"" + name + "\"; the nearest is \"" + fields().nearest(name) +
                          "\".");
     return *field;
 }
@@ -69,7 +163,7 @@ void Application::check(std::span<const Assignment> values, Kind kind, ValueSour
         const StudyField& field = knownField(value.name);
         if (field.isDesignChoice != (kind == Kind::choices))
             continue;
-        const std::string why = refusal(fields_, field, value.value, source);
+        const std::string why = refusal(fields(), field, value.value, source);
         if (!why.empty())
             throw UseProblem(why);
     }

@@ -2,19 +2,24 @@
 // tests all act through it.
 #pragma once
 
+#include <functional>
 #include <span>
 #include <stdexcept>
 #include <string>
 #include <string_view>
 #include <vector>
 
+#include "guidance/details.h"
 #include "persistence/scenario_grid.h"
 #include "persistence/scenario_list.h"
 #include "platform/control_registry.h"
 #include "platform/distribution_library.h"
+#include "platform/event_registry.h"
 #include "platform/file_store.h"
+#include "platform/message_boxes.h"
 #include "platform/system_locale.h"
 #include "screen/design.h"
+#include "screen/small_dialogs.h"
 #include "screen/study_fields.h"
 
 namespace lorvane {
@@ -24,6 +29,7 @@ struct Platform {
     DistributionLibrary& distributions;
     const SystemLocale& locale;
     FileStore& files;
+    MessageBoxes& messages;
 };
 
 /// A name or a value that the program does not take; one sentence that names it.
@@ -78,12 +84,30 @@ public:
     /// Why the study gives no power, in the words of the window that tells it; needs a study without power.
     std::string whyNoPower() const;
 
+    /// What a person does on the screen, by the names of its controls. Each throws UseProblem for a name that
+    /// is not known and ArithmeticFault when the computation cannot go on; the entered values stay then.
+    void tool(const std::string& name);
+    void click(const std::string& control);
+    void type(const std::string& control, const std::string& text);
+    void close(const std::string& window);
+    void spin(const std::string& control, int direction, Design::SpinMode mode = Design::SpinMode::click);
+    void spinReleased();
+    void openValue(const std::string& field);
+
+    /// Runs after every event, when all display models are right again.
+    void whenShown(std::function<void()> redraw) { events_.whenShown(std::move(redraw)); }
+
+    const Details& details() const noexcept { return details_; }
+    const SmallDialogs& dialogs() const noexcept { return dialogs_; }
+
     const ControlRegistry& names() const noexcept { return names_; }
     const Grid* grid(std::string_view name) const { return names_.grid(name); }
     const Design& design() const noexcept { return design_; }
-    const StudyFields& fields() const noexcept { return fields_; }
+    const StudyFields& fields() const noexcept { return design_.fields(); }
 
 private:
+    void registerPanels();
+    std::string nearestTool(const std::string& name) const;
     const StudyField& knownField(const std::string& name) const;
     enum class Kind { choices, values };
     void check(std::span<const Assignment> values, Kind kind, ValueSource source) const;
@@ -91,12 +115,16 @@ private:
     void write(std::span<const Assignment> values);
     template <typename Change>
     void changeOrUndo(Change change);
+    template <typename Event>
+    void handle(Event event);
 
     Platform platform_;
     Design design_;
-    StudyFields fields_;
+    SmallDialogs dialogs_;
+    Details details_;
     ScenarioGrid scenarios_;
     ControlRegistry names_;
+    EventRegistry events_;
 };
 
 }  // namespace lorvane

@@ -2,6 +2,7 @@
 #include "cli/drive.h"
 
 #include <array>
+#include <cmath>
 #include <functional>
 #include <istream>
 #include <nlohmann/json.hpp>
@@ -21,10 +22,7 @@ namespace {
 
 using Json = nlohmann::ordered_json;
 
-struct Session {
-    Application& application;
-    DistributionLibrary& distributions;
-};
+using Session = DriveSession;
 
 Json done() { return {{"ok", true}}; }
 
@@ -90,8 +88,83 @@ Json state(Session& session, ScriptWords&) {
     return answer;
 }
 
-// Nothing that a script can do so far asks anything in a message box or a file dialog.
-Json messages(Session&, ScriptWords&) { return Json::array(); }
+struct AnswerWord {
+    const char* word;
+    Answer answer;
+};
+
+constexpr AnswerWord answerWords[] = {
+    {"OK", Answer::OK}, {"Cancel", Answer::Cancel}, {"Yes", Answer::Yes}, {"No", Answer::No}};
+
+const char* wordOf(Answer answer) {
+    for (const AnswerWord& known : answerWords) {
+        if (known.answer == answer)
+            return known.word;
+    }
+    return "";
+}
+
+Json messages(Session& session, ScriptWords&) {
+    Json answer = Json::array();
+    for (const ScriptedMessageBoxes::Shown& shown : session.messages.take()) {
+        Json buttons = Json::array();
+        for (const Answer button : shown.message.buttons)
+            buttons.push_back(wordOf(button));
+        answer.push_back({{"kind", "message"},
+                          {"title", shown.message.title},
+                          {"text", shown.message.text},
+                          {"buttons", std::move(buttons)},
+                          {"answer", wordOf(shown.answer)}});
+    }
+    return answer;
+}
+
+Json queueAnswer(Session& session, ScriptWords& words) {
+    const std::string word = words.need("OK, Cancel, Yes or No");
+    for (const AnswerWord& known : answerWords) {
+        if (word == known.word) {
+            session.messages.queue(known.answer);
+            return done();
+        }
+    }
+    throw UseProblem("The answer must be OK, Cancel, Yes or No, not \"" + word + "\".");
+}
+
+Json tool(Session& session, ScriptWords& words) {
+    session.application.tool(words.rest());
+    return done();
+}
+
+Json click(Session& session, ScriptWords& words) {
+    session.application.click(words.rest());
+    return done();
+}
+
+Json type(Session& session, ScriptWords& words) {
+    const std::string control = words.need("The name of a text box");
+    session.application.type(control, words.rest());
+    return done();
+}
+
+Json close(Session& session, ScriptWords& words) {
+    session.application.close(words.rest());
+    return done();
+}
+
+Json spin(Session& session, ScriptWords& words) {
+    const std::string control = words.need("The name of the arrows");
+    const std::string direction = words.need("up or down");
+    if (direction != "up" && direction != "down")
+        throw UseProblem("The direction must be up or down, not \"" + direction + "\".");
+    const std::string times = words.next().value_or("1");
+    const auto count = readNumber(times);
+    if (!count || *count < 1 || *count != std::floor(*count) || *count > 1000000)
+        throw UseProblem("The number of clicks must be a whole number from 1 to 1000000, not \"" + times +
+                         "\".");
+    for (int i = 0; i < static_cast<int>(*count); ++i)
+        session.application.spin(control, direction == "up" ? 1 : -1);
+    return done();
+}
 
 Json grid(Session& session, ScriptWords& words) {
     const std::string name = words.need("The name of a grid");
@@ -158,9 +231,11 @@ struct Command {
     Json (*run)(Session&, ScriptWords&);
 };
 
-constexpr Command commands[] = {{"load", load},   {"set", set},           {"get", get},   {"names", names},
-                                {"state", state}, {"messages", messages}, {"grid", grid}, {"save", save},
-                                {"open", open},   {"dist", dist}};
+constexpr Command commands[] = {
+    {"load", load},          {"set", set},           {"get", get},     {"names", names}, {"state", state},
+    {"tool", tool},          {"spin", spin},         {"click", click}, {"type", type},   {"close", close},
+    {"answer", queueAnswer}, {"messages", messages}, {"grid", grid},   {"save", save},   {"open", open},
+    {"dist", dist}};
 
 Json run(Session& session, std::string_view line) {
     ScriptWords words(line);
@@ -188,19 +263,17 @@ Json runOrError(Session& session, std::string_view line) {
 
 }  // namespace
 
-std::string answerTo(std::string_view line, Application& application, DistributionLibrary& distributions) {
+std::string answerTo(std::string_view line, DriveSession& session) {
     const std::string_view command = trimmed(line);
     if (command.empty() || command.front() == '#')
         return "";
-    Session session{application, distributions};
     return jsonText(runOrError(session, command));
 }
 
-void drive(std::istream& in, std::ostream& out, Application& application,
-           DistributionLibrary& distributions) {
+void drive(std::istream& in, std::ostream& out, DriveSession& session) {
     std::string line;
     while (std::getline(in, line)) {
-        const std::string answer = answerTo(line, application, distributions);
+        const std::string answer = answerTo(line, session);
         if (!answer.empty())
             out << answer << '\n' << std::flush;
     }

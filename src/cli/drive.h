@@ -6,14 +6,22 @@
 #include <string_view>
 
 #include "app/application.h"
+#include "platform/scripted_message_boxes.h"
 
 namespace lorvane {
 
+/// What a session acts on.
+struct DriveSession {
+    Application& application;
+    DistributionLibrary& distributions;
+    ScriptedMessageBoxes& messages;
+};
+
 /// Carries out one command. The answer is one line of JSON; a command that cannot be carried out answers
 /// {"error": ...} and changes nothing. Empty for a blank line and a comment, which are not answered.
-std::string answerTo(std::string_view line, Application& application, DistributionLibrary& distributions);
+std::string answerTo(std::string_view line, DriveSession& session);
 
 /// Reads commands to the end of the input and answers each at once.
-void drive(std::istream& in, std::ostream& out, Application& application, DistributionLibrary& distributions);
+void drive(std::istream& in, std::ostream& out, DriveSession& session);
 
 }  // namespace lorvane

@@ -64,7 +64,8 @@ int runChosen(const CLI::App& cli, const Requests& requests) {
     NumericDistributionLibrary distributions;
     const EnvironmentLocale locale;
     DiskFileStore files;
-    Application application({distributions, locale, files});
+    ScriptedMessageBoxes messages;
+    Application application({distributions, locale, files, messages});
     if (cli.got_subcommand("power"))
         return printPower(requests.power, application, std::cout, std::cerr);
     if (cli.got_subcommand("new"))
@@ -73,7 +74,8 @@ int runChosen(const CLI::App& cli, const Requests& requests) {
         return printScenarios(requests.scenarios, application, std::cout);
     if (!requests.driven.empty())
         application.open(requests.driven);
-    drive(std::cin, std::cout, application, distributions);
+    DriveSession session{application, distributions, messages};
+    drive(std::cin, std::cout, session);
     return ExitCodes::done;
 }
 

@@ -54,7 +54,8 @@ void resetFlags(PowerResult& result) {
     result.xValidDF.fill(1);
     result.xValidQ.fill(1);
     result.xValidTestdf = 1;
-    // Not valid until the power stands, so that a fault on the way leaves no earlier power as if it were good.
+    // Not valid until the power stands, so that a fault on the way leaves no earlier power as if it were
+    // good.
     result.xValid = 0;
 }
 

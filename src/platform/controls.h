@@ -43,6 +43,13 @@ struct Button {
     bool Enabled = true;
 };
 
+/// A box to type a text into.
+struct TextBox {
+    std::string Text;
+    bool Visible = true;
+    bool Enabled = true;
+};
+
 /// A table of text cells.
 struct Grid {
     using Row = std::vector<std::string>;

@@ -91,6 +91,9 @@ void ComputeScreen::tellProblem(std::string_view message, std::string_view title
     problems_.pnlErrTitle.Caption = title;
 }
 
-void ComputeScreen::openProblemWindow() { openWindow(WindowId::frmProblems); }
+void ComputeScreen::openProblemWindow() {
+    if (!silentTick_)
+        openWindow(WindowId::frmProblems);
+}
 
 }  // namespace lorvane

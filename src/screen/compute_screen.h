@@ -12,9 +12,10 @@ namespace lorvane {
 class ComputeScreen final : public ComputeDisplay {
 public:
     ComputeScreen(const Study& study, const SessionSettings& settings, MainScreen& screen,
-                  ProblemWindow& problems, EffectProblemWindow& effectProblems, WindowRegistry& windows)
+                  ProblemWindow& problems, EffectProblemWindow& effectProblems, WindowRegistry& windows,
+                  const bool& silentTick)
         : study_(study), settings_(settings), screen_(screen), problems_(problems),
-          effectProblems_(effectProblems), windows_(windows) {}
+          effectProblems_(effectProblems), windows_(windows), silentTick_(silentTick) {}
 
     void openWindow(WindowId window) override;
     void withdrawWindow(WindowId window) override;
@@ -37,6 +38,7 @@ private:
     ProblemWindow& problems_;
     EffectProblemWindow& effectProblems_;
     WindowRegistry& windows_;
+    const bool& silentTick_;
 };
 
 }  // namespace lorvane

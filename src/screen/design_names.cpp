@@ -167,6 +167,9 @@ void addSettings(ControlRegistry& registry, const SessionSettings& settings) {
     registry.add("AllowLowCellCounts", &settings.AllowLowCellCounts);
     registry.add("CellCountDetail", &settings.CellCountDetail);
     registry.add("ShowCellCounts", &settings.ShowCellCounts);
+    registry.add("ShowIccSchematic", &settings.ShowIccSchematic);
+    registry.add("ShowTauSqSchematic", &settings.ShowTauSqSchematic);
+    registry.add("ShowOmega", &settings.ShowOmega);
     registry.add("ReportFont", &settings.ReportFont);
     registry.add("ReportPaper", &settings.ReportPaper);
     registry.add("ReportSpans", &settings.ReportSpans);
@@ -179,45 +182,6 @@ void addSettings(ControlRegistry& registry, const SessionSettings& settings) {
     registry.add("IncMRange", &settings.IncMRange);
     registry.add("IncMean", &settings.IncMean);
     registry.add("IncSD", &settings.IncSD);
-}
-
-void addScreen(ControlRegistry& registry, const MainScreen& screen) {
-    registry.add("pnlPower", screen.pnlPower);
-    registry.add("pnlPowerOuter", screen.pnlPowerOuter);
-    registry.add("pnlPowerBar", screen.pnlPowerBar);
-    registry.add("pnlCost", screen.pnlCost);
-    registry.add("pnlCostOuter", screen.pnlCostOuter);
-    registry.add("pnlCostBar", screen.pnlCostBar);
-    registry.add("SSPanel10", screen.SSPanel10);
-    addIndexed(registry, "pnlLevel", screen.pnlLevel);
-    addIndexed(registry, "pnlQ", screen.pnlQ);
-    addIndexed(registry, "pnlRsq", screen.pnlRsq);
-    for (int number = 1; number <= 7; ++number) {
-        const Outline& outline = screen.outlines(number);
-        const std::string name = indexedName("outline", number);
-        registry.add(name + ".Visible", &outline.Visible);
-        registry.add(name + ".Color", &outline.colour);
-        registry.add(name + ".From", &outline.from);
-        registry.add(name + ".To", &outline.to);
-    }
-}
-
-void addIccPanel(ControlRegistry& registry, const IccPanel& panel) {
-    addIndexed(registry, "frmDisplayICC.txtICC", panel.txtICC);
-    addIndexed(registry, "frmDisplayICC.txtSpan", panel.txtSpan);
-    addIndexed(registry, "frmDisplayICC.pnlICC", panel.pnlICC);
-    addIndexed(registry, "frmDisplayICC.pnlWidth", panel.pnlWidth);
-    registry.add("frmDisplayICC.pnlMsgOuter", panel.pnlMsgOuter);
-    registry.add("frmDisplayICC.pnlMsgInner", panel.pnlMsgInner);
-    registry.add("frmDisplayICC.cmdDelta", panel.cmdDelta);
-}
-
-void addTauSqPanel(ControlRegistry& registry, const TauSqPanel& panel) {
-    addIndexed(registry, "frmDisplayTauSq.pnlTauSq", panel.pnlTauSq, 2);
-    addIndexed(registry, "frmDisplayTauSq.pnlWidth", panel.pnlWidth, 2);
-    addIndexed(registry, "frmDisplayTauSq.pnlOmega", panel.pnlOmega, 2);
-    registry.add("frmDisplayTauSq.pnlMsgOuter", panel.pnlMsgOuter);
-    registry.add("frmDisplayTauSq.pnlMsgInner", panel.pnlMsgInner);
 }
 
 void addCounts(ControlRegistry& registry, const CellCounts& counts, const CellCountsPanel& panel) {
@@ -242,9 +206,11 @@ void Design::registerNames(ControlRegistry& registry) const {
     addDispersion(registry, study_);
     addLimits(registry, study_.limits);
     addSettings(registry, settings_);
-    addScreen(registry, screen_);
-    addIccPanel(registry, iccPanel_);
-    addTauSqPanel(registry, tauSqPanel_);
+    registry.add("Design.Caption", &caption_.Caption);
+    screen_.registerNames(registry);
+    iccPanel_.registerNames(registry);
+    tauSqPanel_.registerNames(registry);
+    tools_.registerNames(registry);
     addCounts(registry, study_.counts, countsPanel_);
     registry.add("frmProblems.pnlErr", problems_.pnlErr);
     registry.add("frmProblems.pnlErrTitle", problems_.pnlErrTitle);

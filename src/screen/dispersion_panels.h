@@ -1,34 +1,77 @@
-// Display models of the two dispersion panels: the message line and the values of every level.
+// Display models of the two dispersion panels: headings, a row and a bar a level, the sentence below them,
+// the message line.
 #pragma once
 
+#include <string>
+
 #include "engine/study.h"
+#include "platform/control_registry.h"
 #include "platform/controls.h"
 #include "validation/effect_dispersion.h"
 #include "validation/icc_span.h"
 
 namespace lorvane {
 
+/// The bar of a level on the common scale of a picture.
+struct SpanBar {
+    bool Visible = false;
+    bool isScores = false;  ///< the individuals themselves, not means of a level
+    double low = 0;
+    double high = 0;
+    std::string lowText;
+    std::string highText;
+};
+
+/// The picture of a panel. A view draws it; the numbers are here.
+struct Schematic {
+    double low = 0;  ///< left end of the scale
+    double high = 1;
+    double centre = 0;  ///< where the dashed line stands
+    std::string centreText;
+    PerLevel<SpanBar> bars;
+    Panel pnlSchematic;  ///< the sentence
+    Panel pnlFooter;
+};
+
 /// frmDisplayICC, the dispersion of the outcome.
 struct IccPanel {
+    Panel pnlTitle;
+    Panel lblUnit, lblIcc, lblSpan, lblRange;
+    PerLevel<Panel> pnlUnit;
     PerLevel<double> txtICC;  ///< values shown
     PerLevel<double> txtSpan;
     PerLevel<Panel> pnlICC;
     PerLevel<Panel> pnlWidth;
+    PerLevel<Panel> pnlExample;
+    PerLevel<bool> iccSpin, spanSpin;  ///< the cell has arrows
+    Schematic picture;
     Panel pnlMsgOuter;
     Panel pnlMsgInner;
-    Button cmdDelta;  ///< leads to the limits of the risks, where they would help
+    Button cmdDelta;    ///< leads to the limits of the risks, where they would help
+    Button cmdOptions;  ///< leads to the risks entered as limits
+
+    void registerNames(ControlRegistry& registry) const;
 };
 
 /// frmDisplayTauSq, the dispersion of the effect. Its values live in the study.
 struct TauSqPanel {
+    Panel pnlTitle;
+    Panel lblUnit, lblTauSq, lblSpan, lblOmega, lblRange;
+    PerLevel<Panel> pnlUnit;
     PerLevel<Panel> pnlTauSq;
     PerLevel<Panel> pnlWidth;
     PerLevel<Panel> pnlOmega;
+    PerLevel<Panel> pnlExample;
+    PerLevel<bool> tauSqSpin, spanSpin, omegaSpin;
+    Schematic picture;
     Panel pnlMsgOuter;
     Panel pnlMsgInner;
+
+    void registerNames(ControlRegistry& registry) const;
 };
 
+/// Writes a panel whole: titles and rows by the shape of the study, values and bars, the message.
 void writeIccPanel(const Study& study, const IccVerdict& verdict, IccPanel& panel);
-void writeTauSqPanel(const Study& study, TauSqMessage message, TauSqPanel& panel);
+void writeTauSqPanel(const Study& study, TauSqMessage message, bool showOmega, TauSqPanel& panel);
 
 }  // namespace lorvane

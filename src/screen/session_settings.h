@@ -24,6 +24,7 @@ struct SessionSettings {
     int ShowCellCounts = SchematicModes::automatic;
     int ShowIccSchematic = SchematicModes::automatic;    ///< not part of a study file
     int ShowTauSqSchematic = SchematicModes::automatic;  ///< not part of a study file
+    bool ShowOmega = true;  ///< omega has a column on the panel of the effects; not part of a study file
     int ReportFont = 3;
     int ReportPaper = 1;  ///< 1 US letter, 2 A4
     int ReportSpans = 1;  ///< 1 in the report, 2 left out

@@ -102,7 +102,7 @@ StudyField& StudyFields::addChoice(std::string name, int& target, std::vector<do
 }
 
 void StudyFields::addPerLevel(const char* stem, PerLevel<double>& values, FieldLimits limits,
-                              const int* FmtDecDigits) {
+                              int* FmtDecDigits) {
     for (int level = lowestLevel; level <= highestLevel; ++level)
         add(indexedName(stem, level), &values(level), limits).FmtDecDigits = FmtDecDigits;
 }
@@ -122,7 +122,7 @@ void StudyFields::addChoices(Study& s) {
 }
 
 void StudyFields::addEffect(Study& s) {
-    const FieldDecimals& decimals = s.decimals;
+    FieldDecimals& decimals = s.decimals;
     add("txtd", &s.txtd, {-10, true, 10, true}).FmtDecDigits = &decimals.txtd;
     add("txtPrev", &s.txtPrev, openProportion).FmtDecDigits = &decimals.txtPrev;
     add("txtP2", &s.txtP2, openProportion).FmtDecDigits = &decimals.txtP2;

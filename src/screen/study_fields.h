@@ -33,10 +33,10 @@ using FieldValue = std::variant<double, bool, std::string>;
 struct StudyField {
     std::string name;
     FieldTarget target;
-    FieldLimits limits;                 ///< what a dialog accepts
-    std::vector<double> choices;        ///< the only values that the field takes; empty: any number
-    const int* FmtDecDigits = nullptr;  ///< decimals shown, where the user can choose them
-    bool isDesignChoice = false;        ///< applied before other fields, by an operation of its own
+    FieldLimits limits;           ///< what a dialog accepts
+    std::vector<double> choices;  ///< the only values that the field takes; empty: any number
+    int* FmtDecDigits = nullptr;  ///< decimals shown, where the user can choose them
+    bool isDesignChoice = false;  ///< applied before other fields, by an operation of its own
 };
 
 /// All fields of one study and its settings. The study must outlive it.
@@ -63,7 +63,7 @@ private:
     StudyField& add(std::string name, FieldTarget target, FieldLimits limits = {});
     StudyField& addChoice(std::string name, int& target, std::vector<double> choices);
     void addPerLevel(const char* stem, PerLevel<double>& values, FieldLimits limits,
-                     const int* FmtDecDigits = nullptr);
+                     int* FmtDecDigits = nullptr);
 
     const Study& study_;
     std::vector<StudyField> fields_;

@@ -12,7 +12,7 @@ GROUND = {"base", "platform"}
 ENGINE = GROUND | {"engine"}
 VALIDATION = ENGINE | {"validation"}
 SCREEN = VALIDATION | {"screen"}
-CORE = SCREEN | {"persistence"}
+CORE = SCREEN | {"persistence", "guidance"}
 
 MAY_INCLUDE = {
     "base": set(),
@@ -22,14 +22,22 @@ MAY_INCLUDE = {
     "validation": ENGINE,
     "screen": VALIDATION,
     "persistence": SCREEN,
+    "guidance": SCREEN,
     "app": CORE,
     "os": GROUND,
     "cli": CORE | {"numerics", "app", "os"},
+    "qt": GROUND,
+    "desktop": CORE | {"numerics", "app", "os", "qt"},
 }
 # The distribution functions see one header of the platform alone.
 NUMERICS_MAY_SEE = {"platform/distribution_library.h"}
 
-FOREIGN = {"os": re.compile(r"fcntl\.h|unistd\.h|sys/stat\.h"), "cli": re.compile(r"CLI/|nlohmann/")}
+FOREIGN = {
+    "os": re.compile(r"fcntl\.h|unistd\.h|sys/stat\.h"),
+    "cli": re.compile(r"CLI/|nlohmann/"),
+    "qt": re.compile(r"Q[A-Z]"),
+    "desktop": re.compile(r"Q[A-Z]"),
+}
 STANDARD = re.compile(r"c?[a-z_0-9]+$")
 INCLUDE = re.compile(r'^\s*#\s*include\s*([<"])([^>"]+)[>"]')
 

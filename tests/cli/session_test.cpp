@@ -50,12 +50,14 @@ bool same(const json& got, const json& wanted, bool partly) {
 
 class Session : public ::testing::TestWithParam<std::filesystem::path> {
 protected:
-    std::string answer(const std::string& command) { return answerTo(command, application, library); }
+    std::string answer(const std::string& command) { return answerTo(command, session); }
 
     NumericDistributionLibrary library;
     FixedLocale locale;
     MemoryFileStore files;
-    Application application{{library, locale, files}};
+    ScriptedMessageBoxes messages;
+    Application application{{library, locale, files, messages}};
+    DriveSession session{application, library, messages};
 };
 
 TEST_P(Session, AnswersAsItMust) {

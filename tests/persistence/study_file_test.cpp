@@ -45,7 +45,8 @@ protected:
     NumericDistributionLibrary library;
     FixedLocale locale;
     MemoryFileStore files;
-    Application application{{library, locale, files}};
+    ScriptedMessageBoxes messages;
+    Application application{{library, locale, files, messages}};
 };
 
 TEST_F(StudyFile, WrongCellsAreNamed) {

@@ -25,7 +25,8 @@ public:
         const auto add = [&](std::string name, double value) { values.push_back({std::move(name), value}); };
         const int levels = whole(2, 4);
         add("NumLevels", levels);
-        add("RandomizedLevel", whole(1, levels));
+        const int randomized = whole(1, levels);
+        add("RandomizedLevel", randomized);
         add("DataType", whole(1, 2));
         add("BinaryType", whole(1, 4));
         add("DType", whole(1, 2));
@@ -50,7 +51,8 @@ public:
             add(indexedName("txtTauSq", level), real(0, 0.1));
             add(indexedName("txtDRange", level), real(0, 0.5));
             add(indexedName("txtOmega", level), real(0, 1));
-            add(indexedName("txtModel", level), whole(0, 2));
+            // The lowest and the randomized level are always random.
+            add(indexedName("txtModel", level), level == 1 || level == randomized ? 0 : whole(0, 2));
             const int covariates = whole(0, 2);
             add(indexedName("txtQ", level), covariates);
             add(indexedName("txtRsq", level), covariates == 0 ? 0 : real(0, 0.9));

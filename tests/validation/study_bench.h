@@ -17,10 +17,10 @@ namespace lorvane {
 /// a "_" is a blank of the name, a name may go without its "txt", "@" stands for a panel.
 struct StudyBench {
     NumericDistributionLibrary library;
-    Design design{library, FixedLocale()};
+    ScriptedMessageBoxes messages;
+    Design design{library, FixedLocale(), messages};
     Study& study = design.study();
     ControlRegistry registry;
-    StudyFields fields{study, design.settings()};
 
     StudyBench() { design.registerNames(registry); }
 
@@ -29,8 +29,8 @@ struct StudyBench {
         forEach(assignments, [&](const std::string& name, double value) {
             if (name == ";")
                 return design.DoRefresh(true);
-            const StudyField* field = fields.find(name);
-            writeField(field ? *field : *fields.find("txt" + name), value);
+            const StudyField* field = design.fields().find(name);
+            writeField(field ? *field : *design.fields().find("txt" + name), value);
         });
     }
 

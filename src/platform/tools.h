@@ -1,0 +1,38 @@
+// Display models of menus and tool bars: a tool is one command, a band is a menu, a popup or a bar.
+#pragma once
+
+#include <string>
+#include <vector>
+
+namespace lorvane {
+
+enum class ToolCategory { command, choice, increment, window, file, help };
+
+/// One command. It may stand in several bands.
+struct Tool {
+    std::string Name;
+    std::string Caption;  ///< with "&" before the letter that reaches it by keyboard
+    std::string ToolTipText;
+    ToolCategory Category = ToolCategory::command;
+    bool Checked = false;
+    bool Visible = true;
+    bool Enabled = true;
+};
+
+enum class BandKind { menu, submenu, popup, toolbar };
+
+/// A place on a band: a tool, a line between groups, or another band that opens from here.
+struct BandEntry {
+    enum class Kind { tool, line, band };
+    Kind kind = Kind::tool;
+    std::string name;
+};
+
+struct Band {
+    std::string Name;
+    std::string Caption;
+    BandKind kind = BandKind::menu;
+    std::vector<BandEntry> entries;
+};
+
+}  // namespace lorvane

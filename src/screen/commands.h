@@ -1,0 +1,25 @@
+// The commands of the study screen: what every tool does. One table from the name of a tool to its operation.
+#pragma once
+
+#include "platform/event_registry.h"
+#include "screen/design.h"
+
+namespace lorvane {
+
+/// Enters the tools whose subject is the study screen itself. The screen must outlive the registry.
+void registerCommands(EventRegistry& events, Design& design);
+
+/// Adds or removes a level at the top.
+void addLevel(Design& design);
+void removeLevel(Design& design);
+
+/// Clears effect, dispersion, covariates and R-squared; sizes, costs and links stay.
+void ClearVals(Study& study);
+
+/// Sets data type and effect metric by the name of their tool, "Odds ratio"; any other name does nothing.
+void SetDataType(Design& design, std::string_view tool);
+
+/// The same with the question that comes before values are thrown away.
+void changeDataType(Design& design, std::string_view tool);
+
+}  // namespace lorvane

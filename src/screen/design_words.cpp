@@ -1,0 +1,87 @@
+// The study in words.
+#include "screen/design_words.h"
+
+#include "base/money.h"
+#include "base/number_text.h"
+
+namespace lorvane {
+
+namespace {
+
+constexpr const char* levelWords[] = {"Two-level", "Three-level", "Four-level"};
+
+std::string lowerName(const Study& s, int level) { return lowerCased(s.txtName(level)); }
+
+std::string nestingClause(const Study& s) {
+    std::string clause = s.txtName(1);
+    for (int level = 2; level <= s.NumLevels; ++level)
+        clause += " within " + lowerName(s, level);
+    return clause;
+}
+
+std::string blockedClause(const Study& s) {
+    std::vector<std::string> blocked;
+    for (int level = s.RandomizedLevel + 1; level <= s.NumLevels; ++level)
+        blocked.push_back(lowerName(s, level));
+    return blocked.empty() ? "" : "; " + joinedNames(blocked) + " are blocked";
+}
+
+}  // namespace
+
+std::string designTitle(const Study& s) {
+    return std::string(levelWords[s.NumLevels - 2]) +
+           (s.isHierarchical() ? " hierarchical design" : " randomized-block design");
+}
+
+std::string designSentence(const Study& s) {
+    return nestingClause(s) + ". " + s.txtName(s.RandomizedLevel) + " are randomized" + blockedClause(s) +
+           ".";
+}
+
+std::string powerNote(const Study& s) {
+    if (s.result.xValid == 0)
+        return "Power is shown again as soon as the outlined values fit together.";
+    const std::string required = shortestText(roundHalfToEven(s.ReqPower * 100)) + "%";
+    return s.result.txtPower >= s.ReqPower ? "Reaches the required power of " + required
+                                           : "Does not reach the required power of " + required;
+}
+
+double unitsInStudy(const Study& s, int level) {
+    double blocks = 1;
+    for (int k = s.NumLevels; k > s.RandomizedLevel && k >= level; --k)
+        blocks *= s.txtNB(k);
+    if (s.isBlocked(level))
+        return blocks;
+    double treated = blocks;
+    double control = blocks;
+    for (int k = s.RandomizedLevel; k >= level; --k) {
+        treated *= s.txtNT(k);
+        control *= s.txtNC(k);
+    }
+    return treated + control;
+}
+
+std::string unitsNote(const Study& s) {
+    constexpr double largestTold = 1e15;
+    std::string note;
+    for (int level = s.NumLevels; level >= 1; --level) {
+        const double units = unitsInStudy(s, level);
+        if (!(units < largestTold))
+            return "";
+        note += (note.empty() ? "" : ", ") + groupedText(static_cast<std::int64_t>(units)) + " " +
+                lowerName(s, level);
+    }
+    return note;
+}
+
+std::string joinedNames(const std::vector<std::string>& names) {
+    std::string text;
+    for (std::size_t i = 0; i < names.size(); ++i) {
+        if (i > 0)
+            text += i + 1 == names.size() ? " and " : ", ";
+        text += names[i];
+    }
+    return text;
+}
+
+}  // namespace lorvane

@@ -1,0 +1,29 @@
+// The study in words: its title, its levels in one sentence, and the quiet lines under power and cost.
+#pragma once
+
+#include <string>
+#include <vector>
+
+#include "engine/study.h"
+
+namespace lorvane {
+
+/// "Three-level hierarchical design", "Two-level randomized-block design".
+std::string designTitle(const Study& study);
+
+/// "Students within classes within schools. Schools are randomized."
+std::string designSentence(const Study& study);
+
+/// Whether the study's power reaches the required one; empty where there is no power to tell.
+std::string powerNote(const Study& study);
+
+/// The units of every level in the whole study, the top level first: "30 schools, 90 classes".
+std::string unitsNote(const Study& study);
+
+/// Units of a level in the whole study, both arms.
+double unitsInStudy(const Study& study, int level);
+
+/// Names joined as in a sentence: "a", "a and b", "a, b and c".
+std::string joinedNames(const std::vector<std::string>& names);
+
+}  // namespace lorvane
