@@ -47,6 +47,15 @@ Application::Application(const Platform& platform)
     dialogs_.registerEvents(events_);
     details_.registerEvents(events_);
     registerPanels();
+    disableToolsWithoutSubject();
+}
+
+// A tool whose subject the program does not have is there, and cannot be used.
+void Application::disableToolsWithoutSubject() {
+    for (const Tool& tool : design_.tools().tools()) {
+        if (!events_.knowsTool(tool.Name))
+            design_.tools().setEnabled(tool.Name, false);
+    }
 }
 
 // A floating panel that is closed by its frame is withdrawn, since its flags take part in every computation.
@@ -130,6 +139,14 @@ void Application::spin(const std::string& control, int direction, Design::SpinMo
 
 void Application::spinReleased() {
     handle([&] { design_.DoRefresh(true); });
+}
+
+void Application::suspendForms() {
+    handle([&] { design_.SuspendForms(FormSet::main); });
+}
+
+void Application::restoreForms() {
+    handle([&] { design_.RestoreForms(FormSet::main); });
 }
 
 void Application::openValue(const std::string& field) {

@@ -94,6 +94,10 @@ public:
     void spinReleased();
     void openValue(const std::string& field);
 
+    /// The floating windows make way for a while, and the same ones come back.
+    void suspendForms();
+    void restoreForms();
+
     /// Runs after every event, when all display models are right again.
     void whenShown(std::function<void()> redraw) { events_.whenShown(std::move(redraw)); }
 
@@ -107,6 +111,7 @@ public:
 
 private:
     void registerPanels();
+    void disableToolsWithoutSubject();
     std::string nearestTool(const std::string& name) const;
     const StudyField& knownField(const std::string& name) const;
     enum class Kind { choices, values };

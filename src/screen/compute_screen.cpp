@@ -46,7 +46,8 @@ void ComputeScreen::askForData(std::string_view request) {
 
 void ComputeScreen::showPower() {
     const double power = study_.result.txtPower;
-    screen_.pnlPower.Caption = "Power = " + fixedText(power, 4);
+    screen_.pnlPower.number = fixedText(power, 4);
+    screen_.pnlPower.Caption = "Power = " + screen_.pnlPower.number;
     screen_.pnlPower.Align = Alignment::left;
     screen_.pnlPowerBar.Flood = SmallerOf(power * 100, fullBar);
     DisplayPowerMode(screen_, study_.Powermode);
@@ -55,10 +56,9 @@ void ComputeScreen::showPower() {
 // A cost of exactly 1 leaves the caption as it stands. The gap is deliberate.
 void ComputeScreen::showCost() {
     const std::int32_t cost = study_.result.txtCost;
-    if (cost < 1)
-        screen_.pnlCost.Caption = "Cost = n/a";
-    if (cost > 1)
-        screen_.pnlCost.Caption = "Cost = " + ReFormatCurrency(cost, settings_.currency);
+    if (cost != 1)
+        screen_.pnlCost.number = cost < 1 ? "n/a" : ReFormatCurrency(cost, settings_.currency);
+    screen_.pnlCost.Caption = "Cost = " + screen_.pnlCost.number;
     const double flood = cost / study_.MaxCost * 100;
     requireFinite("docompute", {flood});
     screen_.pnlCostBar.Flood = SmallerOf(flood, fullBar);

@@ -140,7 +140,7 @@ void Design::showAll() {
     writeRows(study_, settings_, screen_);
     applyModelRule();
     writeOtherForm(study_, screen_);
-    writeWords(study_, screen_);
+    writeWords(study_, settings_, screen_);
     for (const auto& refresh : followers_) {
         if (refresh)
             refresh();
@@ -284,6 +284,12 @@ void Design::SynchCellCounts() {
 
 void Design::ShowCounts(bool show) {
     SynchForms(frmCounts, show ? WindowAction::open : WindowAction::withdrawForGood);
+}
+
+std::string Design::savedWords() const {
+    if (settings_.StudyDirty || settings_.CurrentFile.empty())
+        return "Not saved";
+    return "Saved in " + fileName(settings_.CurrentFile);
 }
 
 std::string Design::SetCaption() const {

@@ -104,6 +104,9 @@ public:
     void ShowTauSq(bool show);
     void SynchCellCounts();
 
+    /// Whether the study is saved, for the status line.
+    std::string savedWords() const;
+
     /// The title of the screen: product, effect metric, file.
     std::string SetCaption() const;
 

@@ -48,6 +48,8 @@ void addPanels(ControlRegistry& registry, const MainScreen& s) {
                                                            {"pnlPowerOuter", &s.pnlPowerOuter},
                                                            {"pnlPowerBar", &s.pnlPowerBar},
                                                            {"pnlPowerNote", &s.pnlPowerNote},
+                                                           {"pnlPowerTick", &s.pnlPowerTick},
+                                                           {"pnlMaxCost", &s.pnlMaxCost},
                                                            {"pnlCost", &s.pnlCost},
                                                            {"pnlCostOuter", &s.pnlCostOuter},
                                                            {"pnlCostBar", &s.pnlCostBar},
@@ -76,33 +78,36 @@ void addOutlines(ControlRegistry& registry, const MainScreen& s) {
 
 }  // namespace
 
-const std::array<StripCellName, 8> stripCells = {{{"pnlD", "spnD", "txtd", &MainScreen::pnlD},
-                                                  {"pnlMean", "spnMean", "txtMean", &MainScreen::pnlMean},
-                                                  {"pnlSD", "spnSD", "txtSD", &MainScreen::pnlSD},
-                                                  {"pnlPrev", "spnPrev", "txtPrev", &MainScreen::pnlPrev},
-                                                  {"pnlP2", "spnP2", "txtP2", &MainScreen::pnlP2},
-                                                  {"pnlOR", "spnOR", "txtOR", &MainScreen::pnlOR},
-                                                  {"pnlRR", "spnRR", "txtRR", &MainScreen::pnlRR},
-                                                  {"pnlRD", "spnRD", "txtRD", &MainScreen::pnlRD}}};
+const std::array<StripCellName, 8> stripCells = {
+    {{"pnlD", "spnD", "txtd", "popd", &MainScreen::pnlD},
+     {"pnlMean", "spnMean", "txtMean", "popMean", &MainScreen::pnlMean},
+     {"pnlSD", "spnSD", "txtSD", "popSD", &MainScreen::pnlSD},
+     {"pnlPrev", "spnPrev", "txtPrev", "popPrevalence", &MainScreen::pnlPrev},
+     {"pnlP2", "spnP2", "txtP2", "popP2", &MainScreen::pnlP2},
+     {"pnlOR", "spnOR", "txtOR", "popOR", &MainScreen::pnlOR},
+     {"pnlRR", "spnRR", "txtRR", "popRR", &MainScreen::pnlRR},
+     {"pnlRD", "spnRD", "txtRD", "popRD", &MainScreen::pnlRD}}};
 
 const std::array<LevelCellName, 15> levelCells = {
-    {{"pnlNT", "spnNT", "txtNT", &MainScreen::pnlNT},
-     {"pnlNC", "spnNC", "txtNC", &MainScreen::pnlNC},
-     {"pnlNB", "spnNB", "txtNB", &MainScreen::pnlNB},
-     {"pnlPop", "spnPop", "txtPop", &MainScreen::pnlPop},
-     {"pnlICC", "spnIcc", "txtICC", &MainScreen::pnlICC},
-     {"pnlMRange", "spnMRange", "txtMRange", &MainScreen::pnlMRange},
-     {"pnlTauSq", "spnTauSq", "txtTauSq", &MainScreen::pnlTauSq},
-     {"pnlDRange", "spnDRange", "txtDRange", &MainScreen::pnlDRange},
-     {"pnlOmega", "spnOmega", "txtOmega", &MainScreen::pnlOmega},
-     {"pnlModel", "spnModel", "txtModel", &MainScreen::pnlModel},
-     {"pnlQ", "spnQ", "txtQ", &MainScreen::pnlQ},
-     {"pnlRsq", "spnRsq", "txtRsq", &MainScreen::pnlRsq},
-     {"pnlCostT", "spnCostT", "txtCostT", &MainScreen::pnlCostT},
-     {"pnlCostC", "spnCostC", "txtCostC", &MainScreen::pnlCostC},
-     {"pnlCostB", "spnCostB", "txtCostB", &MainScreen::pnlCostB}}};
+    {{"pnlNT", "spnNT", "txtNT", "popLinkN{}", &MainScreen::pnlNT},
+     {"pnlNC", "spnNC", "txtNC", "popLinkN{}", &MainScreen::pnlNC},
+     {"pnlNB", "spnNB", "txtNB", "popLinkN{}B", &MainScreen::pnlNB},
+     {"pnlPop", "spnPop", "txtPop", "", &MainScreen::pnlPop},
+     {"pnlICC", "spnIcc", "txtICC", "popICC", &MainScreen::pnlICC},
+     {"pnlMRange", "spnMRange", "txtMRange", "popMRange", &MainScreen::pnlMRange},
+     {"pnlTauSq", "spnTauSq", "txtTauSq", "popTauSq", &MainScreen::pnlTauSq},
+     {"pnlDRange", "spnDRange", "txtDRange", "popDRange", &MainScreen::pnlDRange},
+     {"pnlOmega", "spnOmega", "txtOmega", "popOmega", &MainScreen::pnlOmega},
+     {"pnlModel", "spnModel", "txtModel", "", &MainScreen::pnlModel},
+     {"pnlQ", "spnQ", "txtQ", "popR-squared", &MainScreen::pnlQ},
+     {"pnlRsq", "spnRsq", "txtRsq", "popR-squared", &MainScreen::pnlRsq},
+     {"pnlCostT", "spnCostT", "txtCostT", "popLinkCost{}", &MainScreen::pnlCostT},
+     {"pnlCostC", "spnCostC", "txtCostC", "popLinkCost{}", &MainScreen::pnlCostC},
+     {"pnlCostB", "spnCostB", "txtCostB", "popCostB{}", &MainScreen::pnlCostB}}};
 
 MainScreen::MainScreen() {
+    pnlCost.Caption = "Cost = n/a";
+    pnlCost.number = "n/a";
     for (std::size_t i = 0; i < columnCount; ++i) {
         columns[i].key = columnRows[i].key;
         columns[i].heading.Caption = columnRows[i].heading;

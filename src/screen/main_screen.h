@@ -55,14 +55,17 @@ inline constexpr std::size_t columnCount = 13;
 struct MainScreen {
     Panel pnlTitle;       ///< the design in words
     Panel pnlSense;       ///< levels and randomization in one sentence
-    Panel pnlPower;       ///< power as digits, or a request for other data
+    Cell pnlPower;        ///< power as digits, or a request for other data
     Panel pnlPowerOuter;  ///< frame of the power bar
     Panel pnlPowerBar;
     Panel pnlPowerNote;  ///< whether the required power is reached
-    Panel pnlCost{.Caption = "Cost = n/a"};
+    bool powerIsReached = false;
+    Panel pnlPowerTick;  ///< the required power on the bar: its text, and its place as the flood
+    Cell pnlCost;
     Panel pnlCostOuter;
     Panel pnlCostBar;
     Panel pnlCostNote;  ///< units in the whole study
+    Panel pnlMaxCost;   ///< the top of the cost bar
 
     Cell pnlD, pnlMean, pnlSD, pnlPrev, pnlP2, pnlOR, pnlRR, pnlRD;
     Panel pnldW, pnldT;          ///< the other form of d
@@ -101,12 +104,14 @@ struct StripCellName {
     std::string_view panel;
     std::string_view spin;
     std::string_view field;
+    std::string_view popup;  ///< band that a right click opens
     Cell MainScreen::*cell;
 };
 struct LevelCellName {
     std::string_view panel;
     std::string_view spin;
     std::string_view field;
+    std::string_view popup;  ///< band that a right click opens; "{}" stands for the level
     PerLevel<Cell> MainScreen::*cells;
 };
 extern const std::array<StripCellName, 8> stripCells;

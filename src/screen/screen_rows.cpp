@@ -177,10 +177,14 @@ void writeOtherForm(const Study& s, MainScreen& screen) {
         screen.pnldW.Caption = fixedText(GetDW(s), decimalsOfOtherForm);
 }
 
-void writeWords(const Study& s, MainScreen& screen) {
+void writeWords(const Study& s, const SessionSettings& settings, MainScreen& screen) {
+    screen.pnlMaxCost.Caption = costText(s.MaxCost, settings.currency);
     screen.pnlTitle.Caption = designTitle(s);
     screen.pnlSense.Caption = designSentence(s);
     screen.pnlPowerNote.Caption = powerNote(s);
+    screen.powerIsReached = s.result.xValid == 1 && s.result.txtPower >= s.ReqPower;
+    screen.pnlPowerTick.Flood = s.ReqPower * 100;
+    screen.pnlPowerTick.Caption = shortestText(roundHalfToEven(s.ReqPower * 100)) + "% required";
     screen.pnlCostNote.Caption = unitsNote(s);
 }
 

@@ -24,7 +24,7 @@ void writeRows(const Study& study, const SessionSettings& settings, MainScreen& 
 void writeOtherForm(const Study& study, MainScreen& screen);
 
 /// Title, sentence and the quiet lines under power and cost.
-void writeWords(const Study& study, MainScreen& screen);
+void writeWords(const Study& study, const SessionSettings& settings, MainScreen& screen);
 
 /// Which rows, cells, arrows and columns are shown, and the headings that follow the modes.
 void writeVisibility(const Study& study, MainScreen& screen);

@@ -101,7 +101,7 @@ constexpr ToolRow toolRows[] = {
     {"Do not allow low cell counts", "&Do not allow low cell counts",
      "Keep the searches from low cell counts", choice},
     // Windows
-    {"gfrmScenarios", "&Show scenarios", "Open the table of scenarios", window},
+    {"gfrmScenarios", "&Scenarios", "Open the table of scenarios", window},
     {"Add scenario", "&Add scenario", "Keep the study as a scenario", command},
     {"Restore scenario", "&Restore scenario", "Put the selected scenario on the screen", command},
     {"gfrmOptimal", "&Optimal design", "Find the cheapest design for a required power", window},
@@ -211,12 +211,14 @@ void addDecimalTools(std::vector<Tool>& tools) {
     }
 }
 
-// Entries of a band: "-" is a line, "+" leads to another band.
+// Entries of a band: "-" is a line, ">" the gap before the right end, "+" leads to another band.
 std::vector<BandEntry> entriesOf(const std::vector<std::string>& names) {
     std::vector<BandEntry> entries;
     for (const std::string& name : names) {
         if (name == "-")
             entries.push_back({BandEntry::Kind::line, ""});
+        else if (name == ">")
+            entries.push_back({BandEntry::Kind::stretch, ""});
         else if (name[0] == '+')
             entries.push_back({BandEntry::Kind::band, name.substr(1)});
         else
@@ -350,7 +352,7 @@ std::vector<BandRow> barRows() {
           "-",
           "gfrmPrint",
           "Graph",
-          "-",
+          ">",
           "gfrmTips",
           "gfrmDetails"}},
     };

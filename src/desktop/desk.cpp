@@ -1,0 +1,65 @@
+// Between the windows and the program.
+#include "desktop/desk.h"
+
+#include "base/arithmetic_fault.h"
+
+namespace lorvane::desktop {
+
+Desk::Desk(Application& application, MessageBoxes& messages)
+    : application_(application), messages_(messages) {
+    application_.whenShown([this] { emit shown(); });
+}
+
+template <typename Event>
+void Desk::act(Event event) {
+    try {
+        event();
+    } catch (const ArithmeticFault& fault) {
+        messages_.show({"The study cannot be computed", fault.what(), {Answer::OK}});
+    } catch (const UseProblem& problem) {
+        messages_.show({"That is not available", problem.what(), {Answer::OK}});
+    }
+}
+
+void Desk::tool(const std::string& name) {
+    act([&] { application_.tool(name); });
+}
+
+void Desk::click(const std::string& control) {
+    act([&] { application_.click(control); });
+}
+
+void Desk::type(const std::string& control, const QString& text) {
+    act([&] { application_.type(control, text.toStdString()); });
+}
+
+void Desk::close(const std::string& window) {
+    act([&] { application_.close(window); });
+}
+
+void Desk::spin(const std::string& control, int direction, Design::SpinMode mode) {
+    act([&] { application_.spin(control, direction, mode); });
+}
+
+void Desk::spinReleased() {
+    act([&] { application_.spinReleased(); });
+}
+
+void Desk::openValue(const std::string& field) {
+    act([&] { application_.openValue(field); });
+}
+
+void Desk::open(const QString& path) {
+    try {
+        act([&] { application_.open(path.toStdString()); });
+    } catch (const FileProblem& problem) {
+        emit hinted(QString::fromStdString(problem.what()));
+    }
+    emit shown();
+}
+
+void Desk::suspend() { application_.suspendForms(); }
+
+void Desk::restore() { application_.restoreForms(); }
+
+}  // namespace lorvane::desktop

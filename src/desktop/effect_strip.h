@@ -1,0 +1,49 @@
+// The strip of the effect: its value, what belongs to it, alpha and tails.
+#pragma once
+
+#include <vector>
+
+#include "desktop/cell_binding.h"
+#include "desktop/kit/card.h"
+
+class QHBoxLayout;
+class QLabel;
+
+namespace lorvane::desktop {
+
+class MenuButton;
+class NumberLabel;
+
+class EffectStrip : public Card {
+    Q_OBJECT
+
+public:
+    EffectStrip(Desk& desk, Menus& menus, QWidget* parent = nullptr);
+
+    void sync();
+
+    /// The cell of a panel's name; null when it is not on the strip.
+    ValueCell* cell(const std::string& panel) const;
+
+private:
+    /// A caption over a widget, shown and hidden together.
+    struct Field {
+        QWidget* box;
+        QLabel* caption;
+    };
+    Field addField(QHBoxLayout* row, const QString& caption, QWidget* widget);
+    void addCell(QHBoxLayout* row, const std::string& panel, const QString& caption, bool large, int width);
+    void addOtherForm(QHBoxLayout* row);
+    void addAlpha(QHBoxLayout* row, Menus& menus);
+
+    Desk& desk_;
+    Menus& menus_;
+    std::vector<std::pair<CellBinding, Field>> cells_;
+    Field otherForm_{};
+    NumberLabel* otherFormValue_ = nullptr;
+    Field derived_{};
+    NumberLabel* derivedValue_ = nullptr;
+    MenuButton* alpha_ = nullptr;
+};
+
+}  // namespace lorvane::desktop

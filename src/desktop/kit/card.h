@@ -1,0 +1,36 @@
+// The sheet on which everything stands: round corners and a line, or a tinted band. Knows nothing of what
+// stands on it.
+#pragma once
+
+#include <QWidget>
+
+namespace lorvane::desktop {
+
+enum class CardTone {
+    Plain,    ///< a card
+    Problem,  ///< a card that tells of a problem
+    Accent,   ///< a band with a result
+    Quiet,    ///< a band with something past or unimportant
+};
+
+/// Paints the sheet of a card; for widgets that are cards and paint their content too.
+void paintCard(QPainter& painter, const QRectF& bounds, CardTone tone);
+
+/// A card for other widgets. It sets no margins.
+class Card : public QWidget {
+    Q_OBJECT
+
+public:
+    explicit Card(CardTone tone = CardTone::Plain, QWidget* parent = nullptr);
+
+    void setTone(CardTone tone);
+    CardTone tone() const { return tone_; }
+
+protected:
+    void paintEvent(QPaintEvent* event) override;
+
+private:
+    CardTone tone_;
+};
+
+}  // namespace lorvane::desktop

@@ -1,0 +1,78 @@
+// The program's line drawings. Knows their names and colours, not where they are used.
+#pragma once
+
+class QColor;
+class QIcon;
+class QPainter;
+class QRectF;
+
+namespace lorvane::desktop {
+
+/// The drawings, one file each.
+enum class Icon {
+    AddScenario,
+    ArrowDown,
+    ArrowUp,
+    Block,
+    Book,
+    Check,
+    ChevronDown,
+    ChevronLeft,
+    ChevronRight,
+    ChevronUp,
+    Close,
+    Coin,
+    Copy,
+    Corner,
+    CostBar,
+    CostDigits,
+    Details,
+    Edit,
+    Export,
+    Film,
+    First,
+    Fit,
+    Font,
+    Gear,
+    Graph,
+    Guide,
+    Last,
+    Legend,
+    Link,
+    MaxCost,
+    Mdes,
+    More,
+    Nest,
+    New,
+    Open,
+    Optimal,
+    Plus,
+    PowerBar,
+    PowerDigits,
+    Print,
+    Report,
+    Restore,
+    Save,
+    Scenarios,
+    Sections,
+    Series,
+    Shuffle,
+    Table,
+    Target,
+    Trash,
+    Warning,
+    Width,
+    XAxis,
+};
+
+/// Number of drawings; Icon values run from 0.
+inline constexpr int IconCount = static_cast<int>(Icon::XAxis) + 1;
+
+/// A drawing as an icon that takes the colours of the theme in use: second text at rest, accent when checked,
+/// quiet when disabled. Asked for a wider than square size (26 x 20 beside a word) it stands at the left.
+QIcon icon(Icon name);
+
+/// Paints a drawing in one colour into the largest square at the left of an area.
+void drawIcon(QPainter& painter, Icon name, const QRectF& area, const QColor& colour);
+
+}  // namespace lorvane::desktop

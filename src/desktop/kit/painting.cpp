@@ -1,0 +1,37 @@
+// Plates and dots, antialiased, with their lines inside the bounds.
+#include "desktop/kit/painting.h"
+
+#include <QPainter>
+#include <QPen>
+
+namespace lorvane::desktop {
+
+void fillPlate(QPainter& painter, const QRectF& bounds, double radius, const QColor& fill) {
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(fill);
+    painter.drawRoundedRect(bounds, radius, radius);
+}
+
+void strokePlate(QPainter& painter, const QRectF& bounds, double radius, const QColor& line, double width) {
+    const double half = width / 2;
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(QPen(line, width));
+    painter.setBrush(Qt::NoBrush);
+    painter.drawRoundedRect(bounds.adjusted(half, half, -half, -half), radius - half, radius - half);
+}
+
+void drawPlate(QPainter& painter, const QRectF& bounds, double radius, const QColor& fill,
+               const QColor& line) {
+    fillPlate(painter, bounds.adjusted(0.5, 0.5, -0.5, -0.5), radius, fill);
+    strokePlate(painter, bounds, radius, line, 1);
+}
+
+void drawDot(QPainter& painter, const QPointF& centre, double diameter, const QColor& fill) {
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(fill);
+    painter.drawEllipse(centre, diameter / 2, diameter / 2);
+}
+
+}  // namespace lorvane::desktop

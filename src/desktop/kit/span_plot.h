@@ -1,0 +1,69 @@
+// The drawing of ranges on a common scale: a fading bar for each row about a dashed middle. All numbers and
+// texts are given; it computes no range.
+#pragma once
+
+#include <QList>
+#include <QString>
+
+#include "desktop/kit/painted_text.h"
+
+namespace lorvane::desktop {
+
+/// A row: its name, its range on the scale with the texts of both ends. Scores are drawn in grey.
+struct SpanRow {
+    QString label;
+    double low = 0;
+    double high = 0;
+    bool isScores = false;
+    QString lowText;
+    QString highText;
+    bool operator==(const SpanRow&) const = default;
+};
+
+/// A mark of the scale; the origin's line is stronger.
+struct SpanMark {
+    double at = 0;
+    QString text;
+    bool isOrigin = false;
+    bool operator==(const SpanMark&) const = default;
+};
+
+/// The scale from left to right, its marks, and the dashed middle with its text.
+struct SpanScale {
+    double low = 0;
+    double high = 1;
+    QList<SpanMark> marks;
+    double centre = 0;
+    QString centreText;
+    bool operator==(const SpanScale&) const = default;
+};
+
+class SpanPlot : public PaintedText {
+    Q_OBJECT
+
+public:
+    explicit SpanPlot(QWidget* parent = nullptr);
+
+    /// The height follows from the number of rows.
+    void setContent(const QList<SpanRow>& rows, const SpanScale& scale);
+
+    QSize sizeHint() const override;
+
+protected:
+    void paintEvent(QPaintEvent* event) override;
+
+private:
+    double at(double value) const;
+    double bottom() const;
+    void paintScale(QPainter& painter) const;
+    double lowTextLeft(const SpanRow& row) const;
+    void paintLabel(QPainter& painter, const SpanRow& row, double middle) const;
+    void paintBar(QPainter& painter, const SpanRow& row, double middle) const;
+    void paintEnds(QPainter& painter, const SpanRow& row, double middle) const;
+    void paintCentre(QPainter& painter) const;
+
+    QList<SpanRow> rows_;
+    SpanScale scale_;
+};
+
+}  // namespace lorvane::desktop

@@ -1,0 +1,110 @@
+// The text of the style sheet, with the roles put in by name. Sets nothing.
+#include "desktop/kit/style_sheet.h"
+
+#include "desktop/kit/theme.h"
+
+namespace lorvane::desktop {
+
+namespace {
+
+constexpr const char* Sheet = R"(
+QMenuBar { background: @bar; border: none; padding: 4px 8px 0 8px; spacing: 0; }
+QMenuBar::item { background: transparent; color: @text; padding: 5px 12px; border-radius: 6px; }
+QMenuBar::item:selected, QMenuBar::item:pressed { background: @field; }
+QMenuBar::item:disabled { color: @quiet; }
+
+QMenu { background: @card; border: 1px solid @line; padding: 6px; }
+QMenu::item { color: @text; padding: 6px 22px 6px 10px; border-radius: 4px; min-width: 150px; }
+QMenu::item:selected { background: @accentTint; }
+QMenu::item:disabled { color: @quiet; background: transparent; }
+QMenu::separator { height: 1px; background: @line; margin: 6px 4px; }
+QMenu::icon { padding-left: 6px; }
+
+QToolBar { background: @bar; border: none; border-bottom: 1px solid @line; spacing: 0; padding: 0; }
+QToolBar::separator { width: 1px; background: @line; margin: 11px 9px; }
+
+QToolButton { background: transparent; color: @text; border: none; border-radius: 6px; padding: 0 8px; }
+QToolButton:hover, QToolButton:pressed { background: @field; }
+QToolButton:checked { background: @accentTint; color: @accent; }
+QToolButton:focus { border: 2px solid @accent; padding: 0 6px; }
+QToolButton:disabled { color: @quiet; background: transparent; }
+QToolButton::menu-indicator { image: none; }
+QToolBar QToolButton { margin: 5px 0; min-height: 34px; }
+QToolBar QToolButton:focus { min-height: 30px; }
+
+QPushButton { background: @card; color: @text; border: 1px solid @strongLine; border-radius: 6px;
+              padding: 0 15px; min-height: 30px; min-width: 52px; font-weight: 500; }
+QPushButton:hover, QPushButton:pressed { background: @field; }
+QPushButton:focus { background: @card; border: 2px solid @accent; padding: 0 14px; min-height: 28px; }
+QPushButton:disabled { background: @card; color: @quiet; border: 1px solid @line; }
+QPushButton[primary="true"] { background: @accentFill; color: @onAccent; border: 1px solid @accentFill; }
+QPushButton[primary="true"]:hover, QPushButton[primary="true"]:pressed { background: @accentFillHover;
+              border-color: @accentFillHover; }
+QPushButton[primary="true"]:focus { border: 2px solid @accentFill; }
+QPushButton[primary="true"]:disabled { background: @field; color: @quiet; border: 1px solid @line; }
+QPushButton[flat="true"] { background: transparent; border: none; padding: 0; min-height: 0; min-width: 0; }
+
+QLabel[second="true"] { color: @secondText; }
+
+QLineEdit { background: @card; color: @text; border: 1px solid @strongLine; border-radius: 6px;
+            padding: 0 10px; min-height: 30px; selection-background-color: @textSelection;
+            selection-color: @text; }
+QLineEdit:focus { border: 2px solid @accent; padding: 0 9px; min-height: 28px; }
+QLineEdit:disabled { color: @quiet; border-color: @line; }
+QLineEdit[problem="true"] { background: @problemTint; border: 2px solid @problemOutline; padding: 0 9px;
+            min-height: 28px; }
+
+QTabWidget::pane { border: none; border-top: 1px solid @line; }
+QTabBar { qproperty-drawBase: 0; }
+QTabBar::tab { background: transparent; color: @secondText; border: none; border-bottom: 2px solid transparent;
+               padding: 8px 2px; margin-right: 20px; font-weight: 500; }
+QTabBar::tab:hover { color: @text; }
+QTabBar::tab:selected { color: @accent; border-bottom-color: @accent; }
+QTabBar::tab:disabled { color: @quiet; }
+
+QHeaderView, QTableCornerButton::section { background: @card; border: none; }
+QHeaderView::section { background: transparent; color: @secondText; border: none;
+                       border-bottom: 1px solid @line; padding: 6px 10px; font-size: 9pt; font-weight: 500; }
+
+QStatusBar { background: @page; color: @secondText; border-top: 1px solid @line; min-height: 27px;
+             font-size: 9pt; }
+QStatusBar::item { border: none; }
+QStatusBar QLabel { color: @secondText; font-size: 9pt; padding: 0 14px; }
+)";
+
+/// The names by which the sheet calls the roles. A name that begins another one stands after it.
+struct Name {
+    const char* name;
+    Role role;
+};
+
+constexpr Name Names[] = {
+    {"@accentFillHover", Role::AccentFillHover},
+    {"@accentFill", Role::AccentFill},
+    {"@accentTint", Role::AccentTint},
+    {"@accent", Role::Accent},
+    {"@bar", Role::Bar},
+    {"@card", Role::Card},
+    {"@field", Role::Field},
+    {"@line", Role::Line},
+    {"@onAccent", Role::OnAccent},
+    {"@page", Role::Page},
+    {"@problemOutline", Role::ProblemOutline},
+    {"@problemTint", Role::ProblemTint},
+    {"@quiet", Role::Quiet},
+    {"@secondText", Role::SecondText},
+    {"@strongLine", Role::StrongLine},
+    {"@textSelection", Role::TextSelection},
+    {"@text", Role::Text},
+};
+
+}  // namespace
+
+QString styleSheet(const Theme& theme) {
+    QString sheet = QString::fromLatin1(Sheet);
+    for (const Name& name : Names)
+        sheet.replace(QLatin1String(name.name), theme.colour(name.role).name());
+    return sheet;
+}
+
+}  // namespace lorvane::desktop

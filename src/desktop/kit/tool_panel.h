@@ -1,0 +1,48 @@
+// A floating window of the main window. Whether it closes is for its owner to say; it knows no content.
+#pragma once
+
+#include <optional>
+
+#include <QPoint>
+#include <QWidget>
+
+class QVBoxLayout;
+
+namespace lorvane::desktop {
+
+class ToolPanel : public QWidget {
+    Q_OBJECT
+
+public:
+    enum class Sizing {
+        ToContent,  ///< always as large as its content
+        Free,       ///< the user may resize it
+    };
+
+    explicit ToolPanel(const QString& title, QWidget* owner, Sizing sizing = Sizing::ToContent);
+
+    /// Where the content goes, within the padding of 22.
+    QVBoxLayout* content() const { return content_; }
+
+    /// The place of the frame on the screen when it was last hidden or placed; nothing before the first time.
+    std::optional<QPoint> place() const { return place_; }
+
+    /// The place it takes now, or when it is shown next.
+    void setPlace(const QPoint& place);
+
+signals:
+    /// The user closes the window by its frame. It stays open until the owner hides it.
+    void closeRequested();
+
+protected:
+    void closeEvent(QCloseEvent* event) override;
+    void showEvent(QShowEvent* event) override;
+    void hideEvent(QHideEvent* event) override;
+    void paintEvent(QPaintEvent* event) override;
+
+private:
+    QVBoxLayout* content_;
+    std::optional<QPoint> place_;
+};
+
+}  // namespace lorvane::desktop

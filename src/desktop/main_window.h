@@ -1,0 +1,62 @@
+// The main window: bars, title, effect strip, table of levels, power and cost, status line.
+#pragma once
+
+#include <vector>
+
+#include <QMainWindow>
+
+#include "desktop/desk.h"
+
+class QLabel;
+class QScrollArea;
+class QVBoxLayout;
+
+namespace lorvane::desktop {
+
+class EffectStrip;
+class FigureCard;
+class LevelTable;
+class Menus;
+
+class MainWindow : public QMainWindow {
+    Q_OBJECT
+
+public:
+    explicit MainWindow(Desk& desk);
+
+    /// Copies what has changed from the models.
+    void sync();
+
+    /// The cell of a panel's name, for panels and tests; null when there is none.
+    QWidget* cell(const std::string& panel) const;
+
+    Menus& menus() { return *menus_; }
+
+protected:
+    void closeEvent(QCloseEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
+    void changeEvent(QEvent* event) override;
+
+private:
+    void addBars();
+    QWidget* makeContent();
+    void addTitle(QVBoxLayout* column);
+    void syncPower();
+    void syncCost();
+    void chooseSize();
+
+    Desk& desk_;
+    Menus* menus_;
+    QLabel* title_ = nullptr;
+    QLabel* sense_ = nullptr;
+    QLabel* hint_ = nullptr;
+    QLabel* saved_ = nullptr;
+    QScrollArea* scroll_ = nullptr;
+    EffectStrip* strip_ = nullptr;
+    LevelTable* table_ = nullptr;
+    FigureCard* power_ = nullptr;
+    FigureCard* cost_ = nullptr;
+    QVBoxLayout* page_ = nullptr;
+};
+
+}  // namespace lorvane::desktop

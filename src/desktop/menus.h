@@ -1,0 +1,62 @@
+// Menus, popups and tool bar made from the bands; every entry is one tool and follows it.
+#pragma once
+
+#include <map>
+#include <string>
+#include <vector>
+
+#include <QAction>
+#include <QMenu>
+#include <QPoint>
+
+#include "desktop/desk.h"
+
+class QMenuBar;
+class QToolBar;
+
+namespace lorvane::desktop {
+
+class MenuButton;
+class ToolButton;
+
+class Menus : public QObject {
+    Q_OBJECT
+
+public:
+    explicit Menus(Desk& desk, QWidget* window);
+
+    /// Fills the menu bar from the bands that are menus.
+    void fill(QMenuBar* bar);
+
+    /// Fills the main tool bar: signs with words where the eye needs them, guide and details at the right
+    /// end.
+    void fill(QToolBar* bar);
+
+    /// Opens the popup of a band; nothing for a band without tools.
+    void popup(const std::string& band, const QPoint& place);
+
+    /// The menu of a band, made once.
+    QMenu* menu(const std::string& band);
+
+    /// Leaves the words of the tool bar out where the window is narrow.
+    void setWordsShown(bool shown);
+
+    /// Copies what has changed from the tools.
+    void sync();
+
+private:
+    QAction* action(const std::string& tool);
+    void sync(QAction* action, const Tool& tool);
+    void addEntries(QMenu* menu, const Band& band);
+    void addPowerButton(QToolBar* bar);
+    void addButton(QToolBar* bar, const std::string& tool);
+
+    Desk& desk_;
+    QWidget* window_;
+    std::map<std::string, QAction*> actions_;
+    std::map<std::string, QMenu*> menus_;
+    MenuButton* power_ = nullptr;
+    std::vector<ToolButton*> words_;
+};
+
+}  // namespace lorvane::desktop

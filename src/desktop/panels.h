@@ -1,0 +1,60 @@
+// The floating windows of the study screen: each shows its models while its state in the registry is open.
+#pragma once
+
+#include <memory>
+#include <vector>
+
+#include "desktop/desk.h"
+#include "desktop/kit/tool_panel.h"
+
+namespace lorvane::desktop {
+
+class MainWindow;
+
+/// One floating window and when it is open.
+class PanelView : public QObject {
+    Q_OBJECT
+
+public:
+    PanelView(Desk& desk, ToolPanel* panel, const std::string& name);
+
+    virtual bool isOpen() const = 0;
+    virtual void sync() = 0;
+
+    ToolPanel* panel() const { return panel_; }
+    void setFirstPlace(double x, double y);
+
+    /// Opens, closes and fills the window as the program stands.
+    void follow();
+
+protected:
+    Desk& desk_;
+
+private:
+    ToolPanel* panel_;
+    double x_ = 0.5;
+    double y_ = 0.4;
+};
+
+/// All floating windows of the study screen.
+class Panels : public QObject {
+    Q_OBJECT
+
+public:
+    Panels(Desk& desk, MainWindow& window);
+
+    void follow();
+
+    /// The floating window of a name, "frmDisplayICC"; null when there is none.
+    ToolPanel* panel(const QString& name) const;
+
+private:
+    template <typename View, typename... More>
+    void add(double x, double y, More&&... more);
+
+    Desk& desk_;
+    MainWindow& window_;
+    std::vector<std::unique_ptr<PanelView>> views_;
+};
+
+}  // namespace lorvane::desktop
