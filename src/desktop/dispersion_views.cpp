@@ -12,6 +12,7 @@
 #include "desktop/kit/push_button.h"
 #include "desktop/kit/span_plot.h"
 #include "desktop/kit/text_style.h"
+#include "desktop/menus.h"
 #include "screen/field_words.h"
 
 namespace lorvane::desktop {
@@ -44,9 +45,9 @@ QList<SpanMark> marksOf(const Schematic& picture) {
 
 }  // namespace
 
-DispersionView::DispersionView(Desk& desk, ToolPanel* panel, const std::string& name, WindowId window,
-                               DispersionModel model)
-    : PanelView(desk, panel, name), window_(window), model_(std::move(model)),
+DispersionView::DispersionView(Desk& desk, ToolPanel* panel, Menus& menus, const std::string& name,
+                               WindowId window, DispersionModel model)
+    : PanelView(desk, panel, name), menus_(menus), window_(window), model_(std::move(model)),
       sentence_(styled(TextStyle::BodyMedium)), plot_(new SpanPlot), footer_(styled(TextStyle::Caption)),
       message_(new MessageCard) {
     auto* grid = new QGridLayout;
@@ -83,6 +84,9 @@ ValueCell* DispersionView::addCell(const PanelColumn& column, int level) {
             [this, spin](int direction) { desk_.spin(spin, direction, Design::SpinMode::tick); });
     connect(cell, &ValueCell::stepFinished, this, [this] { desk_.spinReleased(); });
     connect(cell, &ValueCell::activated, this, [this, field] { desk_.openValue(field); });
+    const std::string popup = column.popup;
+    connect(cell, &ValueCell::contextMenuRequested, this,
+            [this, popup](const QPoint& place) { menus_.popup(popup, place); });
     return cell;
 }
 
@@ -166,9 +170,9 @@ DispersionModel iccModel(const IccPanel& p) {
     return {&p.pnlTitle,
             &p.lblUnit,
             &p.pnlUnit,
-            {{&p.lblIcc, &p.pnlICC, &p.iccSpin, "frmDisplayICC.spnIcc", "txtICC"},
-             {&p.lblSpan, &p.pnlWidth, &p.spanSpin, "frmDisplayICC.spnMRange", "txtMRange"},
-             {&p.lblRange, &p.pnlExample, nullptr, nullptr, nullptr}},
+            {{&p.lblIcc, &p.pnlICC, &p.iccSpin, "frmDisplayICC.spnIcc", "txtICC", "popICC"},
+             {&p.lblSpan, &p.pnlWidth, &p.spanSpin, "frmDisplayICC.spnMRange", "txtMRange", "popMRange"},
+             {&p.lblRange, &p.pnlExample, nullptr, nullptr, nullptr, nullptr}},
             &p.picture,
             &p.pnlMsgOuter,
             &p.pnlMsgInner};
@@ -178,10 +182,10 @@ DispersionModel tauSqModel(const TauSqPanel& p) {
     return {&p.pnlTitle,
             &p.lblUnit,
             &p.pnlUnit,
-            {{&p.lblTauSq, &p.pnlTauSq, &p.tauSqSpin, "frmDisplayTauSq.spnTauSq", "txtTauSq"},
-             {&p.lblSpan, &p.pnlWidth, &p.spanSpin, "frmDisplayTauSq.spnDRange", "txtDRange"},
-             {&p.lblOmega, &p.pnlOmega, &p.omegaSpin, "frmDisplayTauSq.spnOmega", "txtOmega"},
-             {&p.lblRange, &p.pnlExample, nullptr, nullptr, nullptr}},
+            {{&p.lblTauSq, &p.pnlTauSq, &p.tauSqSpin, "frmDisplayTauSq.spnTauSq", "txtTauSq", "popTauSq"},
+             {&p.lblSpan, &p.pnlWidth, &p.spanSpin, "frmDisplayTauSq.spnDRange", "txtDRange", "popDRange"},
+             {&p.lblOmega, &p.pnlOmega, &p.omegaSpin, "frmDisplayTauSq.spnOmega", "txtOmega", "popOmega"},
+             {&p.lblRange, &p.pnlExample, nullptr, nullptr, nullptr, nullptr}},
             &p.picture,
             &p.pnlMsgOuter,
             &p.pnlMsgInner};
@@ -189,15 +193,15 @@ DispersionModel tauSqModel(const TauSqPanel& p) {
 
 }  // namespace
 
-IccView::IccView(Desk& desk, ToolPanel* panel)
-    : DispersionView(desk, panel, "frmDisplayICC", WindowId::frmDisplayICC,
+IccView::IccView(Desk& desk, ToolPanel* panel, Menus& menus)
+    : DispersionView(desk, panel, menus, "frmDisplayICC", WindowId::frmDisplayICC,
                      iccModel(desk.design().iccPanel())) {
     addButton(desk.design().iccPanel().cmdDelta, "frmDisplayICC.cmdDelta");
     addButton(desk.design().iccPanel().cmdOptions, "frmDisplayICC.cmdOptions");
 }
 
-TauSqView::TauSqView(Desk& desk, ToolPanel* panel)
-    : DispersionView(desk, panel, "frmDisplayTauSq", WindowId::frmDisplayTauSq,
+TauSqView::TauSqView(Desk& desk, ToolPanel* panel, Menus& menus)
+    : DispersionView(desk, panel, menus, "frmDisplayTauSq", WindowId::frmDisplayTauSq,
                      tauSqModel(desk.design().tauSqPanel())) {}
 
 }  // namespace lorvane::desktop

@@ -11,6 +11,7 @@ class QLabel;
 
 namespace lorvane::desktop {
 
+class Menus;
 class MessageCard;
 class PushButton;
 class SpanPlot;
@@ -22,6 +23,7 @@ struct PanelColumn {
     const PerLevel<bool>* spins;  ///< null where the column is only read
     const char* spin;             ///< stem of the arrows, "frmDisplayICC.spnIcc"
     const char* field;            ///< stem of the field
+    const char* popup;            ///< band of a right click
 };
 
 /// The models behind one of the two panels.
@@ -39,7 +41,7 @@ class DispersionView : public PanelView {
     Q_OBJECT
 
 public:
-    DispersionView(Desk& desk, ToolPanel* panel, const std::string& name, WindowId window,
+    DispersionView(Desk& desk, ToolPanel* panel, Menus& menus, const std::string& name, WindowId window,
                    DispersionModel model);
 
     bool isOpen() const override;
@@ -60,6 +62,7 @@ private:
     void syncRow(const Row& row);
     void syncPicture();
 
+    Menus& menus_;
     WindowId window_;
     DispersionModel model_;
     std::vector<QLabel*> heads_;
@@ -75,14 +78,14 @@ class IccView final : public DispersionView {
     Q_OBJECT
 
 public:
-    IccView(Desk& desk, ToolPanel* panel);
+    IccView(Desk& desk, ToolPanel* panel, Menus& menus);
 };
 
 class TauSqView final : public DispersionView {
     Q_OBJECT
 
 public:
-    TauSqView(Desk& desk, ToolPanel* panel);
+    TauSqView(Desk& desk, ToolPanel* panel, Menus& menus);
 };
 
 }  // namespace lorvane::desktop

@@ -67,7 +67,7 @@ QFrame* separator(QWidget* parent) {
 EffectStrip::EffectStrip(Desk& desk, Menus& menus, QWidget* parent)
     : Card(CardTone::Plain, parent), desk_(desk), menus_(menus) {
     auto* row = new QHBoxLayout(this);
-    row->setContentsMargins(18, 10, 18, 12);
+    row->setContentsMargins(18, 9, 18, 9);
     row->setSpacing(22);
     cells_.reserve(std::size(cellRows));
     for (const CellRow& cell : cellRows)

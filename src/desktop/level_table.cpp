@@ -4,6 +4,7 @@
 #include <QContextMenuEvent>
 #include <QLabel>
 #include <QPainter>
+#include <algorithm>
 
 #include "base/names.h"
 #include "desktop/kit/text_style.h"
@@ -26,6 +27,7 @@ constexpr int unitsWidth = 94, iccWidth = 82, effectWidth = 98, modelWidth = 98,
               rsqWidth = 82, costsWidth = 110;
 constexpr int nameWidth = 150;
 constexpr int smallestGap = 18;
+constexpr int pairGap = 14;  // between covariates and R-sq
 
 enum Head {
     levelHead,
@@ -70,7 +72,7 @@ const std::string& headingOf(const MainScreen& screen, ColumnId first, ColumnId 
 }  // namespace
 
 LevelTable::LevelTable(Desk& desk, Menus& menus, QWidget* parent)
-    : Card(CardTone::Plain, parent), desk_(desk), rail_(new LevelRail(this)), overlay_(nullptr) {
+    : Card(CardTone::Plain, parent), desk_(desk), menus_(menus), rail_(new LevelRail(this)), overlay_(nullptr) {
     setAccessibleName(tr("Levels of the study"));
     addHeads();
     for (int level = highestLevel; level >= lowestLevel; --level)
@@ -84,8 +86,46 @@ void LevelTable::addHeads() {
         auto* label = new QLabel(this);
         label->setFont(textFont(TextStyle::CaptionStrong));
         label->setProperty("second", true);
+        label->installEventFilter(this);
         heads_.push_back(label);
     }
+}
+
+// The column that a head stands for, as the study shows it.
+std::string LevelTable::columnOf(int head) const {
+    const MainScreen& screen = desk_.design().screen();
+    const auto shown = [&](ColumnId id) { return screen.column(id).heading.Visible; };
+    switch (head) {
+    case levelHead:
+        return "colLevels";
+    case unitsHead:
+        return "colUnits";
+    case dispersionHead:
+        return shown(ColumnId::icc) ? "colICC" : "colMSpan";
+    case effectHead:
+        return shown(ColumnId::tauSq) ? "colTauSq" : shown(ColumnId::dSpan) ? "colDSpan" : "colOmega";
+    case modelHead:
+        return "colModel";
+    case costsHead:
+        return "colCost";
+    default:
+        return "colRsq";
+    }
+}
+
+// A click on a head asks for its details, a right click opens the menu of its dispersion.
+bool LevelTable::eventFilter(QObject* watched, QEvent* event) {
+    const auto head = std::find(heads_.begin(), heads_.end(), watched);
+    if (head == heads_.end())
+        return Card::eventFilter(watched, event);
+    const int number = static_cast<int>(head - heads_.begin());
+    if (event->type() == QEvent::MouseButtonPress)
+        desk_.click(columnOf(number));
+    if (event->type() == QEvent::ContextMenu && number == dispersionHead)
+        menus_.popup("popICCView", static_cast<QContextMenuEvent*>(event)->globalPos());
+    if (event->type() == QEvent::ContextMenu && number == effectHead)
+        menus_.popup("popTauSqView", static_cast<QContextMenuEvent*>(event)->globalPos());
+    return false;
 }
 
 void LevelTable::addLevel(Menus& menus, int level) {
@@ -139,7 +179,23 @@ int LevelTable::heightOf(bool compact) const {
 
 QSize LevelTable::sizeHint() const { return {1240, heightOf(compact_)}; }
 
-QSize LevelTable::minimumSizeHint() const { return {1090, heightOf(compact_)}; }
+QSize LevelTable::minimumSizeHint() const {
+    const Widths widths = this->widths();
+    return {widths.fixed + widths.gaps * smallestGap, heightOf(compact_)};
+}
+
+// The columns that every study shows, and that of the effect where there are blocks.
+LevelTable::Widths LevelTable::widths() const {
+    const int effect = desk_.study().isHierarchical() ? 0 : effectWidth;
+    return {leftMargin + railWidth + nameWidth + 2 * (armGap + armWidth) + pairGap + rightMargin + unitsWidth +
+                dispersionWidth() + effect + modelWidth + covariatesWidth + rsqWidth + costsWidth,
+            effect > 0 ? 6 : 5};
+}
+
+// A span takes more digits than an ICC.
+int LevelTable::dispersionWidth() const {
+    return desk_.design().screen().column(ColumnId::mSpan).heading.Visible ? effectWidth : iccWidth;
+}
 
 int LevelTable::rowTop(int level) const {
     const Metrics m = metrics(compact_);
@@ -148,38 +204,30 @@ int LevelTable::rowTop(int level) const {
 
 // Columns from left to right: the spare width is shared 5 to 2 by the name and the gaps between columns.
 LevelTable::Places LevelTable::places() const {
-    const MainScreen& screen = desk_.design().screen();
     Places p;
     p.units = {0, unitsWidth, true};
-    p.dispersion = {0, iccWidth, true};
+    p.dispersion = {0, dispersionWidth(), true};
     p.effect = {0, effectWidth, !desk_.study().isHierarchical()};
     p.model = {0, modelWidth, true};
     p.covariates = {0, covariatesWidth, true};
     p.rsq = {0, rsqWidth, true};
     p.costs = {0, costsWidth, true};
-    if (screen.column(ColumnId::mSpan).heading.Visible)
-        p.dispersion.width = effectWidth;
     ColumnPlace* const columns[] = {&p.units, &p.dispersion, &p.effect, &p.model, &p.covariates, &p.costs};
-    int fixed = leftMargin + railWidth + nameWidth + 2 * (armGap + armWidth) + 14 + rsqWidth + rightMargin;
-    int gaps = 0;
-    for (const ColumnPlace* column : columns) {
-        fixed += column->shown ? column->width : 0;
-        gaps += column->shown ? 1 : 0;
-    }
-    const int spare = std::max(width() - fixed, gaps * smallestGap);
-    const int part = spare / (5 + 2 * gaps);
+    const Widths widths = this->widths();
+    const int spare = std::max(width() - widths.fixed, widths.gaps * smallestGap);
+    const int part = std::max((spare - widths.gaps * smallestGap) / (5 + 2 * widths.gaps), 0);
     p.name = leftMargin + railWidth + 1;
     int left = p.name + nameWidth + 5 * part;
     for (ColumnPlace* column : columns) {
         if (!column->shown)
             continue;
         column->left = left;
-        left += column->width + 2 * part;
+        left += column->width + smallestGap + 2 * part;
         if (column == &p.units)
             left += armGap + armWidth;
         if (column == &p.covariates) {
-            p.rsq.left = column->left + column->width + 14;
-            left += 14 + rsqWidth;
+            p.rsq.left = column->left + column->width + pairGap;
+            left += pairGap + rsqWidth;
         }
     }
     p.costs.left = width() - rightMargin - armWidth - armGap - costsWidth;

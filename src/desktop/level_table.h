@@ -36,6 +36,7 @@ public:
 protected:
     void resizeEvent(QResizeEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
+    bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
     struct Metrics {
@@ -68,7 +69,18 @@ private:
     };
     Places places() const;
 
+    /// What the columns take at least, and the gaps between them that share the rest.
+    struct Widths {
+        int fixed;
+        int gaps;
+    };
+    Widths widths() const;
+    int dispersionWidth() const;
+
+    std::string columnOf(int head) const;
+
     Desk& desk_;
+    Menus& menus_;
     bool compact_ = false;
     LevelRail* rail_;
     std::vector<QLabel*> heads_;

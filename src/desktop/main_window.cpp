@@ -8,8 +8,10 @@
 #include <QMenuBar>
 #include <QScrollArea>
 #include <QStatusBar>
+#include <QTimer>
 #include <QToolBar>
 #include <QVBoxLayout>
+#include <algorithm>
 
 #include "desktop/effect_strip.h"
 #include "desktop/kit/figure_card.h"
@@ -23,9 +25,23 @@ namespace {
 
 constexpr int pageMargin = 20;
 constexpr int widest = 1600;
-constexpr int narrow = 1180;     // below, the words of the tool bar go
-constexpr int barsHeight = 122;  // menu bar, tool bar and status line
+constexpr int narrow = 1180;  // below, the words of the tool bar go
+constexpr int menuHeight = 30;
+constexpr int toolHeight = 44;
 constexpr int smallestCards = 88;
+constexpr int smallestScroll = 120;
+
+// Margins and gaps of the page, and the height of the title block.
+struct Spacing {
+    int top, bottom, gap, title;
+};
+constexpr Spacing usual{18, 18, 14, 46};
+constexpr Spacing tight{10, 12, 10, 39};
+
+// Height of a page whose strip and table together have a height.
+int heightWith(const Spacing& spacing, int stripAndTable) {
+    return spacing.top + spacing.title + 3 * spacing.gap + stripAndTable + smallestCards + spacing.bottom;
+}
 
 QLabel* textLabel(TextStyle style) {
     auto* label = new QLabel;
@@ -61,12 +77,13 @@ MainWindow::MainWindow(Desk& desk) : desk_(desk), menus_(new Menus(desk, this)) 
 
 void MainWindow::addBars() {
     menus_->fill(menuBar());
+    menuBar()->setFixedHeight(menuHeight);
     auto* bar = new QToolBar(this);
     bar->setWindowTitle(tr("Main tool bar"));
     bar->setMovable(false);
     bar->setFloatable(false);
     bar->setContextMenuPolicy(Qt::PreventContextMenu);
-    bar->setFixedHeight(46);
+    bar->setFixedHeight(toolHeight);
     bar->layout()->setContentsMargins(0, 0, 0, 0);
     menus_->fill(bar);
     addToolBar(bar);
@@ -78,7 +95,7 @@ void MainWindow::addTitle(QVBoxLayout* column) {
     sense_ = textLabel(TextStyle::Body);
     sense_->setProperty("second", true);
     auto* block = new QVBoxLayout;
-    block->setSpacing(2);
+    block->setSpacing(0);
     block->addWidget(title_);
     block->addWidget(sense_);
     column->addLayout(block);
@@ -92,18 +109,15 @@ QWidget* MainWindow::makeContent() {
     auto* page = new QWidget;
     page->setMaximumWidth(widest);
     page_ = new QVBoxLayout(page);
-    page_->setContentsMargins(pageMargin, 18, pageMargin, 18);
-    page_->setSpacing(14);
     addTitle(page_);
 
     auto* upper = new QWidget;
-    auto* column = new QVBoxLayout(upper);
-    column->setContentsMargins(0, 0, 0, 0);
-    column->setSpacing(14);
+    upper_ = new QVBoxLayout(upper);
+    upper_->setContentsMargins(0, 0, 0, 0);
     strip_ = new EffectStrip(desk_, *menus_);
     table_ = new LevelTable(desk_, *menus_);
-    column->addWidget(strip_);
-    column->addWidget(table_);
+    upper_->addWidget(strip_);
+    upper_->addWidget(table_);
     scroll_ = new QScrollArea;
     scroll_->setWidget(upper);
     scroll_->setWidgetResizable(true);
@@ -172,19 +186,24 @@ void MainWindow::sync() {
     menus_->sync();
     saved_->setText(shownText(desk_.design().savedWords()));
     chooseSize();
+    if (desk_.design().isClosed())
+        QTimer::singleShot(0, this, &QWidget::close);
 }
 
-// The rows get smaller as soon as they do not fit otherwise.
+// The rows get smaller as soon as they do not fit otherwise; smaller still, strip and table scroll.
 void MainWindow::chooseSize() {
-    const int fixedParts = 18 + 50 + 14 + strip_->sizeHint().height() + 14 + 14 + 96 + 18;
-    const int inner = height() - barsHeight;
-    const bool compact = inner < fixedParts + table_->heightOf(false);
+    const int inner = centralWidget()->height();
+    const int strip = strip_->sizeHint().height();
+    const bool compact = inner < heightWith(usual, strip + table_->heightOf(false));
+    const Spacing& spacing = compact ? tight : usual;
     table_->setCompact(compact);
-    page_->setSpacing(compact ? 10 : 14);
+    page_->setSpacing(spacing.gap);
+    page_->setContentsMargins(pageMargin, spacing.top, pageMargin, spacing.bottom);
+    upper_->setSpacing(spacing.gap);
     title_->setFont(textFont(compact ? TextStyle::CompactTitle : TextStyle::Title));
-    const int wanted = strip_->sizeHint().height() + 14 + table_->heightOf(compact);
-    scroll_->setMaximumHeight(wanted);
-    scroll_->setMinimumHeight(std::min(wanted, std::max(160, inner - 50 - 2 * 18 - 2 * 14 - smallestCards)));
+    const int wanted = strip + spacing.gap + table_->heightOf(compact);
+    const int others = heightWith(spacing, 0) - spacing.gap;
+    scroll_->setFixedHeight(std::clamp(inner - others, smallestScroll, wanted));
     menus_->setWordsShown(width() >= narrow);
 }
 
@@ -212,7 +231,8 @@ void MainWindow::changeEvent(QEvent* event) {
 }
 
 void MainWindow::closeEvent(QCloseEvent* event) {
-    desk_.close("Design");
+    if (!desk_.design().isClosed())
+        desk_.close("Design");
     event->setAccepted(desk_.design().isClosed());
 }
 

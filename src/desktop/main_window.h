@@ -57,6 +57,7 @@ private:
     FigureCard* power_ = nullptr;
     FigureCard* cost_ = nullptr;
     QVBoxLayout* page_ = nullptr;
+    QVBoxLayout* upper_ = nullptr;
 };
 
 }  // namespace lorvane::desktop

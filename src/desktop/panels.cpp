@@ -53,8 +53,8 @@ void Panels::add(double x, double y, More&&... more) {
 
 Panels::Panels(Desk& desk, MainWindow& window) : desk_(desk), window_(window) {
     const Design& design = desk.design();
-    add<IccView>(0.5, 0.2);
-    add<TauSqView>(0.5, 0.3);
+    add<IccView>(0.5, 0.2, window.menus());
+    add<TauSqView>(0.5, 0.3, window.menus());
     add<ProblemView>(0.42, 0.42, "frmProblems", WindowId::frmProblems, design.problems().pnlErrTitle,
                      design.problems().pnlErr);
     add<ProblemView>(0.42, 0.42, "frmProblemES", WindowId::frmProblemES,

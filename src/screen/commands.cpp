@@ -96,10 +96,16 @@ void toggleOmega(Design& design) {
     design.DoRefresh(true);
 }
 
+void about(Design& design) {
+    design.ask("About Lorvane", "Lorvane plans cluster-randomized trials: power and cost of designs of two to four "
+                                "levels.\n\nFree software under the GNU General Public License, version 3 or later.");
+}
+
 using D = Design&;
 
 constexpr Command commands[] = {
     {"Exit", [](D d) { d.closeRequest(); }},
+    {"About", about},
     {"Add a level", addLevel},
     {"Remove a level", removeLevel},
     {"Enter ICC", [](D d) { enterIccMetric(d, IccMetrics::icc, 0); }},
