@@ -1,5 +1,5 @@
 // Time of one silent refresh of each of the eighteen designs, when the degrees of freedom are those of the
-// last refresh and when they are new.
+// last refresh and when they are new; and of one refresh that shows everything.
 #include <benchmark/benchmark.h>
 
 #include <string>
@@ -52,7 +52,22 @@ void silentRefresh(benchmark::State& state, int levels, int randomized, int data
         state.SkipWithError("the study gives no power");
 }
 
+// A refresh with everything on display, four levels and a binary outcome.
+void shownRefresh(benchmark::State& state) {
+    NumericDistributionLibrary library;
+    const FixedLocale locale;
+    ScriptedMessageBoxes messages;
+    Design design(library, locale, messages);
+    fill(design.study(), 4, 2, DataTypes::binary);
+    design.applyChoices();
+    for (auto _ : state) {
+        setTop(design.study(), design.study().txtNB(4) == 20 ? 21 : 20);
+        design.DoRefresh(true);
+    }
+}
+
 void registerAll() {
+    benchmark::RegisterBenchmark("FourLevelRBClassesBinary/shown", shownRefresh);
     for (int levels = 2; levels <= 4; ++levels) {
         for (int randomized = 1; randomized <= levels; ++randomized) {
             for (const int dataType : {DataTypes::means, DataTypes::binary}) {
