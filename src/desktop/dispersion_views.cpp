@@ -121,6 +121,8 @@ void DispersionView::syncRow(const Row& row) {
         row.cells[i]->setVisible(unit.Visible && cell.Visible && column.heading->Visible);
         row.cells[i]->setText(shownText(cell.Caption));
         const bool changeable = column.spins != nullptr && (*column.spins)(row.level);
+        if (!changeable && row.cells[i]->hasFocus())
+            row.cells[i]->clearFocus();
         row.cells[i]->setKind(changeable ? ValueCell::Kind::Spin : ValueCell::Kind::ReadOnly);
         if (column.field != nullptr)
             row.cells[i]->setAccessibleName(

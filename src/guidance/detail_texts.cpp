@@ -61,8 +61,8 @@ DetailText meansText(const Study& s) {
                                            " (across " + levelsAbove(s, 2) + "). ";
     return {"Standardized mean difference, " + form,
             {"The standardized mean difference " + form +
-                 " is defined as the raw difference in means divided by " + deviation,
-             "This value is assumed to be " + fixedText(s.txtd, 3) + ".",
+                 " is defined as the raw difference in means divided by " + deviation +
+                 ". This value is assumed to be " + fixedText(s.txtd, 3) + ".",
              "The standardized mean difference is defined as the difference in means (" + s.treatedName() +
                  " and " + s.controlName() + ") divided by the standard deviation.",
              frame + "It is computed within either treatment group, and assumed to be the same in both."}};

@@ -103,10 +103,10 @@ void SmallDialogs::openMean() {
     mean_.heading.Caption = "Overall mean";
     mean_.txtMean.Text = shortestText(s.txtMean);
     mean_.txtSpan.Text = shortestText(s.txtSD * spanOfOneSd);
-    mean_.explanation.Caption =
-        "Span of scores for " + s.txtName(1) +
-        "The span is 4 standard deviations. This span implies that the scores within " + control + " is " +
-        shortestText(s.txtSD) + ".";
+    mean_.explanation.Caption = "Span of scores for " + s.txtName(1) +
+                                ". The span is 4 standard deviations. This span implies that the standard "
+                                "deviation of scores within " +
+                                control + " is " + shortestText(s.txtSD) + ".";
     open(WindowId::frmSetMean);
 }
 
