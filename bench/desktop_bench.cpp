@@ -1,4 +1,5 @@
-// Time from a click on an arrow to the repainted screen, with four levels, a binary outcome and all panels open.
+// Time from a click on an arrow to the repainted screen, with four levels, a binary outcome and all panels
+// open.
 #include <benchmark/benchmark.h>
 
 #include <QApplication>
@@ -14,10 +15,10 @@ namespace {
 
 using namespace lorvane;
 
-const std::vector<Assignment> fourLevels = {{"NumLevels", 4.0},      {"RandomizedLevel", 2.0}, {"DataType", 2.0},
-                                            {"ICC Metric", 1.0},     {"txtOR", 1.6},           {"txtPrev", 0.4},
-                                            {"txtICC(2)", 0.05},     {"txtICC(3)", 0.05},      {"txtICC(4)", 0.05},
-                                            {"txtTauSq(3)", 0.02},   {"txtTauSq(4)", 0.02},    {"txtNB(4)", 20.0}};
+const std::vector<Assignment> fourLevels = {
+    {"NumLevels", 4.0},  {"RandomizedLevel", 2.0}, {"DataType", 2.0},     {"ICC Metric", 1.0},
+    {"txtOR", 1.6},      {"txtPrev", 0.4},         {"txtICC(2)", 0.05},   {"txtICC(3)", 0.05},
+    {"txtICC(4)", 0.05}, {"txtTauSq(3)", 0.02},    {"txtTauSq(4)", 0.02}, {"txtNB(4)", 20.0}};
 
 void clickToScreen(benchmark::State& state) {
     NumericDistributionLibrary distributions;

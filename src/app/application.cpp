@@ -81,7 +81,12 @@ void Application::handle(Event event) {
             application.events_.announceShown();
         }
     } const announce{*this};
-    event();
+    try {
+        event();
+    } catch (const ArithmeticFault&) {
+        design_.showFault();
+        throw;
+    }
 }
 
 void Application::tool(const std::string& name) {
@@ -89,7 +94,8 @@ void Application::tool(const std::string& name) {
     if (tool == nullptr)
         throw UseProblem("There is no tool \"" + name + "\"; the nearest is \"" + nearestTool(name) + "\".");
     if (!tool->Enabled)
-        throw UseProblem("The tool \"" + name + "\" is not available: " + tool->ToolTipText + ".");
+        throw UseProblem("The tool \"" + name + "\" is not on offer as the study stands (" +
+                         tool->ToolTipText + ").");
     handle([&] { events_.tool(name); });
 }
 
@@ -269,6 +275,7 @@ void Application::save(const std::string& path) {
     SaveGrid(platform_.files, path, scenarios_);
     design_.settings().CurrentFile = path;
     design_.settings().StudyDirty = false;
+    design_.showTools();
 }
 
 void Application::restoreScenario(const std::string& name) {

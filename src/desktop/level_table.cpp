@@ -59,7 +59,7 @@ QString roleWord(const std::string& role) {
 }
 
 // The level of a panel's name, the stem and the index apart.
-QString onOneLine(const std::string& heading) { return shownText(heading).replace('\n', ' '); }
+QString onOneLine(const std::string& heading) { return shownText(heading).replace('\n', ' ').trimmed(); }
 
 const std::string& headingOf(const MainScreen& screen, ColumnId first, ColumnId second, ColumnId third) {
     for (const ColumnId id : {first, second}) {
@@ -72,7 +72,8 @@ const std::string& headingOf(const MainScreen& screen, ColumnId first, ColumnId 
 }  // namespace
 
 LevelTable::LevelTable(Desk& desk, Menus& menus, QWidget* parent)
-    : Card(CardTone::Plain, parent), desk_(desk), menus_(menus), rail_(new LevelRail(this)), overlay_(nullptr) {
+    : Card(CardTone::Plain, parent), desk_(desk), menus_(menus), rail_(new LevelRail(this)),
+      overlay_(nullptr) {
     setAccessibleName(tr("Levels of the study"));
     addHeads();
     for (int level = highestLevel; level >= lowestLevel; --level)
@@ -187,8 +188,9 @@ QSize LevelTable::minimumSizeHint() const {
 // The columns that every study shows, and that of the effect where there are blocks.
 LevelTable::Widths LevelTable::widths() const {
     const int effect = desk_.study().isHierarchical() ? 0 : effectWidth;
-    return {leftMargin + railWidth + nameWidth + 2 * (armGap + armWidth) + pairGap + rightMargin + unitsWidth +
-                dispersionWidth() + effect + modelWidth + covariatesWidth + rsqWidth + costsWidth,
+    return {leftMargin + railWidth + nameWidth + 2 * (armGap + armWidth) + pairGap + rightMargin +
+                unitsWidth + dispersionWidth() + effect + modelWidth + covariatesWidth + rsqWidth +
+                costsWidth,
             effect > 0 ? 6 : 5};
 }
 

@@ -12,12 +12,13 @@ constexpr const char* numberWords[] = {"two", "three", "four"};
 
 std::string lowerName(const Study& s, int level) { return lowerCased(s.txtName(level)); }
 
-// The names of levels, lowest first, joined as the effect size speaks of them: "a", "a and b", "a, b, and c".
+// The names of levels, lowest first, joined as the effect size speaks of them: "a", "a, and b", "a, b, and
+// c".
 std::string levelsAbove(const Study& s, int lowest) {
     std::string names;
     for (int level = lowest; level <= s.NumLevels; ++level) {
         if (level > lowest)
-            names += level < s.NumLevels ? ", " : (s.NumLevels - lowest > 1 ? ", and " : " and ");
+            names += level < s.NumLevels ? ", " : ", and ";
         names += s.txtName(level);
     }
     return names;

@@ -21,8 +21,8 @@ struct Tool {
 
 enum class BandKind { menu, submenu, popup, toolbar };
 
-/// A place on a band: a tool, a line between groups, another band that opens from here, or the gap after which
-/// the entries stand at the right end.
+/// A place on a band: a tool, a line between groups, another band that opens from here, or the gap after
+/// which the entries stand at the right end.
 struct BandEntry {
     enum class Kind { tool, line, band, stretch };
     Kind kind = Kind::tool;

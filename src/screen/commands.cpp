@@ -97,8 +97,9 @@ void toggleOmega(Design& design) {
 }
 
 void about(Design& design) {
-    design.ask("About Lorvane", "Lorvane plans cluster-randomized trials: power and cost of designs of two to four "
-                                "levels.\n\nFree software under the GNU General Public License, version 3 or later.");
+    design.ask("About Lorvane",
+               "Lorvane plans cluster-randomized trials: power and cost of designs of two to four "
+               "levels.\n\nFree software under the GNU General Public License, version 3 or later.");
 }
 
 using D = Design&;
@@ -108,9 +109,7 @@ constexpr Command commands[] = {
     {"About", about},
     {"Add a level", addLevel},
     {"Remove a level", removeLevel},
-    {"Enter ICC", [](D d) { enterIccMetric(d, IccMetrics::icc, 0); }},
     {"Enter span for prevalence", [](D d) { enterIccMetric(d, IccMetrics::span, RangeModes::span); }},
-    {"Enter limits", [](D d) { enterIccMetric(d, IccMetrics::span, RangeModes::limits); }},
     {"Enter tau-squared", [](D d) { enterTauSqMetric(d, TauSqMetrics::tauSquared); }},
     {"Enter range of effects", [](D d) { enterTauSqMetric(d, TauSqMetrics::spanOfEffects); }},
     {"Enter omega", [](D d) { enterTauSqMetric(d, TauSqMetrics::omega); }},
@@ -154,6 +153,8 @@ void linkCosts(Design& design, int level, bool linked) {
 
 void registerLevel(EventRegistry& events, Design& design, int level) {
     events.onTool(levelTool("Randomize Level {}", level), [&design, level] {
+        if (level > design.study().NumLevels)
+            return;
         design.randomize(level);
         design.Reset();
     });
@@ -270,6 +271,10 @@ void removeLevel(Design& design) {
     design.setNumLevels(design.study().NumLevels - 1);
     design.Reset();
 }
+
+void enterIcc(Design& design) { enterIccMetric(design, IccMetrics::icc, RangeModes::span); }
+
+void enterLimits(Design& design) { enterIccMetric(design, IccMetrics::span, RangeModes::limits); }
 
 void ClearVals(Study& s) {
     s.txtd = 0;

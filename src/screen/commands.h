@@ -13,6 +13,10 @@ void registerCommands(EventRegistry& events, Design& design);
 void addLevel(Design& design);
 void removeLevel(Design& design);
 
+/// The dispersion of the outcome entered as ICC, or as limits of the risks.
+void enterIcc(Design& design);
+void enterLimits(Design& design);
+
 /// Clears effect, dispersion, covariates and R-squared; sizes, costs and links stay.
 void ClearVals(Study& study);
 

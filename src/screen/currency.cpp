@@ -7,13 +7,14 @@ namespace lorvane {
 
 Currency detectCurrency(const SystemLocale& locale) {
     const std::string zero = locale.currencyOfZero();
+    const std::size_t firstOther = zero.find_first_not_of("0., ");
     std::string rest;
     for (const char c : zero) {
         if (c != '0' && c != '.' && c != ',')
             rest += c;
     }
     Currency currency{std::string(trimmed(rest))};
-    const bool standsBehind = !currency.Symbol.empty() && zero.find(currency.Symbol) > zero.find('0');
+    const bool standsBehind = firstOther != std::string::npos && firstOther > zero.find('0');
     currency.Position = standsBehind ? CurrencyPositions::after : CurrencyPositions::before;
     return currency;
 }

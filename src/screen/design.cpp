@@ -94,6 +94,7 @@ void Design::applyChoices() {
 }
 
 void Design::Reset() {
+    applyModelRule();
     writeVisibility(study_, screen_);
     DoRefresh(true);
 }
@@ -148,6 +149,11 @@ void Design::showAll() {
     showTools();
 }
 
+void Design::showFault() {
+    computeScreen_.askForData("Please modify data");
+    writeWords(study_, settings_, screen_);
+}
+
 void Design::showTools() {
     writeToolStates(study_, settings_, windows_, tools_);
     caption_.Caption = SetCaption();
@@ -198,7 +204,7 @@ void Design::Spin(const SpinControl& control, int direction, SpinMode mode) {
     const int decimals = field.FmtDecDigits == nullptr ? 0 : *field.FmtDecDigits;
     double value = spun(std::get<double>(readField(field)), direction, limits, decimals, step);
     if (row.snap)
-        value = std::min(snapped(value, step), limits.high);
+        value = std::min(snapped(value, direction, step), limits.high);
     setField(control, value);
     const SilentWhile silent(silentTick_, mode == SpinMode::tick);
     DoRefresh(true);
@@ -219,7 +225,10 @@ void Design::SETDECS(std::string_view fieldStem, int decimals) {
         if (splitName(field.name).stem != fieldStem || field.FmtDecDigits == nullptr)
             continue;
         *field.FmtDecDigits = decimals;
-        writeField(field, *readNumber(fixedText(std::get<double>(readField(field)), decimals)));
+        const double rounded = *readNumber(fixedText(std::get<double>(readField(field)), decimals));
+        // A value that rounding would take out of its limits stays as it was.
+        if (fields_.limitsOf(field).holds(rounded))
+            writeField(field, rounded);
     }
     DoRefresh(true);
 }

@@ -46,6 +46,9 @@ public:
     /// ArithmeticFault when a formula cannot go on; the entered values stay.
     void DoRefresh(bool Show);
 
+    /// After an arithmetic fault: a request for other data in the place of the earlier power.
+    void showFault();
+
     /// Brings tools and title into step with study, settings and windows, without a computation.
     void showTools();
 

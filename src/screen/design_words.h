@@ -14,7 +14,7 @@ std::string designTitle(const Study& study);
 /// "Students within classes within schools. Schools are randomized."
 std::string designSentence(const Study& study);
 
-/// Whether the study's power reaches the required one; empty where there is no power to tell.
+/// Whether the study's power reaches the required one, or why there is none to tell.
 std::string powerNote(const Study& study);
 
 /// The units of every level in the whole study, the top level first: "30 schools, 90 classes".

@@ -103,7 +103,7 @@ bool anyTruncated(const Study& s) {
     bool truncated = false;
     double lower = 0, upper = 0;
     for (int level = 2; s.isBinary() && level <= s.NumLevels && !truncated; ++level)
-        GetRange(s.txtPrev, s.txtMRange(level), lower, upper, truncated);
+        GetRange(s.txtPrev, spanOfLevel(s, level), lower, upper, truncated);
     return truncated;
 }
 
@@ -158,7 +158,7 @@ void writeTauSqTitles(const Study& s, bool showOmega, TauSqPanel& panel) {
     panel.lblRange.Caption = effectRange(s);
     panel.picture.pnlSchematic.Caption =
         effectSentence(s) + joinedNames(namesFrom(s, s.RandomizedLevel + 1)) + " as shown here.";
-    panel.picture.pnlFooter.Caption = "Range is 95% of effects, centered on mean effect.";
+    panel.picture.pnlFooter.Caption = "Range includes 95% of effects, shown centered on mean.";
 }
 
 // A binary study with the span of effects entered shows tau-squared with five decimals, and the span with one

@@ -2,9 +2,11 @@
 #include "screen/small_dialogs.h"
 
 #include <algorithm>
+#include <cmath>
 
 #include "base/names.h"
 #include "base/number_text.h"
+#include "screen/commands.h"
 #include "screen/field_words.h"
 
 namespace lorvane {
@@ -34,6 +36,13 @@ const char* levelRole(int level, int levels) {
     if (level == 1)
         return "Individual";
     return level == levels ? "Cluster" : "Next level";
+}
+
+// Only a value that arrows can move has a dialog of its own.
+bool hasArrows(const std::string& field) {
+    const SpinRows rows = spinRows();
+    const std::string_view stem = splitName(field).stem;
+    return std::any_of(rows.begin(), rows.end(), [&](const SpinRow& row) { return row.field == stem; });
 }
 
 std::string typedName(const TextBox& box) { return std::string(trimmed(box.Text)); }
@@ -95,6 +104,10 @@ void SmallDialogs::applyDelta() {
     design_.DoRefresh(true);
 }
 
+bool SmallDialogs::holds(const char* field, double value) const {
+    return design_.fields().limitsOf(*design_.fields().find(field)).holds(value);
+}
+
 void SmallDialogs::openMean() {
     const Study& s = design_.study();
     const std::string& control = s.controlName();
@@ -102,7 +115,7 @@ void SmallDialogs::openMean() {
     mean_.prompt.Caption = "Enter values for the " + control + " group";
     mean_.heading.Caption = "Overall mean";
     mean_.txtMean.Text = shortestText(s.txtMean);
-    mean_.txtSpan.Text = shortestText(s.txtSD * spanOfOneSd);
+    mean_.txtSpan.Text = shortestText(s.txtMRange(1));
     mean_.explanation.Caption = "Span of scores for " + s.txtName(1) +
                                 ". The span is 4 standard deviations. This span implies that the standard "
                                 "deviation of scores within " +
@@ -115,6 +128,10 @@ void SmallDialogs::applyMean() {
     const auto span = readNumber(mean_.txtSpan.Text);
     if (!mean || !span) {
         refuse(mean_.title.Caption, notANumber);
+        return;
+    }
+    if (!holds("txtMean", *mean) || !holds("txtSD", *span / spanOfOneSd)) {
+        refuse(mean_.title.Caption, "Please enter a mean and a span that scores can have              ");
         return;
     }
     Study& s = design_.study();
@@ -210,6 +227,8 @@ void SmallDialogs::openLimits() {
 }
 
 void SmallDialogs::applyLimits() {
+    if (!limitsOpen_)
+        return;
     Study& s = design_.study();
     for (int level = 2; level <= s.NumLevels; ++level) {
         if (!readNumber(limits_.txtLL(level).Text) || !readNumber(limits_.txtUL(level).Text)) {
@@ -237,6 +256,8 @@ void SmallDialogs::openMaxCost() {
 }
 
 void SmallDialogs::applyMaxCost() {
+    if (!maxCostOpen_)
+        return;
     const auto cost = readNumber(maxCost_.Text);
     const StudyField& field = *design_.fields().find("MaxCost");
     if (!cost || !design_.fields().limitsOf(field).holds(*cost)) {
@@ -250,24 +271,29 @@ void SmallDialogs::applyMaxCost() {
 
 void SmallDialogs::openValue(const std::string& field) {
     const StudyField* found = design_.fields().find(field);
-    if (found == nullptr || !std::holds_alternative<double*>(found->target))
+    if (found == nullptr || !hasArrows(field))
         return;
     const double value = std::get<double>(readField(*found));
     const int decimals = found->FmtDecDigits == nullptr ? 0 : *found->FmtDecDigits;
     value_.field = field;
     value_.title.Caption = fieldWords(design_.study(), field);
     value_.sense.Caption = "Enter a value";
-    value_.limits.Caption = "A number " + design_.fields().limitsOf(*found).words();
+    value_.limits.Caption = (found->FmtDecDigits == nullptr ? "A whole number " : "A number ") +
+                            design_.fields().limitsOf(*found).words();
     value_.txtValue.Text = decimals == 0 ? shortestText(value) : fixedText(value, decimals);
     valueOpen_ = true;
 }
 
 void SmallDialogs::applyValue() {
+    if (!valueOpen_)
+        return;
     const StudyField& field = *design_.fields().find(value_.field);
     const auto number = readNumber(value_.txtValue.Text);
-    const std::string limits = design_.fields().limitsOf(field).words();
-    if (!number || !design_.fields().limitsOf(field).holds(*number)) {
-        refuse(value_.title.Caption, "Please enter a number " + limits + "              ");
+    const FieldLimits limits = design_.fields().limitsOf(field);
+    const bool whole = field.FmtDecDigits == nullptr;
+    if (!number || !limits.holds(*number) || (whole && *number != std::floor(*number))) {
+        refuse(value_.title.Caption, std::string("Please enter a ") + (whole ? "whole number " : "number ") +
+                                         limits.words() + "              ");
         return;
     }
     valueOpen_ = false;
@@ -307,15 +333,24 @@ void SmallDialogs::registerEvents(EventRegistry& events) {
     registerValue(events);
 }
 
+// A button of a dialog that is not open does nothing.
+void SmallDialogs::whileOpen(EventRegistry& events, const char* button, WindowId window,
+                             std::function<void()> press) {
+    events.onClick(button, [this, window, press = std::move(press)] {
+        if (isOpen(window))
+            press();
+    });
+}
+
 void SmallDialogs::registerNumbers(EventRegistry& events) {
     events.onTool("gfrmAlpha", [this] { openAlpha(); });
     events.addTextBox("frmAlpha.txtAlpha", alpha_);
-    events.onClick("frmAlpha.cmdOK", [this] { applyAlpha(); });
+    whileOpen(events, "frmAlpha.cmdOK", WindowId::frmAlpha, [this] { applyAlpha(); });
     events.onClose("frmAlpha", [this] { closeAlphaByFrame(); });
     events.onTool("gfrmDelta", [this] { openDelta(); });
     events.onClick("frmDisplayICC.cmdDelta", [this] { openDelta(); });
     events.addTextBox("frmDelta.txtDelta", delta_);
-    events.onClick("frmDelta.Command1", [this] { applyDelta(); });
+    whileOpen(events, "frmDelta.Command1", WindowId::frmDelta, [this] { applyDelta(); });
     events.onClose("frmDelta", [this] { close(WindowId::frmDelta); });
 }
 
@@ -323,7 +358,7 @@ void SmallDialogs::registerMean(EventRegistry& events) {
     events.onTool("gfrmControlMean", [this] { openMean(); });
     events.addTextBox("frmSetMean.txtMean", mean_.txtMean);
     events.addTextBox("frmSetMean.txtSpan", mean_.txtSpan);
-    events.onClick("frmSetMean.cmdOK", [this] { applyMean(); });
+    whileOpen(events, "frmSetMean.cmdOK", WindowId::frmSetMean, [this] { applyMean(); });
     events.onClick("frmSetMean.cmdCancel", [this] { close(WindowId::frmSetMean); });
     events.onClose("frmSetMean", [this] { close(WindowId::frmSetMean); });
 }
@@ -332,7 +367,8 @@ void SmallDialogs::registerNameDialogs(EventRegistry& events) {
     events.onTool("gfrmGroupNames", [this] { openGroupNames(); });
     for (int group = 1; group <= 2; ++group)
         events.addTextBox(indexedName("frmGroupNames.txtGroupName", group), groupNames_(group));
-    events.onClick("frmGroupNames.cmdGroupNames(0)", [this] { applyGroupNames(); });
+    whileOpen(events, "frmGroupNames.cmdGroupNames(0)", WindowId::frmGroupNames,
+              [this] { applyGroupNames(); });
     events.onClick("frmGroupNames.cmdGroupNames(1)", [this] { close(WindowId::frmGroupNames); });
     events.onClose("frmGroupNames", [this] {
         closeNames(WindowId::frmGroupNames, groupNamesChanged(), &SmallDialogs::applyGroupNames);
@@ -340,7 +376,8 @@ void SmallDialogs::registerNameDialogs(EventRegistry& events) {
     events.onTool("gfrmLevelNames", [this] { openLevelNames(); });
     for (int level = lowestLevel; level <= highestLevel; ++level)
         events.addTextBox(indexedName("frmLevelNames.txtLevelNames", level), levelNames_(level));
-    events.onClick("frmLevelNames.cmdLevelNames(0)", [this] { applyLevelNames(); });
+    whileOpen(events, "frmLevelNames.cmdLevelNames(0)", WindowId::frmLevelNames,
+              [this] { applyLevelNames(); });
     events.onClick("frmLevelNames.cmdLevelNames(1)", [this] { close(WindowId::frmLevelNames); });
     events.onClose("frmLevelNames", [this] {
         closeNames(WindowId::frmLevelNames, levelNamesChanged(), &SmallDialogs::applyLevelNames);
@@ -348,6 +385,14 @@ void SmallDialogs::registerNameDialogs(EventRegistry& events) {
 }
 
 void SmallDialogs::registerLimits(EventRegistry& events) {
+    events.onTool("Enter ICC", [this] {
+        limitsOpen_ = false;
+        enterIcc(design_);
+    });
+    events.onTool("Enter limits", [this] {
+        enterLimits(design_);
+        openLimits();
+    });
     events.onTool("FrmLimits", [this] { openLimits(); });
     events.onClick("frmDisplayICC.cmdOptions", [this] { openLimits(); });
     for (int level = 2; level <= highestLevel; ++level) {

@@ -2,6 +2,7 @@
 // A refused value never changes a field, and the dialog stays.
 #pragma once
 
+#include <functional>
 #include <string>
 
 #include "platform/control_registry.h"
@@ -76,6 +77,7 @@ private:
     bool levelNamesChanged() const;
     void closeNames(WindowId window, bool changed, bool (SmallDialogs::*apply)());
 
+    void whileOpen(EventRegistry& events, const char* button, WindowId window, std::function<void()> press);
     void registerNumbers(EventRegistry& events);
     void registerMean(EventRegistry& events);
     void registerNameDialogs(EventRegistry& events);
@@ -86,6 +88,8 @@ private:
     void open(WindowId window) { design_.SynchForms(window, WindowAction::open); }
     void close(WindowId window) { design_.SynchForms(window, WindowAction::unload); }
     bool refuse(const std::string& title, const std::string& text);
+    bool holds(const char* field, double value) const;
+    bool isOpen(WindowId window) const { return design_.windows().state(window) == WindowStates::open; }
 
     Design& design_;
     TextBox alpha_;

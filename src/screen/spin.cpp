@@ -42,9 +42,9 @@ double spun(double value, int direction, const FieldLimits& limits, int decimals
     return value;
 }
 
-double snapped(double value, int step) {
+double snapped(double value, int direction, int step) {
     while (std::fmod(roundHalfToEven(value), step) != 0)
-        value += 1;
+        value -= direction;
     return value;
 }
 

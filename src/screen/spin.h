@@ -10,7 +10,8 @@ namespace lorvane {
 /// it. Any other direction leaves the value.
 double spun(double value, int direction, const FieldLimits& limits, int decimals, int step);
 
-/// The value raised by ones until it is, taken as a whole number, a multiple of the step.
-double snapped(double value, int step);
+/// The value brought by ones to a multiple of the step, back towards where it came from: after a step up down
+/// to one, after a step down up to one. So with a step of 10 a 23 goes up to 30 and down to 20.
+double snapped(double value, int direction, int step);
 
 }  // namespace lorvane

@@ -107,7 +107,9 @@ void checkSchematic(ToolBook& tools, const std::string& stem, int mode) {
     tools.setChecked(stem + " always on", mode == SchematicModes::on);
 }
 
-void writeTestTools(const Study& s, ToolBook& tools) {
+void writeTestTools(const Study& s, const WindowRegistry& windows, ToolBook& tools) {
+    const bool alphaInProcess = windows.state(WindowId::frmAlpha) == WindowStates::open;
+    tools.setCaption("gfrmAlpha", alphaInProcess ? "In process ..." : "&Custom alpha...");
     tools.setChecked("Use t-distribution", s.PowerOption == PowerOptions::tDistribution);
     tools.setChecked("Use Z-distribution", s.PowerOption == PowerOptions::zDistribution);
     for (const auto& [tool, alpha] : {std::pair{"Alpha = 0.01", 0.01},
@@ -208,7 +210,7 @@ void writeToolStates(const Study& study, const SessionSettings& settings, const 
     }
     writeDesignTools(study, tools);
     writeDispersionTools(study, settings, tools);
-    writeTestTools(study, tools);
+    writeTestTools(study, windows, tools);
     writeDisplayTools(study, tools);
     writeSettingTools(settings, tools);
     writeDecimalTools(study.decimals, settings, tools);

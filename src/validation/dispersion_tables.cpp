@@ -35,13 +35,6 @@ void limitsOfOutcome(const Study& s, double span, double& lower, double& upper) 
     }
 }
 
-// Risks that are entered as limits have the width of the limits, whatever span was entered before.
-double spanOfLevel(const Study& s, int level) {
-    const bool asLimits =
-        s.isBinary() && s.IccMetric == IccMetrics::span && s.limits.RangeMode == RangeModes::limits;
-    return asLimits ? s.limits.txtUL(level) - s.limits.txtLL(level) : s.txtMRange(level);
-}
-
 double sdOfLevel(const Study& s, int level) { return spanOfLevel(s, level) / spanOfOneSd; }
 
 double shareOfLevel(const Study& s, int level) {
@@ -122,6 +115,13 @@ Grid::Row tauSqCells(const Study& s, int level) {
 }
 
 }  // namespace
+
+// Risks that are entered as limits have the width of the limits, whatever span was entered before.
+double spanOfLevel(const Study& s, int level) {
+    const bool asLimits =
+        s.isBinary() && s.IccMetric == IccMetrics::span && s.limits.RangeMode == RangeModes::limits;
+    return asLimits ? s.limits.txtUL(level) - s.limits.txtLL(level) : s.txtMRange(level);
+}
 
 IccRow iccRow(const Study& s, int level) {
     IccRow row;

@@ -46,6 +46,10 @@ enum class TauSqColumn : int {
     OmegaC
 };
 
+/// Span of a level as the table tells it: the entered one, or the width of the limits where risks are entered
+/// as limits.
+double spanOfLevel(const Study& study, int level);
+
 /// One level of the ICC table. Shares are proportions, spans and limits are in the unit of the outcome
 /// (raw score or risk); the cumulative values add the variances from the top level down.
 struct IccRow {

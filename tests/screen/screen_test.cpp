@@ -1,0 +1,154 @@
+// The table of levels, faults, the value dialog, windows that make way, and money.
+#include <cstdlib>
+
+#include "base/names.h"
+#include "screen/currency.h"
+#include "screen/screen_bench.h"
+
+namespace lorvane {
+namespace {
+
+using Screen = ScreenTest;
+
+TEST_F(Screen, CellsOfARow) {
+    for (const Texts& row : rowsOf("cells.txt")) {
+        load(row[0]);
+        std::string shown;
+        for (const char* cell :
+             {"pnlNT", "pnlNC", "pnlNB", "pnlPop", "pnlICC", "pnlMRange", "pnlTauSq", "pnlDRange", "pnlOmega",
+              "pnlModel", "pnlQ", "pnlRsq", "pnlCostT", "pnlCostC", "pnlCostB"}) {
+            if (see(cell + ('(' + row[1]) + ").Visible") == "true")
+                shown += (shown.empty() ? "" : " ") + std::string(cell);
+        }
+        EXPECT_EQ(shown, row[2]) << row[0] << ", level " << row[1];
+        EXPECT_EQ(see("BpnlLevel(" + row[1] + ").Visible"), shown.empty() ? "false" : "true");
+    }
+}
+
+/// A study from a file may hold an empty arm; an unusable ICC keeps the formula from meeting it.
+TEST_F(Screen, ArithmeticFaultShowsTheEntryAndTheNextGoodEditRecovers) {
+    load("txtNT(1)=0 txtNC(1)=0 ICC_Metric=1 txtICC(2)=1 txtd=0.5");
+    int redrawn = 0;
+    app.whenShown([&] { ++redrawn; });
+    EXPECT_THROW(app.spin("spnIcc(2)", -1), ArithmeticFault);
+    expect({{"pnlICC(2).Caption", "        0.99"}, {"txtICC(2)", "0.99"}, {"xValid", "0"}});
+    EXPECT_THROW(app.tool("Set power 90"), ArithmeticFault);
+    app.spin("spnNT(1)", 1);
+    expect({{"xValid", "1"}, {"pnlPowerOuter.Visible", "true"}, {"tool:Set power.Caption", "90%"}});
+    EXPECT_EQ(redrawn, 3) << "each event is shown, also after a fault";
+}
+
+TEST_F(Screen, ValueDialogHoldsTheLimitsOfTheArrows) {
+    for (const Texts& row : rowsOf("values.txt")) {
+        const std::string& field = row[0];
+        load(row[1]);
+        app.save("clean.Lorvane");
+        app.openValue(field);
+        for (const bool good : {false, true}) {
+            const std::string before = see(field);
+            app.type("frmValue.txtValue", row[good ? 3 : 2]);
+            app.click("frmValue.cmdOK");
+            EXPECT_EQ(messages.script.take().size(), good ? 0u : 1u) << field << ' ' << row[good ? 3 : 2];
+            expect({{field, good ? row[3] : before}, {"frmValue.Visible", good ? "false" : "true"}});
+            EXPECT_EQ(app.design().settings().StudyDirty, good);
+        }
+        EXPECT_EQ(see("txtNC(2)"), field == "txtNT(2)" ? row[3] : "2") << "the linked arm";
+    }
+}
+
+TEST(Windows, EveryStateAndAction) {
+    using enum WindowAction;
+    using Actions = std::vector<WindowAction>;
+    const std::pair<Actions, const char*> rows[] = {
+        {{}, "00004"}, {{open, withdrawForGood}, "11114"}, {{open, withdraw}, "22244"}, {{open}, "01244"}};
+    for (const auto& [path, wanted] : rows) {
+        std::string reached;
+        for (const WindowAction last : {unload, withdrawForGood, withdraw, bringBack, open}) {
+            WindowRegistry windows;
+            for (const WindowAction step : path)
+                windows.SynchForms(WindowId::frmTips, step);
+            windows.SynchForms(WindowId::frmTips, last);
+            reached += std::to_string(windows.state(WindowId::frmTips));
+        }
+        EXPECT_EQ(reached, wanted);
+    }
+}
+
+/// States of the windows 1 to 25: all open but 21; then 6 and 13 closed by hand, 7 by its OK, 14 withdrawn.
+TEST(Windows, MakeWayBySetsAndComeBack) {
+    using enum WindowAction;
+    for (const auto& [set, away, back] :
+         {std::tuple{FormSet::main, "4422210422421222224404222", "4444410444441244444404444"},
+          {FormSet::graph, "4444410244241244442404444", "4444410444441444444404444"}}) {
+        StudyBench bench;
+        const auto states = [&] {
+            std::string text;
+            for (int window = 1; window <= lastWindowId; ++window)
+                text += std::to_string(bench.design.windows().stateOf(window));
+            return text;
+        };
+        for (int window = 2; window <= lastWindowId; ++window)
+            bench.design.SynchForms(WindowId(window), window == 21 ? unload : open);
+        bench.design.SynchForms(WindowId::frmGroupNames, withdrawForGood);
+        bench.design.SynchForms(WindowId::frmXVar, withdrawForGood);
+        bench.design.SynchForms(WindowId::frmLevelNames, unload);
+        bench.design.SynchForms(WindowId::xPlot, withdraw);
+        bench.design.SuspendForms(set);
+        EXPECT_EQ(states(), away);
+        bench.design.RestoreForms(set);
+        EXPECT_EQ(states(), back);
+    }
+}
+
+TEST_F(Screen, MessageStandsAlone) {
+    load("DataType=2 txtOR=2");
+    for (const char* window : {"gfrmDisplayICC", "gfrmDisplayTauSq", "gfrmLevelNames", "gfrmDetails"})
+        app.tool(window);
+    app.close("frmDisplayICC");
+    const auto states = [&] {
+        return see("window:3") + see("window:4") + see("window:7") + see("window:25");
+    };
+    std::string during;
+    messages.whileShown = [&] { during = states(); };
+    app.tool("Risk difference");
+    EXPECT_EQ(during + ' ' + states(), "2122 4144");
+}
+
+TEST_F(Screen, SettingsThatMeetStayInStep) {
+    load("NumLevels=3 txtModel(2)=1");
+    app.tool("Randomize Level 2");
+    expect({{"txtModel(2)", "0"}, {"pnlModel(2).Caption", "   Random"}});
+    load("DataType=2 BinaryType=3 txtPrev=0.3 RangeMode=2 txtLL(2)=0.1 txtUL(2)=0.9");
+    EXPECT_EQ(see("frmDisplayICC.pnlFooter.Caption"), "Range includes 95% of units.");
+    app.tool("FrmLimits");
+    app.tool("Enter ICC");
+    EXPECT_EQ(see("frmLimits.Visible"), "false");
+    app.save("work/north.Lorvane");
+    EXPECT_EQ(see("Design.Caption"), "Lorvane,  risk difference  north.Lorvane");
+}
+
+/// Scripts can ask for what no face offers: a level that is not in use, a dialog that is not open.
+TEST_F(Screen, WhatIsNotOfferedDoesNoHarm) {
+    const auto exitAfter = [&](const auto& event) {
+        try {
+            event();
+        } catch (const UseProblem&) {
+        }
+        std::exit(see("RandomizedLevel") == "2" ? 0 : 1);
+    };
+    EXPECT_EXIT(exitAfter([&] { app.tool("Randomize Level 4"); }), testing::ExitedWithCode(0), "");
+    EXPECT_EXIT(exitAfter([&] { app.click("frmValue.cmdOK"); }), testing::ExitedWithCode(0), "");
+}
+
+TEST(Words, Currency) {
+    for (const auto& [zero, amount] : {std::pair{"$0.00", "$1,234,567"},
+                                       {"0,00 €", "1,234,567€"},
+                                       {"kr 0,00", "kr1,234,567"},
+                                       {"0.00 Ft.", "1,234,567Ft"},
+                                       {"Bs.F. 0,00", "BsF1,234,567"}})
+        EXPECT_EQ(ReFormatCurrency(1234567, detectCurrency(FixedLocale(zero))), amount);
+    EXPECT_EQ(ReFormatCurrency(999, {"$", 3}), "");
+}
+
+}  // namespace
+}  // namespace lorvane
