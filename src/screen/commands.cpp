@@ -3,6 +3,7 @@
 
 #include <string>
 
+#include "base/names.h"
 #include "screen/tool_table.h"
 #include "validation/readiness_checks.h"
 
@@ -107,6 +108,7 @@ using D = Design&;
 constexpr Command commands[] = {
     {"Exit", [](D d) { d.closeRequest(); }},
     {"About", about},
+    {"OD", ResetForOD},
     {"Add a level", addLevel},
     {"Remove a level", removeLevel},
     {"Enter span for prevalence", [](D d) { enterIccMetric(d, IccMetrics::span, RangeModes::span); }},
@@ -158,6 +160,7 @@ void registerLevel(EventRegistry& events, Design& design, int level) {
         design.randomize(level);
         design.Reset();
     });
+    events.onClick(indexedName("chkMatch", level), [&design, level] { toggleBlocked(design, level); });
     events.onTool(levelTool("Link N for Level {}", level),
                   [&design, level] { linkSizes(design, level, true); });
     events.onTool(levelTool("Unlink N for Level {}", level),
@@ -294,6 +297,19 @@ void SetDataType(Design& design, std::string_view tool) {
             design.Reset();
         }
     }
+}
+
+void ResetForOD(Design& design) {
+    design.setNumLevels(0);
+    SetDataType(design, design.study().isMeans() ? "Mean difference T" : "Odds ratio");
+}
+
+void toggleBlocked(Design& design, int level) {
+    const Study& s = design.study();
+    if (level < 2 || level > s.NumLevels)
+        return;
+    design.randomize(s.isBlocked(level) ? level : level - 1);
+    design.Reset();
 }
 
 void changeDataType(Design& design, std::string_view tool) {

@@ -23,6 +23,13 @@ void ClearVals(Study& study);
 /// Sets data type and effect metric by the name of their tool, "Odds ratio"; any other name does nothing.
 void SetDataType(Design& design, std::string_view tool);
 
+/// Two levels, randomized at the top, for the example of the optimal design; the kind of outcome stays.
+void ResetForOD(Design& design);
+
+/// The mark that a level is blocked: setting it blocks all levels above too, clearing it clears all below. The
+/// lowest level cannot be blocked.
+void toggleBlocked(Design& design, int level);
+
 /// The same with the question that comes before values are thrown away.
 void changeDataType(Design& design, std::string_view tool);
 

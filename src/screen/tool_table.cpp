@@ -31,6 +31,7 @@ constexpr ToolRow toolRows[] = {
     // Structure
     {"Add a level", "&Add a level", "Add a level at the top of the study", command},
     {"Remove a level", "&Remove a level", "Remove the top level of the study", command},
+    {"OD", "Example of the optimal design", "Two levels, for the example of the optimal design", command},
     {"gfrmLevelNames", "Edit level &names", "Name the units of every level", window},
     {"gfrmGroupNames", "Edit group &names", "Name the two groups", window},
     {"Mean difference W", "Mean difference d (&within)", "Means, d on the standard deviation within cells",
