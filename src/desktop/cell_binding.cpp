@@ -42,11 +42,9 @@ void CellBinding::connectEvents(Menus& menus) {
     QObject::connect(widget_, &ValueCell::contextMenuRequested, &desk_,
                      [this, &menus](const QPoint& place) { menus.popup(names_.popup, place); });
     QObject::connect(widget_, &ValueCell::focused, &desk_, [this] {
-        const StudyField* field = desk_.design().fields().find(names_.field);
-        const int decimals = field == nullptr || field->FmtDecDigits == nullptr ? 0 : *field->FmtDecDigits;
-        const std::string hint = fieldHint(desk_.study(), desk_.design().settings(), names_.field, decimals);
-        widget_->setAccessibleDescription(shownText(hint));
-        emit desk_.hinted(shownText(hint));
+        const QString hint = desk_.hintOf(names_.field);
+        widget_->setAccessibleDescription(hint);
+        emit desk_.hinted(hint);
         desk_.click(names_.panel);
     });
 }

@@ -2,6 +2,7 @@
 #include "desktop/desk.h"
 
 #include "base/arithmetic_fault.h"
+#include "screen/field_words.h"
 
 namespace lorvane::desktop {
 
@@ -56,6 +57,12 @@ void Desk::open(const QString& path) {
         emit hinted(QString::fromStdString(problem.what()));
     }
     emit shown();
+}
+
+QString Desk::hintOf(const std::string& field) const {
+    const StudyField* found = design().fields().find(field);
+    const int decimals = found == nullptr || found->FmtDecDigits == nullptr ? 0 : *found->FmtDecDigits;
+    return shownText(fieldHint(study(), design().settings(), field, decimals));
 }
 
 void Desk::suspend() { application_.suspendForms(); }

@@ -34,6 +34,9 @@ public:
     void suspend();
     void restore();
 
+    /// What a field is and which keys change it.
+    QString hintOf(const std::string& field) const;
+
 signals:
     /// All models are right again; windows copy what has changed.
     void shown();

@@ -3,6 +3,7 @@
 
 #include <QHBoxLayout>
 #include <QLabel>
+#include <QShortcut>
 #include <QVBoxLayout>
 
 #include "base/names.h"
@@ -143,6 +144,15 @@ DialogView::DialogView(Desk& desk, ToolPanel* panel, DialogModel model)
         addField();
     box->addWidget(limits_);
     addButtons();
+    panel->setAttribute(Qt::WA_ShowWithoutActivating, false);
+    // Escape is Cancel where there is one, and the frame's close otherwise.
+    auto* escape = new QShortcut(Qt::Key_Escape, panel);
+    connect(escape, &QShortcut::activated, this, [this] {
+        if (model_.buttons.size() == 1)
+            desk_.close(model_.name);
+        else
+            press(model_.buttons.front());
+    });
 }
 
 void DialogView::addField() {
@@ -173,11 +183,16 @@ void DialogView::addButtons() {
 }
 
 void DialogView::press(const DialogButton& button) {
+    prepareClose();
+    desk_.click(button.control);
+}
+
+// The program knows what was typed before it is asked whether anything would be lost.
+void DialogView::prepareClose() {
     for (std::size_t i = 0; i < fields_.size(); ++i)
         desk_.type(model_.fields[i].control, fields_[i].field->text());
     for (std::size_t i = 0; i < fields_.size(); ++i)
         fields_[i].shown = model_.fields[i].box->Text;
-    desk_.click(button.control);
 }
 
 // What was typed stays until the program changes the text itself or the dialog opens anew.

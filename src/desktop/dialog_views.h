@@ -50,6 +50,8 @@ public:
     void sync() override;
 
 private:
+    void prepareClose() override;
+
     struct FieldView {
         QLabel* label;
         TextField* field;

@@ -82,6 +82,8 @@ ValueCell* DispersionView::addCell(const PanelColumn& column, int level) {
     const std::string field = indexedName(column.field, level);
     connect(cell, &ValueCell::stepped, this,
             [this, spin](int direction) { desk_.spin(spin, direction, Design::SpinMode::tick); });
+    connect(cell, &ValueCell::focused, this,
+            [this, cell, field] { cell->setAccessibleDescription(desk_.hintOf(field)); });
     connect(cell, &ValueCell::stepFinished, this, [this] { desk_.spinReleased(); });
     connect(cell, &ValueCell::activated, this, [this, field] { desk_.openValue(field); });
     const std::string popup = column.popup;
@@ -124,7 +126,10 @@ void DispersionView::syncRow(const Row& row) {
         if (!changeable && row.cells[i]->hasFocus())
             row.cells[i]->clearFocus();
         row.cells[i]->setKind(changeable ? ValueCell::Kind::Spin : ValueCell::Kind::ReadOnly);
-        if (column.field != nullptr)
+        if (column.field == nullptr)
+            row.cells[i]->setAccessibleName(row.unit->text() + QStringLiteral(", ") +
+                                            shownText(column.heading->Caption));
+        else
             row.cells[i]->setAccessibleName(
                 shownText(fieldWords(desk_.study(), indexedName(column.field, row.level))));
     }

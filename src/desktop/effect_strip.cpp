@@ -99,9 +99,10 @@ void EffectStrip::addCell(QHBoxLayout* row, const std::string& panel, const QStr
     widget->setFixedSize(width, 30);
     const Field field = addField(row, caption, widget);
     cells_.emplace_back(
-        CellBinding(desk_, menus_,
-                    {panel, std::string(names.spin), std::string(names.field), std::string(names.popup)},
-                    desk_.design().screen().*names.cell, ValueCell::Kind::Spin, widget),
+        std::make_unique<CellBinding>(
+            desk_, menus_,
+            CellNames{panel, std::string(names.spin), std::string(names.field), std::string(names.popup)},
+            desk_.design().screen().*names.cell, ValueCell::Kind::Spin, widget),
         field);
 }
 
@@ -126,11 +127,11 @@ void EffectStrip::addAlpha(QHBoxLayout* row, Menus& menus) {
 void EffectStrip::sync() {
     const MainScreen& screen = desk_.design().screen();
     for (auto& [cell, field] : cells_) {
-        const StripCellName& names = namesOf(cell.names().panel);
+        const StripCellName& names = namesOf(cell->names().panel);
         field.box->setVisible((screen.*names.cell).Visible);
-        if (const Panel* heading = headingOf(screen, cell.names().panel))
+        if (const Panel* heading = headingOf(screen, cell->names().panel))
             field.caption->setText(shownText(heading->Caption));
-        cell.sync();
+        cell->sync();
     }
     const bool within = screen.pnldW.Visible;
     otherForm_.box->setVisible(within || screen.pnldT.Visible);
@@ -143,8 +144,8 @@ void EffectStrip::sync() {
 
 ValueCell* EffectStrip::cell(const std::string& panel) const {
     for (const auto& [cell, field] : cells_) {
-        if (cell.names().panel == panel)
-            return cell.widget();
+        if (cell->names().panel == panel)
+            return cell->widget();
     }
     return nullptr;
 }

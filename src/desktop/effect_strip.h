@@ -1,6 +1,7 @@
 // The strip of the effect: its value, what belongs to it, alpha and tails.
 #pragma once
 
+#include <memory>
 #include <vector>
 
 #include "desktop/cell_binding.h"
@@ -38,7 +39,7 @@ private:
 
     Desk& desk_;
     Menus& menus_;
-    std::vector<std::pair<CellBinding, Field>> cells_;
+    std::vector<std::pair<std::unique_ptr<CellBinding>, Field>> cells_;
     Field otherForm_{};
     NumberLabel* otherFormValue_ = nullptr;
     Field derived_{};

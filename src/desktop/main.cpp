@@ -26,6 +26,7 @@ int main(int argc, char** argv) {
     desktop::Desk desk(application, messages);
     desktop::MainWindow window(desk);
     desktop::Panels panels(desk, window);
+    messages.setOwner(&window);
     messages.beforeShowing([&panels] { panels.follow(); });
     if (argc > 1)
         desk.open(QString::fromLocal8Bit(argv[1]));

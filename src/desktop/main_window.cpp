@@ -104,6 +104,7 @@ void MainWindow::addTitle(QVBoxLayout* column) {
 // Strip and table scroll where the window is too small for them; power and cost always stay in sight.
 QWidget* MainWindow::makeContent() {
     auto* content = new QWidget;
+    content->setMinimumHeight(heightWith(tight, smallestScroll));
     auto* outer = new QHBoxLayout(content);
     outer->setContentsMargins(0, 0, 0, 0);
     auto* page = new QWidget;

@@ -19,12 +19,12 @@ constexpr const char* powerBand = "popSetPower";
 
 struct Shortcut {
     std::string_view tool;
-    QKeySequence::StandardKey key;
+    QKeySequence keys;
 };
 
-const Shortcut shortcuts[] = {{"Clear", QKeySequence::New}, {"Open", QKeySequence::Open},
-                              {"Save", QKeySequence::Save}, {"SaveAs", QKeySequence::SaveAs},
-                              {"Exit", QKeySequence::Quit}, {"gfrmTips", QKeySequence::HelpContents}};
+const Shortcut shortcuts[] = {{"Clear", Qt::CTRL | Qt::Key_N}, {"Open", Qt::CTRL | Qt::Key_O},
+                              {"Save", Qt::CTRL | Qt::Key_S},  {"SaveAs", Qt::CTRL | Qt::SHIFT | Qt::Key_S},
+                              {"Exit", Qt::CTRL | Qt::Key_Q},  {"gfrmTips", Qt::Key_F1}};
 
 struct Sign {
     std::string_view tool;
@@ -90,7 +90,7 @@ QAction* Menus::action(const std::string& name) {
         action->setIcon(icon(sign->icon));
     for (const Shortcut& shortcut : shortcuts) {
         if (shortcut.tool == name)
-            action->setShortcuts(shortcut.key);
+            action->setShortcut(shortcut.keys);
     }
     // The tool decides what is checked, so a click that changes nothing leaves the check as it was.
     connect(action, &QAction::triggered, this, [this, name] {

@@ -14,7 +14,12 @@ namespace lorvane::desktop {
 PanelView::PanelView(Desk& desk, ToolPanel* panel, const std::string& name)
     : QObject(panel), desk_(desk), panel_(panel) {
     panel->setObjectName(QString::fromStdString(name));
-    connect(panel, &ToolPanel::closeRequested, this, [this, name] { desk_.close(name); });
+    // A window that opens by itself leaves the keyboard where it is, and a held arrow held.
+    panel->setAttribute(Qt::WA_ShowWithoutActivating);
+    connect(panel, &ToolPanel::closeRequested, this, [this, name] {
+        prepareClose();
+        desk_.close(name);
+    });
 }
 
 void PanelView::setFirstPlace(double x, double y) {

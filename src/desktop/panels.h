@@ -28,6 +28,9 @@ public:
     void follow();
 
 protected:
+    /// What has to reach the program before the window asks to be closed.
+    virtual void prepareClose() {}
+
     Desk& desk_;
 
 private:

@@ -1,7 +1,6 @@
 // Message boxes of the desktop.
 #include "qt/qt_message_boxes.h"
 
-#include <QApplication>
 #include <QMessageBox>
 
 namespace lorvane {
@@ -40,7 +39,7 @@ Answer answerOf(int button, const MessageBox& message) {
 Answer QtMessageBoxes::show(const MessageBox& message) {
     if (redraw_)
         redraw_();
-    QMessageBox box(QApplication::activeWindow());
+    QMessageBox box(owner_);
     box.setIcon(QMessageBox::Information);
     box.setWindowTitle(QString::fromStdString(message.title));
     box.setText(QString::fromStdString(message.text));

@@ -26,8 +26,8 @@ void SetDataType(Design& design, std::string_view tool);
 /// Two levels, randomized at the top, for the example of the optimal design; the kind of outcome stays.
 void ResetForOD(Design& design);
 
-/// The mark that a level is blocked: setting it blocks all levels above too, clearing it clears all below. The
-/// lowest level cannot be blocked.
+/// The mark that a level is blocked: setting it blocks all levels above too, clearing it clears all below.
+/// The lowest level cannot be blocked.
 void toggleBlocked(Design& design, int level);
 
 /// The same with the question that comes before values are thrown away.

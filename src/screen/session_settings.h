@@ -17,7 +17,7 @@ inline constexpr int on = 3;
 
 struct SessionSettings {
     std::string CurrentFile;  ///< path of the open file; empty for a new study
-    bool StudyDirty = false;  ///< the study has changed since it was saved, opened or cleared
+    bool StudyDirty = false;  ///< set by every refresh, cleared by a save, a clear and the start
     int IterationsForOptimal = 30;
     bool AllowLowCellCounts = false;
     int CellCountDetail = 3;  ///< 1 none, 2 moderate, 3 full

@@ -96,7 +96,7 @@ constexpr ToolRow toolRows[] = {
     {"Counts Schematic always on", "Cell counts always &on", "Keep the cell counts open", choice},
     {"Level of detail - None", "Level of detail - &None", "Show the verdict alone", choice},
     {"Level of detail - Moderate", "Level of detail - &Moderate", "Show the shares of low counts", choice},
-    {"Level of detail - Full", "Level of detail - F&ull", "Show all numbers", choice},
+    {"Level of detail - Full", "Level of detail - Fu&ll", "Show all numbers", choice},
     {"PDF Low cell counts", "About &low cell counts", "Open the note on low cell counts", help},
     {"Allow low cell counts", "&Allow low cell counts", "Let the searches give low cell counts", choice},
     {"Do not allow low cell counts", "&Do not allow low cell counts",
@@ -124,7 +124,7 @@ constexpr ToolRow toolRows[] = {
     {"gfrmProblems", "&Problem", "Why the study gives no power", window},
     {"gfrmProblemES", "Problem with the &effect", "Why the effect is not admissible", window},
     {"gfrmTipsGraph", "Guide of the graph", "The guide of the graph", window},
-    {"gfrmOpenWizard", "&Start", "The start screen", window},
+    {"gfrmOpenWizard", "S&tart", "The start screen", window},
     {"gfrmCounts", "&Cell counts", "The cell counts", window},
     {"FrmLimits", "&Limits of risks", "The limits of the risks by level", window},
 };

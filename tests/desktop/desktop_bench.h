@@ -1,0 +1,104 @@
+// The windows over a real program, and the hand that presses them: pointer and keys go in where the window
+// system puts them in.
+#pragma once
+
+#include <gtest/gtest.h>
+
+#include <QApplication>
+#include <QCloseEvent>
+#include <QLineEdit>
+#include <QTest>
+#include <QWindow>
+#include <functional>
+
+#include "desktop/kit/figure_card.h"
+#include "desktop/kit/value_cell.h"
+#include "desktop/main_window.h"
+#include "desktop/menus.h"
+#include "desktop/panels.h"
+#include "os/disk_file_store.h"
+#include "support/test_library.h"
+
+namespace lorvane::desktop {
+
+/// Scripted answers, and a look at the screen before a question.
+struct WatchedMessageBoxes final : MessageBoxes {
+    Answer show(const MessageBox& message) override {
+        beforeShowing();
+        return scripted.show(message);
+    }
+    ScriptedMessageBoxes scripted;
+    std::function<void()> beforeShowing = [] {};
+};
+
+class DesktopBench : public testing::Test {
+protected:
+    void SetUp() override {
+        window.show();
+        ASSERT_TRUE(QTest::qWaitForWindowActive(&window));
+    }
+
+    /// A window manager gives the keyboard to the main window where no other has it.
+    void settle() {
+        for (int i = 0; i < 8; ++i) {
+            QCoreApplication::processEvents();
+            if (i == 4 && window.isVisible() &&
+                !(QGuiApplication::focusWindow() && QApplication::activeWindow()))
+                window.activateWindow();
+        }
+    }
+    void set(const std::vector<Assignment>& values) {
+        application.set(values);
+        emit desk.shown();
+        settle();
+    }
+    /// Every kind of cell: two blocked levels over the randomized one.
+    void openFourLevels() { set({{"NumLevels", 4.0}, {"RandomizedLevel", 2.0}}); }
+
+    const Study& study() const { return desk.study(); }
+    ToolPanel& panel(const char* name) { return *panels.panel(QString::fromUtf8(name)); }
+    bool isShown(const char* name) { return panel(name).isVisible(); }
+    ValueCell& cell(const std::string& name) { return dynamic_cast<ValueCell&>(*window.cell(name)); }
+    std::string text(const std::string& name) { return cell(name).text().toStdString(); }
+    QList<ValueCell*> changeableCells(const QWidget& above) {
+        QList<ValueCell*> cells = above.findChildren<ValueCell*>();
+        cells.removeIf([](ValueCell* cell) { return !cell->isVisible() || !cell->isChangeable(); });
+        return cells;
+    }
+    static QPoint inside(const QWidget& cell) { return cell.mapTo(cell.window(), QPoint(20, 12)); }
+    static QPoint arrow(const QWidget& cell, int direction) {
+        return cell.mapTo(cell.window(), QPoint(cell.width() - 12, cell.height() * (2 - direction) / 4));
+    }
+    void click(const QWidget& widget, const QPoint& place, Qt::MouseButton button = Qt::LeftButton) {
+        QTest::mouseClick(widget.window()->windowHandle(), button, {}, place);
+        settle();
+    }
+    void clickArrow(const std::string& name, int direction) {
+        click(cell(name), arrow(cell(name), direction));
+    }
+    void key(Qt::Key key, Qt::KeyboardModifiers modifiers = {}) {
+        QTest::keyClick(QGuiApplication::focusWindow(), key, modifiers);
+        settle();
+    }
+    static void type(const char* text) { QTest::keyClicks(QApplication::focusWidget(), QLatin1String(text)); }
+    void tool(const char* name) {
+        desk.tool(name);
+        settle();
+    }
+    void closeByFrame(QWidget& shown) {
+        QCloseEvent closing;
+        QCoreApplication::sendEvent(shown.windowHandle(), &closing);
+        settle();
+    }
+
+    NumericDistributionLibrary distributions;
+    FixedLocale locale;
+    DiskFileStore files;
+    WatchedMessageBoxes messages;
+    Application application{{distributions, locale, files, messages}};
+    Desk desk{application, messages};
+    MainWindow window{desk};
+    Panels panels{desk, window};
+};
+
+}  // namespace lorvane::desktop
