@@ -17,10 +17,11 @@ namespace lorvane {
 
 namespace {
 
+// The last value that is given for a name.
 const Assignment* findAssignment(std::span<const Assignment> values, std::string_view name) {
-    const auto found = std::find_if(values.begin(), values.end(),
+    const auto found = std::find_if(values.rbegin(), values.rend(),
                                     [&](const Assignment& value) { return value.name == name; });
-    return found == values.end() ? nullptr : &*found;
+    return found == values.rend() ? nullptr : &*found;
 }
 
 int wholeOf(const Assignment& assignment) { return static_cast<int>(std::get<double>(assignment.value)); }
@@ -192,11 +193,12 @@ void Application::check(std::span<const Assignment> values, Kind kind, ValueSour
     }
 }
 
-// Puts study, settings and screen back when the change cannot be carried out.
+// Puts study, settings, windows and screen back when the change cannot be carried out.
 template <typename Change>
 void Application::changeOrUndo(Change change) {
     const Study study = design_.study();
     const SessionSettings settings = design_.settings();
+    const WindowRegistry windows = design_.windows();
     try {
         change();
         design_.DoRefresh(true);
@@ -204,9 +206,19 @@ void Application::changeOrUndo(Change change) {
         design_.study() = study;
         design_.settings() = settings;
         design_.applyChoices();
-        design_.DoRefresh(true);
+        showAsItWas();
         design_.settings().StudyDirty = settings.StudyDirty;
+        design_.putBack(windows);
         throw;
+    }
+}
+
+// The study before a refused change may be one that cannot be computed either.
+void Application::showAsItWas() {
+    try {
+        design_.DoRefresh(true);
+    } catch (const ArithmeticFault&) {
+        design_.showFault();
     }
 }
 
@@ -246,7 +258,9 @@ void Application::load(std::span<const Assignment> values) {
         design_.startAnew();
         applyChoices(values);
         write(values);
+        design_.settings().CurrentFile.clear();
     });
+    scenarios_ = ScenarioGrid();
 }
 
 void Application::set(std::span<const Assignment> values) {

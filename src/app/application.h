@@ -50,9 +50,9 @@ public:
     Application(const Application&) = delete;
     Application& operator=(const Application&) = delete;
 
-    /// Starts from a new study and writes the values at once, as opening a file with them would: what no
-    /// dialog offers is taken. Then one refresh. Throws UseProblem or ArithmeticFault and changes nothing
-    /// then.
+    /// Starts from a new study without scenarios and writes the values at once, as opening a file with them
+    /// would: what no dialog offers is taken. Then one refresh. Throws UseProblem or ArithmeticFault and
+    /// changes nothing then.
     void load(std::span<const Assignment> values);
 
     /// Writes values into the study as dialogs would, within their limits; design choices first, whatever
@@ -118,6 +118,7 @@ private:
     void check(std::span<const Assignment> values, Kind kind, ValueSource source) const;
     void applyChoices(std::span<const Assignment> values);
     void write(std::span<const Assignment> values);
+    void showAsItWas();
     template <typename Change>
     void changeOrUndo(Change change);
     template <typename Event>

@@ -110,16 +110,22 @@ Json powerJson(const Application& application) {
 
 using Table = std::vector<std::array<std::string, 4>>;
 
+// Letters of a UTF-8 text: all bytes but those that continue a letter.
+std::size_t lettersOf(const std::string& text) {
+    return static_cast<std::size_t>(
+        std::count_if(text.begin(), text.end(), [](char c) { return (c & 0xC0) != 0x80; }));
+}
+
 void printTable(const Table& table, std::ostream& out) {
     std::array<std::size_t, 4> widths{};
     for (const auto& row : table) {
         for (std::size_t i = 0; i < row.size(); ++i)
-            widths[i] = std::max(widths[i], row[i].size());
+            widths[i] = std::max(widths[i], lettersOf(row[i]));
     }
     for (const auto& row : table) {
         std::string line;
         for (std::size_t i = 0; i < row.size(); ++i) {
-            const std::string fill(widths[i] - row[i].size(), ' ');
+            const std::string fill(widths[i] - lettersOf(row[i]), ' ');
             const bool isNumber = i >= 2;
             line += (i > 0 ? "  " : "") + (isNumber ? fill + row[i] : row[i] + fill);
         }

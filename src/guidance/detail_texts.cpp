@@ -69,13 +69,18 @@ DetailText meansText(const Study& s) {
              frame + "It is computed within either treatment group, and assumed to be the same in both."}};
 }
 
+// What the effect corresponds to; a risk ratio and two risks are told by their rates alone.
+std::string correspondence(const Study& s) {
+    if (s.BinaryType == BinaryTypes::oddsRatio)
+        return ", corresponding to an odds ratio of " + fixedText(s.txtOR, 2);
+    if (s.BinaryType == BinaryTypes::riskDifference)
+        return ", corresponding to a risk difference of " + fixedText(s.txtRD, 2);
+    return "";
+}
+
 std::string currentRates(const Study& s) {
-    const bool oddsRatio = s.BinaryType == BinaryTypes::oddsRatio;
     return "Currently, the event rates in the two groups are " + fixedText(s.txtEvent2, 2) + " vs. " +
-           fixedText(s.txtPrev, 2) +
-           (oddsRatio ? ", corresponding to an odds ratio of " + fixedText(s.txtOR, 2)
-                      : ", corresponding to a risk difference of " + fixedText(s.txtRD, 2)) +
-           ".";
+           fixedText(s.txtPrev, 2) + correspondence(s) + ".";
 }
 
 DetailText oddsRatioText(const Study& s) {

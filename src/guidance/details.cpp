@@ -102,6 +102,8 @@ void Details::refresh() {
 }
 
 void Details::GetDetails(DetailItem item, int row) {
+    if (item != DetailItem::none && !textOf(design_.study(), item, row))
+        return;
     item_ = item;
     row_ = row;
     refresh();

@@ -151,6 +151,7 @@ void Design::showAll() {
 
 void Design::showFault() {
     computeScreen_.askForData("Please modify data");
+    computeScreen_.tellProblem("", "");
     writeWords(study_, settings_, screen_);
 }
 

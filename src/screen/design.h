@@ -127,6 +127,11 @@ public:
     const TauSqPanel& tauSqPanel() const noexcept { return tauSqPanel_; }
     const CellCountsPanel& countsPanel() const noexcept { return countsPanel_; }
     const WindowRegistry& windows() const noexcept { return windows_; }
+    /// Puts all windows back into earlier states.
+    void putBack(const WindowRegistry& windows) {
+        windows_ = windows;
+        showTools();
+    }
     void SynchForms(WindowId window, WindowAction action) { windows_.SynchForms(window, action); }
 
     /// Enters every value and display model of the screen under its name.
