@@ -1,4 +1,6 @@
 // Puts the theme on the application and keeps it in step with the system. Knows no widget.
+#include <utility>
+
 #include <QApplication>
 #include <QEvent>
 #include <QPalette>
@@ -30,10 +32,10 @@ public:
     }
 
     bool eventFilter(QObject* watched, QEvent* event) override {
-        if (!applying_ && event->type() == QEvent::ThemeChange)
-            later([this] { readSystem(); });
-        if (!applying_ && event->type() == QEvent::ApplicationPaletteChange && watched == &application_)
-            later([this] { system_ = QApplication::palette(); });
+        const bool theme = event->type() == QEvent::ThemeChange;
+        const bool palette = event->type() == QEvent::ApplicationPaletteChange && watched == &application_;
+        if (!applying_ && (theme || palette))
+            lookLater(theme);
         return false;
     }
 
@@ -44,22 +46,22 @@ private:
         system_ = QApplication::palette();
     }
 
-    /// One change of the system sends many events; the last look counts, once.
-    template <typename Look>
-    void later(Look look) {
-        if (pending_)
+    /// One change of the system sends many events; one look follows them all.
+    void lookLater(bool themeChanged) {
+        themeChanged_ = themeChanged_ || themeChanged;
+        if (std::exchange(pending_, true))
             return;
-        pending_ = true;
-        QMetaObject::invokeMethod(
-            this,
-            [this, look] {
-                pending_ = false;
-                applying_ = true;
-                look();
-                applying_ = false;
-                apply();
-            },
-            Qt::QueuedConnection);
+        QMetaObject::invokeMethod(this, &ThemeKeeper::look, Qt::QueuedConnection);
+    }
+
+    void look() {
+        pending_ = false;
+        applying_ = true;
+        if (std::exchange(themeChanged_, false))
+            readSystem();
+        else
+            system_ = QApplication::palette();
+        apply();
     }
 
     void apply() {
@@ -77,6 +79,7 @@ private:
     std::optional<bool> dark_;
     bool applying_ = false;
     bool pending_ = false;
+    bool themeChanged_ = false;
 };
 
 QPointer<ThemeKeeper>& keeper() {

@@ -49,6 +49,7 @@ void MessageCard::setKind(Kind kind) {
     if (kind == kind_)
         return;
     kind_ = kind;
+    setMinimumHeight(heightForWidth(width()));
     updateGeometry();
     update();
 }

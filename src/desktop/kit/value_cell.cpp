@@ -48,10 +48,8 @@ constexpr int WheelNotch = 120;
 
 const std::pair<int, int> StepKeys[] = {{Qt::Key_Up, 1}, {Qt::Key_Down, -1}};
 
-/// The direction of a key without modifiers; 0 for any other.
+/// The direction of a key; 0 for one that does not step.
 int directionOf(const QKeyEvent& event) {
-    if (event.modifiers() & ~Qt::KeypadModifier)
-        return 0;
     for (const auto& [key, direction] : StepKeys)
         if (event.key() == key)
             return direction;
@@ -202,7 +200,8 @@ void ValueCell::wheelEvent(QWheelEvent* event) {
 }
 
 void ValueCell::keyPressEvent(QKeyEvent* event) {
-    const int direction = directionOf(*event);
+    const bool modified = event->modifiers() & ~Qt::KeypadModifier;
+    const int direction = modified ? 0 : directionOf(*event);
     if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter)
         emit activated();
     else if (direction != 0 && isChangeable())
