@@ -8,6 +8,7 @@
 #include "desktop/dispersion_views.h"
 #include "desktop/main_window.h"
 #include "desktop/message_views.h"
+#include "desktop/table_view.h"
 
 namespace lorvane::desktop {
 
@@ -66,6 +67,11 @@ Panels::Panels(Desk& desk, MainWindow& window) : desk_(desk), window_(window) {
                      design.effectProblems().pnlErrESTitle, design.effectProblems().pnlErrES);
     add<CountsView>(0.3, 0.5);
     add<DetailsView>(0.7, 0.15);
+    const SmallDialogs& dialogs = desk.application().dialogs();
+    add<TableView>(0.2, 0.3, "frmSpreadICC", "Table of the ICC", design.spreadICC(),
+                   [&dialogs] { return dialogs.spreadICCIsOpen(); });
+    add<TableView>(0.2, 0.4, "frmSpreadTauSq", "Table of the effects", design.spreadTauSq(),
+                   [&dialogs] { return dialogs.spreadTauSqIsOpen(); });
     for (DialogModel& model : dialogModels(desk))
         add<DialogView>(0.4, 0.35, std::move(model));
     connect(&desk_, &Desk::shown, this, &Panels::follow);

@@ -108,7 +108,6 @@ using D = Design&;
 constexpr Command commands[] = {
     {"Exit", [](D d) { d.closeRequest(); }},
     {"About", about},
-    {"OD", ResetForOD},
     {"Add a level", addLevel},
     {"Remove a level", removeLevel},
     {"Enter span for prevalence", [](D d) { enterIccMetric(d, IccMetrics::span, RangeModes::span); }},

@@ -125,6 +125,8 @@ public:
     const EffectProblemWindow& effectProblems() const noexcept { return effectProblems_; }
     const IccPanel& iccPanel() const noexcept { return iccPanel_; }
     const TauSqPanel& tauSqPanel() const noexcept { return tauSqPanel_; }
+    const Grid& spreadICC() const noexcept { return spreadICC_; }
+    const Grid& spreadTauSq() const noexcept { return spreadTauSq_; }
     const CellCountsPanel& countsPanel() const noexcept { return countsPanel_; }
     const WindowRegistry& windows() const noexcept { return windows_; }
     /// Puts all windows back into earlier states.

@@ -319,6 +319,9 @@ void SmallDialogs::registerNames(ControlRegistry& registry) const {
     registry.add("pic.Visible", &maxCostOpen_);
     registry.add("frmLimits.Visible", &limitsOpen_);
     registry.add("frmValue.Visible", &valueOpen_);
+    registry.add("frmOD.Visible", &exampleOpen_);
+    registry.add("frmSpreadICC.Visible", &spreadICCOpen_);
+    registry.add("frmSpreadTauSq.Visible", &spreadTauSqOpen_);
     registry.add("frmValue.Caption", &value_.title.Caption);
     registry.add("frmValue.pnlLimits", value_.limits);
     registry.add("frmValue.txtValue.Text", &value_.txtValue.Text);
@@ -331,6 +334,27 @@ void SmallDialogs::registerEvents(EventRegistry& events) {
     registerLimits(events);
     registerMaxCost(events);
     registerValue(events);
+    registerExample(events);
+    registerRawTables(events);
+}
+
+// The chooser of the example of the optimal design has one option.
+void SmallDialogs::registerExample(EventRegistry& events) {
+    events.onTool("OD", [this] { exampleOpen_ = true; });
+    events.onClick("frmOD.optA", [this] {
+        if (!exampleOpen_)
+            return;
+        exampleOpen_ = false;
+        ResetForOD(design_);
+    });
+    events.onClose("frmOD", [this] { exampleOpen_ = false; });
+}
+
+void SmallDialogs::registerRawTables(EventRegistry& events) {
+    events.onTool("Debug ICC", [this] { spreadICCOpen_ = true; });
+    events.onTool("Debug Tau-sq", [this] { spreadTauSqOpen_ = true; });
+    events.onClose("frmSpreadICC", [this] { spreadICCOpen_ = false; });
+    events.onClose("frmSpreadTauSq", [this] { spreadTauSqOpen_ = false; });
 }
 
 // A button of a dialog that is not open does nothing.

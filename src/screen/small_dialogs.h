@@ -51,6 +51,10 @@ public:
     bool valueIsOpen() const { return valueOpen_; }
     bool limitsAreOpen() const { return limitsOpen_; }
     bool maxCostIsOpen() const { return maxCostOpen_; }
+    bool exampleIsOpen() const { return exampleOpen_; }
+    /// The raw tables of the dispersion, as the report reads them.
+    bool spreadICCIsOpen() const { return spreadICCOpen_; }
+    bool spreadTauSqIsOpen() const { return spreadTauSqOpen_; }
 
     /// Opens the value dialog for a field by name, such as "txtNT(2)"; nothing for a field that has none.
     void openValue(const std::string& field);
@@ -84,6 +88,8 @@ private:
     void registerLimits(EventRegistry& events);
     void registerMaxCost(EventRegistry& events);
     void registerValue(EventRegistry& events);
+    void registerExample(EventRegistry& events);
+    void registerRawTables(EventRegistry& events);
 
     void open(WindowId window) { design_.SynchForms(window, WindowAction::open); }
     void close(WindowId window) { design_.SynchForms(window, WindowAction::unload); }
@@ -104,6 +110,9 @@ private:
     bool valueOpen_ = false;
     bool limitsOpen_ = false;
     bool maxCostOpen_ = false;
+    bool exampleOpen_ = false;
+    bool spreadICCOpen_ = false;
+    bool spreadTauSqOpen_ = false;
 };
 
 }  // namespace lorvane

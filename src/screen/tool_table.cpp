@@ -31,6 +31,8 @@ constexpr ToolRow toolRows[] = {
     // Structure
     {"Add a level", "&Add a level", "Add a level at the top of the study", command},
     {"Remove a level", "&Remove a level", "Remove the top level of the study", command},
+    {"Debug ICC", "Table of the &ICC", "The raw table of the ICC", window},
+    {"Debug Tau-sq", "Table of the &effects", "The raw table of the effects", window},
     {"OD", "Example of the optimal design", "Two levels, for the example of the optimal design", command},
     {"gfrmLevelNames", "Edit level &names", "Name the units of every level", window},
     {"gfrmGroupNames", "Edit group &names", "Name the two groups", window},
