@@ -30,6 +30,7 @@ void TableView::sync() {
             table_->setItem(row, column,
                             new QTableWidgetItem(shownText(cells[static_cast<std::size_t>(column)])));
     }
+    table_->resizeColumnsToContents();
 }
 
 }  // namespace lorvane::desktop
