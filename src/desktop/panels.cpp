@@ -12,6 +12,13 @@
 
 namespace lorvane::desktop {
 
+namespace {
+
+constexpr int frameRoom = 50;   // for the frame of the window system
+constexpr double centred = -1;  // in place of a share of the screen
+
+}  // namespace
+
 PanelView::PanelView(Desk& desk, ToolPanel* panel, const std::string& name)
     : QObject(panel), desk_(desk), panel_(panel) {
     panel->setObjectName(QString::fromStdString(name));
@@ -28,7 +35,7 @@ void PanelView::setFirstPlace(double x, double y) {
     y_ = y;
 }
 
-// The first place of a window is a share of the screen; later it comes back where it was.
+// The first place of a window is a share of the screen or its middle; later it comes back where it was.
 void PanelView::follow() {
     const bool open = isOpen();
     if (open || panel_->isVisible())
@@ -38,11 +45,13 @@ void PanelView::follow() {
     if (open && !panel_->place()) {
         const QRect screen = QGuiApplication::primaryScreen()->availableGeometry();
         panel_->adjustSize();
-        const int left =
-            std::min(static_cast<int>(x_ * screen.width()), screen.width() - panel_->width() - 20);
-        const int top =
-            std::min(static_cast<int>(y_ * screen.height()), screen.height() - panel_->height() - 50);
-        panel_->setPlace(screen.topLeft() + QPoint(std::max(left, 0), std::max(top, 0)));
+        const QSize room = screen.size() - panel_->size();
+        const auto at = [](double share, int size, int space) {
+            const int wanted = share < 0 ? space / 2 : static_cast<int>(share * size);
+            return std::max(0, std::min(wanted, space - frameRoom));
+        };
+        panel_->setPlace(screen.topLeft() + QPoint(at(x_, screen.width(), room.width()),
+                                                   at(y_, screen.height(), room.height())));
     }
     panel_->setVisible(open);
     if (open)
@@ -61,9 +70,9 @@ Panels::Panels(Desk& desk, MainWindow& window) : desk_(desk), window_(window) {
     const Design& design = desk.design();
     add<IccView>(0.5, 0.2, window.menus());
     add<TauSqView>(0.5, 0.3, window.menus());
-    add<ProblemView>(0.42, 0.42, "frmProblems", WindowId::frmProblems, design.problems().pnlErrTitle,
+    add<ProblemView>(centred, centred, "frmProblems", WindowId::frmProblems, design.problems().pnlErrTitle,
                      design.problems().pnlErr);
-    add<ProblemView>(0.42, 0.42, "frmProblemES", WindowId::frmProblemES,
+    add<ProblemView>(centred, centred, "frmProblemES", WindowId::frmProblemES,
                      design.effectProblems().pnlErrESTitle, design.effectProblems().pnlErrES);
     add<CountsView>(0.3, 0.5);
     add<DetailsView>(0.7, 0.15);
@@ -73,7 +82,7 @@ Panels::Panels(Desk& desk, MainWindow& window) : desk_(desk), window_(window) {
     add<TableView>(0.2, 0.4, "frmSpreadTauSq", "Table of the effects", design.spreadTauSq(),
                    [&dialogs] { return dialogs.spreadTauSqIsOpen(); });
     for (DialogModel& model : dialogModels(desk))
-        add<DialogView>(0.4, 0.35, std::move(model));
+        add<DialogView>(centred, centred, std::move(model));
     connect(&desk_, &Desk::shown, this, &Panels::follow);
     follow();
 }

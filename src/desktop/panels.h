@@ -22,6 +22,8 @@ public:
     virtual void sync() = 0;
 
     ToolPanel* panel() const { return panel_; }
+
+    /// Where it opens first, as shares of the screen from the left and from the top; below 0 in the middle.
     void setFirstPlace(double x, double y);
 
     /// Opens, closes and fills the window as the program stands.
