@@ -108,6 +108,7 @@ using D = Design&;
 constexpr Command commands[] = {
     {"Exit", [](D d) { d.closeRequest(); }},
     {"About", about},
+    {"Link or unlink N", [](D d) { d.showDiagnostics(); }},
     {"Add a level", addLevel},
     {"Remove a level", removeLevel},
     {"Enter span for prevalence", [](D d) { enterIccMetric(d, IccMetrics::span, RangeModes::span); }},

@@ -141,6 +141,7 @@ void Design::showAll() {
     writeRows(study_, settings_, screen_);
     applyModelRule();
     writeOtherForm(study_, screen_);
+    writeDiagnostics(study_, screen_);
     writeWords(study_, settings_, screen_);
     for (const auto& refresh : followers_) {
         if (refresh)

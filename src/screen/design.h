@@ -129,6 +129,9 @@ public:
     const Grid& spreadTauSq() const noexcept { return spreadTauSq_; }
     const CellCountsPanel& countsPanel() const noexcept { return countsPanel_; }
     const WindowRegistry& windows() const noexcept { return windows_; }
+    /// Shows the diagnostic panel.
+    void showDiagnostics() { screen_.pnlAI.Visible = true; }
+
     /// Puts all windows back into earlier states.
     void putBack(const WindowRegistry& windows) {
         windows_ = windows;

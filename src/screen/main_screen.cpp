@@ -60,6 +60,7 @@ void addPanels(ControlRegistry& registry, const MainScreen& s) {
                                                            {"lblPrev", &s.lblPrev},
                                                            {"lblP2", &s.lblP2},
                                                            {"pnlAlphaTails", &s.pnlAlphaTails},
+                                                           {"pnlAI", &s.pnlAI},
                                                            {"SSPanel10", &s.SSPanel10}};
     for (const auto& [name, panel] : panels)
         registry.add(name, *panel);
@@ -106,6 +107,7 @@ const std::array<LevelCellName, 15> levelCells = {
      {"pnlCostB", "spnCostB", "txtCostB", "popCostB{}", &MainScreen::pnlCostB}}};
 
 MainScreen::MainScreen() {
+    pnlAI.Visible = false;
     pnlCost.Caption = "Cost = n/a";
     pnlCost.number = "n/a";
     for (std::size_t i = 0; i < columnCount; ++i) {

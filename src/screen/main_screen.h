@@ -71,6 +71,7 @@ struct MainScreen {
     Panel pnldW, pnldT;          ///< the other form of d
     Panel lblD, lblPrev, lblP2;  ///< headings of the strip that follow the study
     Panel pnlAlphaTails;
+    Panel pnlAI;      ///< diagnostic: the tau-squared values of a blocked study of means
     Panel SSPanel10;  ///< metric that a binary effect implies
 
     PerLevel<Panel> BpnlLevel;  ///< the row as a whole

@@ -168,6 +168,18 @@ void writeRows(const Study& s, const SessionSettings& settings, MainScreen& scre
         writeRow(s, settings.currency, screen, level);
 }
 
+void writeDiagnostics(const Study& s, MainScreen& screen) {
+    if (!s.isMeans() || s.isHierarchical() || s.result.xValid == 0)
+        return;
+    std::string values;
+    for (int level = s.RandomizedLevel + 1; level <= s.NumLevels; ++level) {
+        if (!values.empty())
+            values += ' ';
+        values += fixedText(GetTauSq(s, level), 4);
+    }
+    screen.pnlAI.Caption = values;
+}
+
 void writeOtherForm(const Study& s, MainScreen& screen) {
     if (withinShare(s) <= 0)
         return;

@@ -20,6 +20,9 @@ std::string alphaTailsText(const Study& study);
 /// The captions of the rows of the levels in use.
 void writeRows(const Study& study, const SessionSettings& settings, MainScreen& screen);
 
+/// The tau-squared values that the last computation took, the lowest blocked level first.
+void writeDiagnostics(const Study& study, MainScreen& screen);
+
 /// The other form of d. It keeps its text while the ICCs leave no variance within.
 void writeOtherForm(const Study& study, MainScreen& screen);
 
