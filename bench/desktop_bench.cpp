@@ -24,8 +24,9 @@ void clickToScreen(benchmark::State& state) {
     NumericDistributionLibrary distributions;
     const FixedLocale locale;
     DiskFileStore files;
-    ScriptedMessageBoxes messages;
-    Application application({distributions, locale, files, messages});
+    ScriptedDialogs messages;
+    MemorySettings settings;
+    Application application({distributions, locale, files, messages, messages, settings, "."});
     application.load(fourLevels);
     desktop::Desk desk(application, messages);
     desktop::MainWindow window(desk);

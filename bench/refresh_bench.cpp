@@ -36,7 +36,7 @@ void setTop(Study& s, double size) {
 void silentRefresh(benchmark::State& state, int levels, int randomized, int dataType, bool newDf) {
     NumericDistributionLibrary library;
     const FixedLocale locale;
-    ScriptedMessageBoxes messages;
+    ScriptedDialogs messages;
     Design design(library, locale, messages);
     fill(design.study(), levels, randomized, dataType);
     double size = 20;
@@ -56,7 +56,7 @@ void silentRefresh(benchmark::State& state, int levels, int randomized, int data
 void shownRefresh(benchmark::State& state) {
     NumericDistributionLibrary library;
     const FixedLocale locale;
-    ScriptedMessageBoxes messages;
+    ScriptedDialogs messages;
     Design design(library, locale, messages);
     fill(design.study(), 4, 2, DataTypes::binary);
     design.applyChoices();

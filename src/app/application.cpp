@@ -3,15 +3,17 @@
 
 #include <algorithm>
 #include <optional>
+#include <set>
 #include <utility>
 
 #include "base/arithmetic_fault.h"
 #include "base/names.h"
 #include "base/number_text.h"
+#include "base/utf8.h"
 #include "engine/effect_metrics.h"
 #include "persistence/scenario_cells.h"
-#include "persistence/study_file.h"
 #include "screen/commands.h"
+#include "screen/whole_change.h"
 
 namespace lorvane {
 
@@ -39,14 +41,23 @@ std::optional<bool> readFlag(std::string_view text) {
 
 Application::Application(const Platform& platform)
     : platform_(platform), design_(platform.distributions, platform.locale, platform.messages),
-      dialogs_(design_), details_(design_) {
+      dialogs_(design_), details_(design_), scenarioWindow_(design_, scenarios_), recent_(platform.settings),
+      studyFiles_(design_, scenarios_, scenarioWindow_, recent_, platform.files, platform.dialogs,
+                  platform.programFolder),
+      startScreen_(design_, studyFiles_, recent_, platform.files) {
     design_.registerNames(names_);
     dialogs_.registerNames(names_);
     details_.registerNames(names_);
+    scenarioWindow_.registerNames(names_);
+    startScreen_.registerNames(names_);
     names_.addGrid("vsFile", scenarios_.grid());
+    names_.addGrid("flexfiles", recent_.flexfiles());
     registerCommands(events_, design_);
     dialogs_.registerEvents(events_);
     details_.registerEvents(events_);
+    scenarioWindow_.registerEvents(events_);
+    studyFiles_.registerEvents(events_);
+    startScreen_.registerEvents(events_);
     registerPanels();
     disableToolsWithoutSubject();
 }
@@ -82,10 +93,11 @@ void Application::handle(Event event) {
             application.events_.announceShown();
         }
     } const announce{*this};
+    design_.tellStatus("");
     try {
         event();
-    } catch (const ArithmeticFault&) {
-        design_.showFault();
+    } catch (const ArithmeticFault& fault) {
+        design_.showFault(fault);
         throw;
     }
 }
@@ -118,7 +130,21 @@ void Application::type(const std::string& control, const std::string& text) {
     TextBox* box = events_.textBox(control);
     if (box == nullptr)
         throw UseProblem("There is no text box \"" + control + "\".");
+    if (text.size() > ScenarioGrid::longestCell || !isCleanText(text))
+        throw UseProblem("The text for " + control + " must be UTF-8 text of at most " +
+                         std::to_string(ScenarioGrid::longestCell) + " bytes without NUL.");
     box->Text = text;
+}
+
+void Application::select(const std::string& grid, const std::vector<std::size_t>& rows) {
+    Grid* table = events_.selectableGrid(grid);
+    if (table == nullptr)
+        throw UseProblem("There is no table \"" + grid + "\" in which rows can be selected.");
+    const std::set<std::size_t> chosen(rows.begin(), rows.end());
+    if (chosen.contains(0) || (!chosen.empty() && *chosen.rbegin() >= table->rows.size()))
+        throw UseProblem("The rows of " + grid + " go from 1 to " + std::to_string(table->rows.size() - 1) +
+                         ".");
+    handle([&] { table->selected.assign(chosen.begin(), chosen.end()); });
 }
 
 void Application::close(const std::string& window) {
@@ -193,35 +219,6 @@ void Application::check(std::span<const Assignment> values, Kind kind, ValueSour
     }
 }
 
-// Puts study, settings, windows and screen back when the change cannot be carried out.
-template <typename Change>
-void Application::changeOrUndo(Change change) {
-    const Study study = design_.study();
-    const SessionSettings settings = design_.settings();
-    const WindowRegistry windows = design_.windows();
-    try {
-        change();
-        design_.DoRefresh(true);
-    } catch (...) {
-        design_.study() = study;
-        design_.settings() = settings;
-        design_.applyChoices();
-        showAsItWas();
-        design_.settings().StudyDirty = settings.StudyDirty;
-        design_.putBack(windows);
-        throw;
-    }
-}
-
-// The study before a refused change may be one that cannot be computed either.
-void Application::showAsItWas() {
-    try {
-        design_.DoRefresh(true);
-    } catch (const ArithmeticFault&) {
-        design_.showFault();
-    }
-}
-
 // The number of levels moves the randomization to the top; a level of randomization of its own comes after
 // it.
 void Application::applyChoices(std::span<const Assignment> values) {
@@ -254,42 +251,66 @@ void Application::write(std::span<const Assignment> values) {
 void Application::load(std::span<const Assignment> values) {
     check(values, Kind::choices, ValueSource::file);
     check(values, Kind::values, ValueSource::file);
-    changeOrUndo([&] {
+    changeOrUndo(design_, [&] {
         design_.startAnew();
         applyChoices(values);
         write(values);
         design_.settings().CurrentFile.clear();
     });
-    scenarios_ = ScenarioGrid();
+    studyFiles_.forgetScenarios();
 }
 
 void Application::set(std::span<const Assignment> values) {
     check(values, Kind::choices, ValueSource::dialog);
-    changeOrUndo([&] {
+    changeOrUndo(design_, [&] {
         applyChoices(values);
         check(values, Kind::values, ValueSource::dialog);
         write(values);
     });
 }
 
-void Application::open(const std::string& path) {
-    ScenarioGrid loaded = LoadGrid(platform_.files, path);
-    changeOrUndo([&] {
-        design_.startAnew();
-        RestoreScenario(loaded, design_, SystemScenarioName);
-        design_.settings().CurrentFile = path;
+void Application::start(const std::string& file) {
+    handle([&] {
+        recent_.GetFiles();
+        const bool broughtBack = offerLeftBehind();
+        if (!file.empty() && !broughtBack)
+            studyFiles_.OpenFile(file);
+        else if (!file.empty())
+            studyFiles_.askAndOpen(file);
+        else if (!broughtBack)
+            startScreen_.open();
+        design_.SynchForms(WindowId::frmTips, WindowAction::open);
     });
-    loaded.DeleteScenario(SystemScenarioName);
-    scenarios_ = std::move(loaded);
+}
+
+// Whether the study on screen is one that an earlier run has left behind.
+bool Application::offerLeftBehind() {
+    const auto left = platform_.unsaved == nullptr ? std::nullopt : platform_.unsaved->takeLeftBehind();
+    if (!left)
+        return false;
+    const std::string whose = left->file.empty() ? "a new study" : "\"" + left->file + "\"";
+    const Answer answer =
+        design_.ask("Unsaved study",
+                    "Lorvane ended before the last changes of " + whose + " were saved. Bring them back?",
+                    {Answer::Yes, Answer::No});
+    const bool back = answer == Answer::Yes && studyFiles_.bringBack(*left);
+    if (!back)
+        platform_.unsaved->drop();
+    return back;
+}
+
+std::optional<UnsavedStudy> Application::unsavedStudy() const { return studyFiles_.unsavedStudy(); }
+
+void Application::askAndOpen(const std::string& path) {
+    handle([&] { studyFiles_.askAndOpen(path); });
+}
+
+void Application::open(const std::string& path) {
+    handle([&] { studyFiles_.open(path); });
 }
 
 void Application::save(const std::string& path) {
-    scenarios_.DeleteScenario(SystemScenarioName);
-    SaveScenario(scenarios_, design_, SystemScenarioName, SystemScenarioName);
-    SaveGrid(platform_.files, path, scenarios_);
-    design_.settings().CurrentFile = path;
-    design_.settings().StudyDirty = false;
-    design_.showTools();
+    handle([&] { studyFiles_.save(path); });
 }
 
 void Application::restoreScenario(const std::string& name) {
@@ -301,10 +322,13 @@ void Application::restoreScenario(const std::string& name) {
             known.empty() ? "the study has none" : "the nearest is \"" + nearestName(name, known) + "\"";
         throw UseProblem("There is no scenario \"" + name + "\"; " + hint + ".");
     }
-    changeOrUndo([&] {
-        design_.startAnew();
-        RestoreScenario(scenarios_, design_, name);
-    });
+    changeOrUndo(
+        design_,
+        [&] {
+            design_.startAnew();
+            RestoreScenario(scenarios_, design_, name);
+        },
+        IfFault::show);
 }
 
 bool Application::hasPower() const {
@@ -316,6 +340,8 @@ bool Application::hasPower() const {
 
 std::string Application::whyNoPower() const {
     const Study& s = design_.study();
+    if (!design_.faultWords().empty())
+        return design_.faultWords();
     if (s.result.xValid == 1)
         return "The effect metric \"" + std::string(GetESName(s)) +
                "\" has no test; state the effect as an odds ratio or a risk difference.";

@@ -12,12 +12,18 @@
 #include "guidance/details.h"
 #include "persistence/scenario_grid.h"
 #include "persistence/scenario_list.h"
+#include "persistence/scenario_window.h"
+#include "persistence/start_screen.h"
+#include "persistence/study_files.h"
 #include "platform/control_registry.h"
 #include "platform/distribution_library.h"
 #include "platform/event_registry.h"
+#include "platform/file_dialogs.h"
 #include "platform/file_store.h"
 #include "platform/message_boxes.h"
+#include "platform/settings_store.h"
 #include "platform/system_locale.h"
+#include "platform/unsaved_store.h"
 #include "screen/design.h"
 #include "screen/small_dialogs.h"
 #include "screen/study_fields.h"
@@ -30,6 +36,10 @@ struct Platform {
     const SystemLocale& locale;
     FileStore& files;
     MessageBoxes& messages;
+    FileDialogs& dialogs;
+    SettingsStore& settings;
+    std::string programFolder;        ///< where the template of a new study lies
+    UnsavedStore* unsaved = nullptr;  ///< none: a crash loses what was not saved
 };
 
 /// A name or a value that the program does not take; one sentence that names it.
@@ -50,6 +60,13 @@ public:
     Application(const Application&) = delete;
     Application& operator=(const Application&) = delete;
 
+    /// Opens the program for a person: offers a study that an earlier run has left unsaved, then opens the
+    /// file of the command line, or the start screen when there is neither.
+    void start(const std::string& file);
+
+    /// The study as it would be saved now; nothing while it is as it was opened or saved.
+    std::optional<UnsavedStudy> unsavedStudy() const;
+
     /// Starts from a new study without scenarios and writes the values at once, as opening a file with them
     /// would: what no dialog offers is taken. Then one refresh. Throws UseProblem or ArithmeticFault and
     /// changes nothing then.
@@ -64,8 +81,11 @@ public:
     /// the nearest known name, and for a text that does not spell a value.
     Assignment parse(const std::string& name, const std::string& text) const;
 
-    /// Opens a study file: all scenarios, and the state of the screen when it was saved. Throws FileProblem
-    /// or ArithmeticFault and changes nothing then.
+    /// Asks whether unsaved work may go, then opens a file; the status line tells why it cannot be opened.
+    void askAndOpen(const std::string& path);
+
+    /// Opens a study file: all scenarios, and the state of the screen when it was saved. A study that cannot
+    /// be computed opens with a request for other data. Throws FileProblem and changes nothing then.
     void open(const std::string& path);
 
     /// Saves the study with its scenarios. Throws FileProblem; the file that was there stays then.
@@ -89,6 +109,7 @@ public:
     void tool(const std::string& name);
     void click(const std::string& control);
     void type(const std::string& control, const std::string& text);
+    void select(const std::string& grid, const std::vector<std::size_t>& rows);
     void close(const std::string& window);
     void spin(const std::string& control, int direction, Design::SpinMode mode = Design::SpinMode::click);
     void spinReleased();
@@ -101,6 +122,8 @@ public:
     /// Runs after every event, when all display models are right again.
     void whenShown(std::function<void()> redraw) { events_.whenShown(std::move(redraw)); }
 
+    const ScenarioWindow& scenarioWindow() const noexcept { return scenarioWindow_; }
+    const StartScreen& startScreen() const noexcept { return startScreen_; }
     const Details& details() const noexcept { return details_; }
     const SmallDialogs& dialogs() const noexcept { return dialogs_; }
 
@@ -110,6 +133,7 @@ public:
     const StudyFields& fields() const noexcept { return design_.fields(); }
 
 private:
+    bool offerLeftBehind();
     void registerPanels();
     void disableToolsWithoutSubject();
     std::string nearestTool(const std::string& name) const;
@@ -118,9 +142,6 @@ private:
     void check(std::span<const Assignment> values, Kind kind, ValueSource source) const;
     void applyChoices(std::span<const Assignment> values);
     void write(std::span<const Assignment> values);
-    void showAsItWas();
-    template <typename Change>
-    void changeOrUndo(Change change);
     template <typename Event>
     void handle(Event event);
 
@@ -129,6 +150,10 @@ private:
     SmallDialogs dialogs_;
     Details details_;
     ScenarioGrid scenarios_;
+    ScenarioWindow scenarioWindow_;
+    RecentFiles recent_;
+    StudyFiles studyFiles_;
+    StartScreen startScreen_;
     ControlRegistry names_;
     EventRegistry events_;
 };

@@ -104,19 +104,38 @@ const char* wordOf(Answer answer) {
     return "";
 }
 
+Json jsonOf(const ScriptedDialogs::ShownMessage& shown) {
+    Json buttons = Json::array();
+    for (const Answer button : shown.message.buttons)
+        buttons.push_back(wordOf(button));
+    return {{"kind", "message"},
+            {"title", shown.message.title},
+            {"text", shown.message.text},
+            {"buttons", std::move(buttons)},
+            {"answer", wordOf(shown.answer)}};
+}
+
+Json jsonOf(const ScriptedDialogs::ShownFileDialog& shown) {
+    return {{"kind", "file"},
+            {"title", shown.dialog.title},
+            {"filter", shown.dialog.filter},
+            {"default", shown.dialog.defaultExtension},
+            {"answer", shown.answer.value_or("cancel")}};
+}
+
 Json messages(Session& session, ScriptWords&) {
     Json answer = Json::array();
-    for (const ScriptedMessageBoxes::Shown& shown : session.messages.take()) {
-        Json buttons = Json::array();
-        for (const Answer button : shown.message.buttons)
-            buttons.push_back(wordOf(button));
-        answer.push_back({{"kind", "message"},
-                          {"title", shown.message.title},
-                          {"text", shown.message.text},
-                          {"buttons", std::move(buttons)},
-                          {"answer", wordOf(shown.answer)}});
-    }
+    for (const ScriptedDialogs::Shown& shown : session.messages.take())
+        answer.push_back(std::visit([](const auto& dialog) { return jsonOf(dialog); }, shown));
     return answer;
+}
+
+Json queueFile(Session& session, ScriptWords& words) {
+    const std::string path = words.rest();
+    if (path.empty())
+        throw UseProblem("file takes a path, or cancel.");
+    session.messages.queueFile(path == "cancel" ? std::nullopt : std::optional(path));
+    return done();
 }
 
 Json queueAnswer(Session& session, ScriptWords& words) {
@@ -143,6 +162,22 @@ Json click(Session& session, ScriptWords& words) {
 Json type(Session& session, ScriptWords& words) {
     const std::string control = words.need("The name of a text box");
     session.application.type(control, words.rest());
+    return done();
+}
+
+std::size_t rowOf(const std::string& word) {
+    const auto number = readNumber(word);
+    if (!number || *number < 0 || *number != std::floor(*number) || *number > 1e6)
+        throw UseProblem("A row must be a whole number, not \"" + word + "\".");
+    return static_cast<std::size_t>(*number);
+}
+
+Json select(Session& session, ScriptWords& words) {
+    const std::string grid = words.need("The name of a table");
+    std::vector<std::size_t> rows;
+    while (const auto word = words.next())
+        rows.push_back(rowOf(*word));
+    session.application.select(grid, rows);
     return done();
 }
 
@@ -231,11 +266,12 @@ struct Command {
     Json (*run)(Session&, ScriptWords&);
 };
 
-constexpr Command commands[] = {
-    {"load", load},          {"set", set},           {"get", get},     {"names", names}, {"state", state},
-    {"tool", tool},          {"spin", spin},         {"click", click}, {"type", type},   {"close", close},
-    {"answer", queueAnswer}, {"messages", messages}, {"grid", grid},   {"save", save},   {"open", open},
-    {"dist", dist}};
+constexpr Command commands[] = {{"load", load},          {"set", set},           {"get", get},
+                                {"names", names},        {"state", state},       {"tool", tool},
+                                {"spin", spin},          {"click", click},       {"type", type},
+                                {"select", select},      {"close", close},       {"file", queueFile},
+                                {"answer", queueAnswer}, {"messages", messages}, {"grid", grid},
+                                {"save", save},          {"open", open},         {"dist", dist}};
 
 Json run(Session& session, std::string_view line) {
     ScriptWords words(line);

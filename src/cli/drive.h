@@ -6,7 +6,7 @@
 #include <string_view>
 
 #include "app/application.h"
-#include "platform/scripted_message_boxes.h"
+#include "platform/scripted_dialogs.h"
 
 namespace lorvane {
 
@@ -14,7 +14,7 @@ namespace lorvane {
 struct DriveSession {
     Application& application;
     DistributionLibrary& distributions;
-    ScriptedMessageBoxes& messages;
+    ScriptedDialogs& messages;
 };
 
 /// Carries out one command. The answer is one line of JSON; a command that cannot be carried out answers

@@ -10,6 +10,7 @@
 #include "numerics/numeric_distribution_library.h"
 #include "os/disk_file_store.h"
 #include "os/environment_locale.h"
+#include "os/program_folder.h"
 
 namespace {
 
@@ -64,15 +65,18 @@ int runChosen(const CLI::App& cli, const Requests& requests) {
     NumericDistributionLibrary distributions;
     const EnvironmentLocale locale;
     DiskFileStore files;
-    ScriptedMessageBoxes messages;
-    Application application({distributions, locale, files, messages});
+    ScriptedDialogs messages;
+    MemorySettings settings;
+    Application application({distributions, locale, files, messages, messages, settings, programFolder()});
     if (cli.got_subcommand("power"))
         return printPower(requests.power, application, std::cout, std::cerr);
     if (cli.got_subcommand("new"))
         return makeNew(requests.fresh, application, std::cout);
     if (cli.got_subcommand("scenarios"))
         return printScenarios(requests.scenarios, application, std::cout);
-    if (!requests.driven.empty())
+    if (requests.driven.empty())
+        application.start("");
+    else
         application.open(requests.driven);
     DriveSession session{application, distributions, messages};
     drive(std::cin, std::cout, session);

@@ -1,6 +1,8 @@
 // Between the windows and the program.
 #include "desktop/desk.h"
 
+#include <QFile>
+
 #include "base/arithmetic_fault.h"
 #include "screen/field_words.h"
 
@@ -50,13 +52,16 @@ void Desk::openValue(const std::string& field) {
     act([&] { application_.openValue(field); });
 }
 
-void Desk::open(const QString& path) {
-    try {
-        act([&] { application_.open(path.toStdString()); });
-    } catch (const FileProblem& problem) {
-        emit hinted(QString::fromStdString(problem.what()));
-    }
-    emit shown();
+void Desk::select(const std::string& grid, const std::vector<std::size_t>& rows) {
+    act([&] { application_.select(grid, rows); });
+}
+
+void Desk::start(const QString& file) {
+    act([&] { application_.start(QFile::encodeName(file).toStdString()); });
+}
+
+void Desk::askAndOpen(const QString& path) {
+    act([&] { application_.askAndOpen(QFile::encodeName(path).toStdString()); });
 }
 
 QString Desk::hintOf(const std::string& field) const {

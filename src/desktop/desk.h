@@ -27,8 +27,14 @@ public:
     void spinReleased();
     void openValue(const std::string& field);
 
-    /// Opens a study file; the status line tells when it cannot be read.
-    void open(const QString& path);
+    void select(const std::string& grid, const std::vector<std::size_t>& rows);
+
+    /// Opens the program for a person, with the file of the command line or none.
+    void start(const QString& file);
+
+    /// Asks whether unsaved work may go, and opens a study file; the status line tells when it cannot be
+    /// opened.
+    void askAndOpen(const QString& path);
 
     /// The floating windows make way and come back.
     void suspend();

@@ -152,6 +152,11 @@ std::string DiskFileStore::read(const std::string& path, std::size_t largest) co
     }
 }
 
+bool DiskFileStore::exists(const std::string& path) const {
+    std::error_code error;
+    return fs::exists(path, error);
+}
+
 void DiskFileStore::replace(const std::string& path, std::string_view content) {
     try {
         const fs::path target = realTarget(path);

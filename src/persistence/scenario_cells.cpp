@@ -218,6 +218,11 @@ std::string choiceWords(const std::vector<double>& choices) {
     return words;
 }
 
+// A number that a 32-bit integer holds.
+bool isWhole(std::optional<double> number) {
+    return number && std::fabs(*number) <= std::numeric_limits<int>::max() && *number == std::floor(*number);
+}
+
 double readNumberCell(const ScenarioCell& cell, std::string_view text, std::size_t row) {
     const std::optional<double> number = readNumber(text);
     if (!number)
@@ -226,8 +231,7 @@ double readNumberCell(const ScenarioCell& cell, std::string_view text, std::size
     if (!choices.empty() && std::find(choices.begin(), choices.end(), *number) == choices.end())
         fail(row, cell.column, "one of " + choiceWords(choices) + " belongs here");
     const bool whole = std::holds_alternative<int*>(cell.target);
-    const bool fits = std::fabs(*number) <= std::numeric_limits<int>::max() && *number == std::floor(*number);
-    if (whole && !fits)
+    if (whole && !isWhole(number))
         fail(row, cell.column, "a whole number belongs here");
     if (cell.rule == CellRule::positive && *number <= 0)
         fail(row, cell.column, "a number above 0 belongs here");
@@ -274,6 +278,16 @@ void checkRandomizedLevel(const ScenarioGrid& grid, std::size_t base) {
         fail(base + randomizedRow, valueColumn, "a level of the study belongs here");
 }
 
+// What the list of scenarios shows of a block without restoring it.
+void checkSummary(const ScenarioGrid& grid, std::size_t row) {
+    const std::string_view power = grid.text(row, powerColumn);
+    if (!power.empty() && !readNumber(power))
+        fail(row, powerColumn, "a number belongs here");
+    const std::string_view cost = grid.text(row, costColumn);
+    if (!cost.empty() && !isWhole(readNumber(cost)))
+        fail(row, costColumn, "a whole number belongs here");
+}
+
 }  // namespace
 
 std::vector<ScenarioCell> scenarioCells(Study& study, SessionSettings& settings) {
@@ -299,13 +313,21 @@ void SaveScenario(ScenarioGrid& grid, Design& design, std::string_view name, std
 }
 
 void RestoreScenario(const ScenarioGrid& grid, Design& design, std::string_view name) {
-    const std::size_t base = grid.findBlock(name).value_or(0);
+    restoreBlock(grid, design, grid.findBlock(name).value_or(0));
+}
+
+void restoreBlock(const ScenarioGrid& grid, Design& design, std::size_t base) {
     const std::vector<ScenarioCell> cells = scenarioCells(design.study(), design.settings());
     const std::vector<CellValue> values = readBlock(grid, cells, base);
     checkRandomizedLevel(grid, base);
     for (std::size_t i = 0; i < cells.size(); ++i)
         writeTarget(cells[i], values[i]);
     design.applyChoices();
+}
+
+void ReplaceName(ScenarioGrid& grid, std::size_t base, std::string_view name, std::string_view description) {
+    grid.renameBlock(base, name);
+    grid.setText(base + 1, descriptionColumn, std::string(description));
 }
 
 void checkScenarios(const ScenarioGrid& grid) {
@@ -315,11 +337,7 @@ void checkScenarios(const ScenarioGrid& grid) {
     for (std::size_t base = 0; base + 1 < grid.rowCount(); base += ScenarioGrid::blockRows) {
         readBlock(grid, cells, base);
         checkRandomizedLevel(grid, base);
-        for (const std::size_t column : {powerColumn, costColumn}) {
-            const std::string_view text = grid.text(base + 1, column);
-            if (!text.empty() && !readNumber(text))
-                fail(base + 1, column, "a number belongs here");
-        }
+        checkSummary(grid, base + 1);
     }
 }
 

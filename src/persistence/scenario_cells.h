@@ -45,6 +45,13 @@ void SaveScenario(ScenarioGrid& grid, Design& design, std::string_view name, std
 /// anything is changed.
 void RestoreScenario(const ScenarioGrid& grid, Design& design, std::string_view name);
 
+/// The same for a block by the row before its first.
+void restoreBlock(const ScenarioGrid& grid, Design& design, std::size_t base);
+
+/// Gives a block another name and description, by the row before its first: names from a file may differ in
+/// nothing but case, or not at all.
+void ReplaceName(ScenarioGrid& grid, std::size_t base, std::string_view name, std::string_view description);
+
 /// Passes when every block of the table can be restored. Throws TableProblem otherwise.
 void checkScenarios(const ScenarioGrid& grid);
 

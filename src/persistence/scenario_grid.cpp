@@ -1,6 +1,7 @@
 // The table of scenarios.
 #include "persistence/scenario_grid.h"
 
+#include <algorithm>
 #include <utility>
 
 namespace lorvane {
@@ -48,15 +49,40 @@ std::optional<std::size_t> ScenarioGrid::findBlock(std::string_view name) const 
     return std::nullopt;
 }
 
-void ScenarioGrid::DeleteScenario(std::string_view name) {
-    const auto first = grid_.rows.begin() + 1;
-    std::vector<Grid::Row> kept(grid_.rows.begin(), first);
-    for (auto row = first; row != grid_.rows.end(); ++row) {
-        const std::string_view owner = row->empty() ? std::string_view() : std::string_view(row->front());
-        if (owner != name)
-            kept.push_back(std::move(*row));
+std::vector<std::size_t> ScenarioGrid::listedBlocks() const {
+    std::vector<std::size_t> bases;
+    for (std::size_t row = 1; row < rowCount(); row += blockRows) {
+        if (text(row, 0) != SystemScenarioName)
+            bases.push_back(row - 1);
     }
-    grid_.rows = std::move(kept);
+    return bases;
+}
+
+void ScenarioGrid::DeleteScenario(std::string_view name) {
+    std::vector<std::size_t> bases;
+    for (std::size_t row = 1; row < rowCount(); row += blockRows) {
+        if (text(row, 0) == name)
+            bases.push_back(row - 1);
+    }
+    removeBlocks(bases);
+}
+
+void ScenarioGrid::removeBlocks(const std::vector<std::size_t>& bases) {
+    auto next = bases.begin();
+    auto kept = grid_.rows.begin() + 1;
+    for (std::size_t row = 1; row < rowCount(); row += blockRows) {
+        const auto block = grid_.rows.begin() + static_cast<std::ptrdiff_t>(row);
+        if (next != bases.end() && *next + 1 == row)
+            ++next;
+        else
+            kept = kept == block ? block + blockRows : std::move(block, block + blockRows, kept);
+    }
+    grid_.rows.erase(kept, grid_.rows.end());
+}
+
+void ScenarioGrid::renameBlock(std::size_t base, std::string_view name) {
+    for (std::size_t k = 1; k <= blockRows; ++k)
+        setText(base + k, 0, std::string(name));
 }
 
 }  // namespace lorvane

@@ -20,6 +20,7 @@ public:
     static constexpr std::size_t columns = 30;
     static constexpr std::size_t blockRows = 100;
     static constexpr std::size_t largestNumberOfScenarios = 10000;
+    static constexpr std::size_t longestCell = 32767;  ///< bytes
 
     /// The header row alone.
     ScenarioGrid();
@@ -41,8 +42,18 @@ public:
     /// The row before the first of the first block of that name; nothing when there is none.
     std::optional<std::size_t> findBlock(std::string_view name) const;
 
+    /// The row before the first of every block that the list of scenarios shows, in the order of adding; the
+    /// state of the screen is not among them.
+    std::vector<std::size_t> listedBlocks() const;
+
     /// Removes every row whose column 0 is the name.
     void DeleteScenario(std::string_view name);
+
+    /// Removes whole blocks by the rows before their first, which are in rising order.
+    void removeBlocks(const std::vector<std::size_t>& bases);
+
+    /// Gives a block another name.
+    void renameBlock(std::size_t base, std::string_view name);
 
     /// The table itself, as it is shown and saved.
     const Grid& grid() const noexcept { return grid_; }

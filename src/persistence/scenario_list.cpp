@@ -22,14 +22,16 @@ std::string costText(std::string_view cell) {
 
 }  // namespace
 
+ScenarioLine scenarioLine(const ScenarioGrid& grid, std::size_t base) {
+    const std::size_t row = base + 1;
+    return {std::string(grid.text(row, 0)), std::string(grid.text(row, descriptionColumn)),
+            powerText(grid.text(row, powerColumn)), costText(grid.text(row, costColumn))};
+}
+
 std::vector<ScenarioLine> scenarioLines(const ScenarioGrid& grid) {
     std::vector<ScenarioLine> lines;
-    for (std::size_t row = 1; row < grid.rowCount(); row += ScenarioGrid::blockRows) {
-        const std::string_view name = grid.text(row, 0);
-        if (name != SystemScenarioName)
-            lines.push_back({std::string(name), std::string(grid.text(row, descriptionColumn)),
-                             powerText(grid.text(row, powerColumn)), costText(grid.text(row, costColumn))});
-    }
+    for (const std::size_t base : grid.listedBlocks())
+        lines.push_back(scenarioLine(grid, base));
     return lines;
 }
 

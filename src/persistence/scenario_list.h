@@ -15,6 +15,9 @@ struct ScenarioLine {
     std::string cost;   ///< grouped thousands
 };
 
+/// The line of a block by the row before its first.
+ScenarioLine scenarioLine(const ScenarioGrid& grid, std::size_t base);
+
 /// One line a scenario in the order of adding; the state of the screen is not among them.
 std::vector<ScenarioLine> scenarioLines(const ScenarioGrid& grid);
 

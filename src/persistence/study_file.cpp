@@ -11,8 +11,10 @@ namespace lorvane {
 namespace {
 
 constexpr std::size_t largestFile = 256u << 20;
-constexpr CsvLimits limits{ScenarioGrid::columns,
-                           1 + ScenarioGrid::blockRows* ScenarioGrid::largestNumberOfScenarios, 32767};
+// All scenarios and the state of the screen.
+constexpr std::size_t largestNumberOfBlocks = ScenarioGrid::largestNumberOfScenarios + 1;
+constexpr CsvLimits limits{ScenarioGrid::columns, 1 + ScenarioGrid::blockRows* largestNumberOfBlocks,
+                           ScenarioGrid::longestCell};
 
 void checkBlocks(const ScenarioGrid& grid) {
     const std::size_t rows = grid.rowCount();
@@ -23,6 +25,8 @@ void checkBlocks(const ScenarioGrid& grid) {
     }
     if ((rows - 1) % ScenarioGrid::blockRows != 0)
         throw TableProblem(rows, 0, "the table ends in the middle of a scenario");
+    if (grid.listedBlocks().size() > ScenarioGrid::largestNumberOfScenarios)
+        throw TableProblem(rows, 0, "the table has more than 10000 scenarios");
 }
 
 ScenarioGrid readTable(const std::string& text) {
@@ -49,8 +53,20 @@ std::string studyFileText(const ScenarioGrid& grid) {
     return text;
 }
 
-ScenarioGrid LoadGrid(const FileStore& files, const std::string& path) {
-    const std::string text = files.read(path, largestFile);
+std::string studyFileText(const ScenarioGrid& scenarios, const ScenarioGrid& screen) {
+    std::string text;
+    const auto append = [&](const ScenarioGrid& grid, std::size_t first, std::size_t last) {
+        for (std::size_t row = first; row <= last; ++row)
+            appendCsvLine(text, grid.grid().rows[row], ScenarioGrid::columns);
+    };
+    append(scenarios, 0, 0);
+    for (const std::size_t base : scenarios.listedBlocks())
+        append(scenarios, base + 1, base + ScenarioGrid::blockRows);
+    append(screen, 1, screen.rowCount() - 1);
+    return text;
+}
+
+ScenarioGrid readStudyText(const std::string& text, const std::string& path) {
     if (text.empty())
         throw FileProblem("The file \"" + path + "\" is empty; choose a study file.");
     try {
@@ -59,6 +75,10 @@ ScenarioGrid LoadGrid(const FileStore& files, const std::string& path) {
         throw FileProblem("The file \"" + path + "\" is not a study file that can be opened: at " +
                           place(problem) + ", " + problem.what() + ".");
     }
+}
+
+ScenarioGrid LoadGrid(const FileStore& files, const std::string& path) {
+    return readStudyText(files.read(path, largestFile), path);
 }
 
 void SaveGrid(FileStore& files, const std::string& path, const ScenarioGrid& grid) {

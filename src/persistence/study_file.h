@@ -11,6 +11,12 @@ namespace lorvane {
 /// The table as the text of a file.
 std::string studyFileText(const ScenarioGrid& grid);
 
+/// The same with the screen's state from another table in the place of the one that the first may hold.
+std::string studyFileText(const ScenarioGrid& scenarios, const ScenarioGrid& screen);
+
+/// Reads and checks the whole text of a file. Throws FileProblem that names the path.
+ScenarioGrid readStudyText(const std::string& text, const std::string& path);
+
 /// Reads and checks a whole file before anything else may use it. Throws FileProblem, one sentence with file,
 /// row and column, for a file that cannot be read or is no study file.
 ScenarioGrid LoadGrid(const FileStore& files, const std::string& path);

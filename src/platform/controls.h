@@ -2,6 +2,7 @@
 // A model does not know who looks at it; views copy from it.
 #pragma once
 
+#include <cstddef>
 #include <cstdint>
 #include <string>
 #include <vector>
@@ -50,10 +51,11 @@ struct TextBox {
     bool Enabled = true;
 };
 
-/// A table of text cells.
+/// A table of text cells; the first row holds the heads.
 struct Grid {
     using Row = std::vector<std::string>;
     std::vector<Row> rows;
+    std::vector<std::size_t> selected = {};  ///< rows that the user has chosen, in rising order
 };
 
 }  // namespace lorvane

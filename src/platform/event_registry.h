@@ -25,6 +25,8 @@ public:
     }
     void addTextBox(std::string name, TextBox& box) { textBoxes_.emplace(std::move(name), &box); }
 
+    void addGrid(std::string name, Grid& grid) { grids_.emplace(std::move(name), &grid); }
+
     /// Each runs the handler of a name; false when there is none.
     bool tool(std::string_view name) const { return run(tools_, name); }
     bool click(std::string_view control) const { return run(clicks_, control); }
@@ -36,6 +38,12 @@ public:
     TextBox* textBox(std::string_view name) const {
         const auto found = textBoxes_.find(std::string(name));
         return found == textBoxes_.end() ? nullptr : found->second;
+    }
+
+    /// The table in which rows can be selected; null when there is none of that name.
+    Grid* selectableGrid(std::string_view name) const {
+        const auto found = grids_.find(std::string(name));
+        return found == grids_.end() ? nullptr : found->second;
     }
 
     /// Runs after every handled event, when all models are right again: faces redraw then.
@@ -63,6 +71,7 @@ private:
     Handlers clicks_;
     Handlers closes_;
     std::unordered_map<std::string, TextBox*> textBoxes_;
+    std::unordered_map<std::string, Grid*> grids_;
     std::vector<Handler> shown_;
 };
 

@@ -21,6 +21,9 @@ public:
     /// The whole content of a file of at most largest bytes. Throws FileProblem.
     virtual std::string read(const std::string& path, std::size_t largest) const = 0;
 
+    /// Whether there is something at the path.
+    virtual bool exists(const std::string& path) const = 0;
+
     /// Writes a file whole beside the target, brings it to the disk and puts it in the target's place, so
     /// that a failure or an interruption leaves the old file. Throws FileProblem.
     virtual void replace(const std::string& path, std::string_view content) = 0;

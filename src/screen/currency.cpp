@@ -2,6 +2,7 @@
 #include "screen/currency.h"
 
 #include "base/number_text.h"
+#include "base/utf8.h"
 
 namespace lorvane {
 
@@ -13,7 +14,7 @@ Currency detectCurrency(const SystemLocale& locale) {
         if (c != '0' && c != '.' && c != ',')
             rest += c;
     }
-    Currency currency{std::string(trimmed(rest))};
+    Currency currency{isCleanText(rest) ? std::string(trimmed(rest)) : std::string()};
     const bool standsBehind = firstOther != std::string::npos && firstOther > zero.find('0');
     currency.Position = standsBehind ? CurrencyPositions::after : CurrencyPositions::before;
     return currency;

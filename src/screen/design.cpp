@@ -54,10 +54,10 @@ const char* metricMarker(const Study& s) {
 }  // namespace
 
 Design::Design(DistributionLibrary& library, const SystemLocale& locale, MessageBoxes& messages)
-    : library_(library), messages_(messages), fields_(study_, settings_), spreadICC_(LoadSpreadICC()),
-      spreadTauSq_(LoadSpreadTauSq()),
+    : library_(library), messages_(messages), systemCurrency_(detectCurrency(locale)),
+      fields_(study_, settings_), spreadICC_(LoadSpreadICC()), spreadTauSq_(LoadSpreadTauSq()),
       computeScreen_(study_, settings_, screen_, problems_, effectProblems_, windows_, silentTick_) {
-    settings_.currency = detectCurrency(locale);
+    settings_.currency = systemCurrency_;
     ResetToStart();
     settings_.StudyDirty = false;
 }
@@ -107,6 +107,7 @@ void Design::randomize(int level) { DoRandomize(study_, screen_, level); }
 void Design::DoRefresh(bool Show) {
     ComputeDisplay& display = Show ? static_cast<ComputeDisplay&>(computeScreen_) : silent_;
     settings_.StudyDirty = true;
+    faultWords_.clear();
     if (Show)
         showEntered();
     synchronise(Show, display);
@@ -150,7 +151,9 @@ void Design::showAll() {
     showTools();
 }
 
-void Design::showFault() {
+void Design::showFault(const ArithmeticFault& fault) {
+    faultWords_ = fault.what();
+    study_.result.xValid = 0;
     computeScreen_.askForData("Please modify data");
     computeScreen_.tellProblem("", "");
     writeWords(study_, settings_, screen_);

@@ -7,7 +7,9 @@
 #include <optional>
 #include <string>
 #include <string_view>
+#include <utility>
 
+#include "base/arithmetic_fault.h"
 #include "engine/compute_display.h"
 #include "engine/study.h"
 #include "platform/control_registry.h"
@@ -47,7 +49,16 @@ public:
     void DoRefresh(bool Show);
 
     /// After an arithmetic fault: a request for other data in the place of the earlier power.
-    void showFault();
+    void showFault(const ArithmeticFault& fault);
+
+    /// Why the last computation could not go on; empty when it did.
+    const std::string& faultWords() const noexcept { return faultWords_; }
+
+    /// The currency of the system's regional settings.
+    const Currency& systemCurrency() const noexcept { return systemCurrency_; }
+
+    /// What the status line tells of a file.
+    void tellStatus(std::string text) { screen_.pnlStatus.Caption = std::move(text); }
 
     /// Brings tools and title into step with study, settings and windows, without a computation.
     void showTools();
@@ -154,6 +165,7 @@ private:
     MessageBoxes& messages_;
     Study study_;
     SessionSettings settings_;
+    const Currency systemCurrency_;
     StudyFields fields_;
     WindowRegistry windows_;
     ToolBook tools_;
@@ -166,6 +178,7 @@ private:
     Grid spreadICC_;
     Grid spreadTauSq_;
     Panel caption_;
+    std::string faultWords_;
     bool silentTick_ = false;
     bool closed_ = false;
     ComputeScreen computeScreen_;

@@ -61,7 +61,8 @@ void addPanels(ControlRegistry& registry, const MainScreen& s) {
                                                            {"lblP2", &s.lblP2},
                                                            {"pnlAlphaTails", &s.pnlAlphaTails},
                                                            {"pnlAI", &s.pnlAI},
-                                                           {"SSPanel10", &s.SSPanel10}};
+                                                           {"SSPanel10", &s.SSPanel10},
+                                                           {"pnlStatus", &s.pnlStatus}};
     for (const auto& [name, panel] : panels)
         registry.add(name, *panel);
 }

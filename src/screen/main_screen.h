@@ -73,6 +73,7 @@ struct MainScreen {
     Panel pnlAlphaTails;
     Panel pnlAI;      ///< diagnostic: the tau-squared values of a blocked study of means
     Panel SSPanel10;  ///< metric that a binary effect implies
+    Panel pnlStatus;  ///< why the last file could not be opened or saved; empty otherwise
 
     PerLevel<Panel> BpnlLevel;  ///< the row as a whole
     PerLevel<Panel> pnlName;

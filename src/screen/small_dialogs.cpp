@@ -6,6 +6,7 @@
 
 #include "base/names.h"
 #include "base/number_text.h"
+#include "screen/ask_to_apply.h"
 #include "screen/commands.h"
 #include "screen/field_words.h"
 
@@ -71,15 +72,6 @@ bool SmallDialogs::applyAlpha() {
     close(WindowId::frmAlpha);
     design_.DoRefresh(true);
     return true;
-}
-
-void SmallDialogs::closeAlphaByFrame() {
-    const Answer answer = design_.ask("Apply changes?", "Apply changes to alpha?          ",
-                                      {Answer::Yes, Answer::No, Answer::Cancel});
-    if (answer == Answer::Yes)
-        applyAlpha();
-    if (answer == Answer::No)
-        close(WindowId::frmAlpha);
 }
 
 void SmallDialogs::openDelta() {
@@ -204,15 +196,9 @@ bool SmallDialogs::applyLevelNames() {
 }
 
 void SmallDialogs::closeNames(WindowId window, bool changed, bool (SmallDialogs::*apply)()) {
-    if (!changed) {
-        close(window);
-        return;
-    }
-    const Answer answer = design_.ask("Apply changes?", "Apply changes to names?          ",
-                                      {Answer::Yes, Answer::No, Answer::Cancel});
-    if (answer == Answer::Yes)
-        (this->*apply)();
-    if (answer == Answer::No)
+    if (changed)
+        askToApply(design_, window, applyNamesQuestion, [this, apply] { (this->*apply)(); });
+    else
         close(window);
 }
 
@@ -370,7 +356,10 @@ void SmallDialogs::registerNumbers(EventRegistry& events) {
     events.onTool("gfrmAlpha", [this] { openAlpha(); });
     events.addTextBox("frmAlpha.txtAlpha", alpha_);
     whileOpen(events, "frmAlpha.cmdOK", WindowId::frmAlpha, [this] { applyAlpha(); });
-    events.onClose("frmAlpha", [this] { closeAlphaByFrame(); });
+    events.onClose("frmAlpha", [this] {
+        askToApply(design_, WindowId::frmAlpha, "Apply changes to alpha?          ",
+                   [this] { applyAlpha(); });
+    });
     events.onTool("gfrmDelta", [this] { openDelta(); });
     events.onClick("frmDisplayICC.cmdDelta", [this] { openDelta(); });
     events.addTextBox("frmDelta.txtDelta", delta_);

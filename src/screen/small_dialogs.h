@@ -62,7 +62,6 @@ public:
 private:
     void openAlpha();
     bool applyAlpha();
-    void closeAlphaByFrame();
     void openDelta();
     void applyDelta();
     void openMean();

@@ -7,6 +7,7 @@
 
 #include "base/names.h"
 #include "base/number_text.h"
+#include "base/utf8.h"
 
 namespace lorvane {
 
@@ -43,7 +44,8 @@ std::string numberRefusal(const StudyFields& fields, const StudyField& field, do
     if (!choices.empty() && !contains(choices, value))
         return field.name + " must be " + listWords(choices) + ", not " + shortestText(value) + ".";
     const FieldLimits limits = fields.limitsOf(field);
-    if (source == ValueSource::dialog && !limits.holds(value))
+    const bool binds = source == ValueSource::dialog || field.isStrict;
+    if (binds && !limits.holds(value))
         return field.name + " must lie " + limits.words() + ", not at " + shortestText(value) + ".";
     return "";
 }
@@ -51,6 +53,8 @@ std::string numberRefusal(const StudyFields& fields, const StudyField& field, do
 std::string textRefusal(const StudyField& field, const std::string& text) {
     if (text.size() > longestName)
         return field.name + " must be no longer than " + std::to_string(longestName) + " bytes.";
+    if (!isCleanText(text))
+        return field.name + " must be UTF-8 text without NUL.";
     return "";
 }
 
@@ -163,7 +167,7 @@ void StudyFields::addLevels(Study& s) {
 }
 
 void StudyFields::addSettings(Study& s, SessionSettings& settings) {
-    add("MaxCost", &s.MaxCost, {0, false, std::numeric_limits<std::int32_t>::max(), true});
+    add("MaxCost", &s.MaxCost, {0, false, std::numeric_limits<std::int32_t>::max(), true}).isStrict = true;
     addChoice("Powermode", s.Powermode, {DisplayModes::digits, DisplayModes::graph});
     addChoice("Costmode", s.Costmode, {DisplayModes::digits, DisplayModes::graph});
     add("txtDelta", &s.limits.txtDelta, {0.0001, true, 0.1, true});

@@ -37,6 +37,7 @@ struct StudyField {
     std::vector<double> choices;  ///< the only values that the field takes; empty: any number
     int* FmtDecDigits = nullptr;  ///< decimals shown, where the user can choose them
     bool isDesignChoice = false;  ///< applied before other fields, by an operation of its own
+    bool isStrict = false;        ///< its limits bind values from outside the dialogs too
 };
 
 /// All fields of one study and its settings. The study must outlive it.

@@ -7,8 +7,7 @@
 
 #include "app/application.h"
 #include "base/arithmetic_fault.h"
-#include "support/memory_file_store.h"
-#include "support/test_library.h"
+#include "support/test_platform.h"
 
 namespace lorvane {
 
@@ -53,11 +52,12 @@ protected:
         return "done";
     }
 
-    NumericDistributionLibrary library;
-    FixedLocale locale;
-    MemoryFileStore files;
-    ScriptedMessageBoxes messages;
-    Application app{{library, locale, files, messages}};
+    TestPlatform outside;
+    DistributionLibrary& library = outside.library;
+    const SystemLocale& locale = outside.locale;
+    MemoryFileStore& files = outside.files;
+    ScriptedDialogs& messages = outside.messages;
+    Application app{outside.platform()};
 };
 
 }  // namespace lorvane

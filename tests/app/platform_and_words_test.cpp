@@ -73,17 +73,18 @@ TEST(ScriptedAnswers, ComeFromTheQueueElseAreHarmless) {
                           {{OK}, {OK, Cancel}, OK},
                           {{Yes}, {OK, Cancel}, Cancel},
                           {{No, Yes}, {Yes, No}, No}}) {
-        ScriptedMessageBoxes boxes;
+        ScriptedDialogs boxes;
         for (const Answer answer : c.queued)
             boxes.queue(answer);
         EXPECT_EQ(boxes.show({"title", "text ", c.buttons}), c.answer);
         const auto shown = boxes.take();
         ASSERT_EQ(shown.size(), 1u);
-        EXPECT_EQ(shown[0].answer, c.answer);
-        EXPECT_EQ(shown[0].message.text, "text ");
+        const auto& message = std::get<ScriptedDialogs::ShownMessage>(shown[0]);
+        EXPECT_EQ(message.answer, c.answer);
+        EXPECT_EQ(message.message.text, "text ");
         EXPECT_TRUE(boxes.take().empty());
     }
-    ScriptedMessageBoxes boxes;
+    ScriptedDialogs boxes;
     boxes.queue(Yes);
     boxes.queue(OK);
     boxes.show({"", "", {OK, Cancel}});

@@ -33,7 +33,7 @@ MAY_INCLUDE = {
 NUMERICS_MAY_SEE = {"platform/distribution_library.h"}
 
 FOREIGN = {
-    "os": re.compile(r"fcntl\.h|unistd\.h|sys/stat\.h"),
+    "os": re.compile(r"sys/file\.h|fcntl\.h|unistd\.h|sys/stat\.h"),
     "cli": re.compile(r"CLI/|nlohmann/"),
     "qt": re.compile(r"Q[A-Z]"),
     "desktop": re.compile(r"Q[A-Z]"),

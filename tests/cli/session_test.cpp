@@ -9,8 +9,7 @@
 #include <nlohmann/json.hpp>
 
 #include "cli/drive.h"
-#include "support/memory_file_store.h"
-#include "support/test_library.h"
+#include "support/test_platform.h"
 
 namespace lorvane {
 namespace {
@@ -52,12 +51,11 @@ class Session : public ::testing::TestWithParam<std::filesystem::path> {
 protected:
     std::string answer(const std::string& command) { return answerTo(command, session); }
 
-    NumericDistributionLibrary library;
-    FixedLocale locale;
-    MemoryFileStore files;
-    ScriptedMessageBoxes messages;
-    Application application{{library, locale, files, messages}};
-    DriveSession session{application, library, messages};
+    TestPlatform outside;
+    MemoryFileStore& files = outside.files;
+    ScriptedDialogs& messages = outside.messages;
+    Application application{outside.platform()};
+    DriveSession session{application, outside.library, messages};
 };
 
 TEST_P(Session, AnswersAsItMust) {

@@ -27,7 +27,7 @@ struct WatchedMessageBoxes final : MessageBoxes {
         beforeShowing();
         return scripted.show(message);
     }
-    ScriptedMessageBoxes scripted;
+    ScriptedDialogs scripted;
     std::function<void()> beforeShowing = [] {};
 };
 
@@ -95,7 +95,9 @@ protected:
     FixedLocale locale;
     DiskFileStore files;
     WatchedMessageBoxes messages;
-    Application application{{distributions, locale, files, messages}};
+    MemorySettings settings;
+    Application application{
+        {distributions, locale, files, messages, messages.scripted, settings, "/program"}};
     Desk desk{application, messages};
     MainWindow window{desk};
     Panels panels{desk, window};

@@ -3,9 +3,8 @@
 
 #include "app/application.h"
 #include "persistence/study_file.h"
-#include "support/memory_file_store.h"
 #include "support/random_study.h"
-#include "support/test_library.h"
+#include "support/test_platform.h"
 
 namespace lorvane {
 namespace {
@@ -22,11 +21,9 @@ std::vector<ControlValue> stateOf(const Application& application) {
 }
 
 TEST(RoundTrip, RandomStudiesComeBackAsTheyWere) {
-    NumericDistributionLibrary library;
-    const FixedLocale locale;
-    MemoryFileStore files;
-    ScriptedMessageBoxes messages;
-    Application application({library, locale, files, messages});
+    TestPlatform outside;
+    MemoryFileStore& files = outside.files;
+    Application application(outside.platform());
     RandomStudies random(20260101);
     int withPower = 0;
     for (int i = 0; i < 3000; ++i) {
@@ -46,27 +43,22 @@ TEST(RoundTrip, RandomStudiesComeBackAsTheyWere) {
 }
 
 TEST(RoundTrip, TheScreenComesBackWithTheStudy) {
-    NumericDistributionLibrary library;
-    const FixedLocale locale;
-    MemoryFileStore files;
-    ScriptedMessageBoxes messages;
-    Application saved({library, locale, files, messages});
+    TestPlatform outside;
+    Application saved(outside.platform());
     RandomStudies random(77);
     for (int i = 0; i < 200; ++i) {
         saved.load(random.next());
         saved.save("study");
-        Application opened({library, locale, files, messages});
+        Application opened(outside.platform());
         opened.open("study");
         ASSERT_EQ(stateOf(opened), stateOf(saved));
     }
 }
 
 TEST(RoundTrip, ScenariosKeepTheirOrderAndSummary) {
-    NumericDistributionLibrary library;
-    const FixedLocale locale;
-    MemoryFileStore files;
-    ScriptedMessageBoxes messages;
-    Application application({library, locale, files, messages});
+    TestPlatform outside;
+    MemoryFileStore& files = outside.files;
+    Application application(outside.platform());
     application.save("study");
     ScenarioGrid grid = LoadGrid(files, "study");
     const std::size_t base = grid.addBlock("Copy");

@@ -7,8 +7,7 @@
 
 #include "app/application.h"
 #include "persistence/scenario_cells.h"
-#include "support/memory_file_store.h"
-#include "support/test_library.h"
+#include "support/test_platform.h"
 
 namespace lorvane {
 namespace {
@@ -42,11 +41,10 @@ protected:
         return studyFileText(grid);
     }
 
-    NumericDistributionLibrary library;
-    FixedLocale locale;
-    MemoryFileStore files;
-    ScriptedMessageBoxes messages;
-    Application application{{library, locale, files, messages}};
+    TestPlatform outside;
+    MemoryFileStore& files = outside.files;
+    ScriptedDialogs& messages = outside.messages;
+    Application application{outside.platform()};
 };
 
 TEST_F(StudyFile, WrongCellsAreNamed) {
@@ -82,7 +80,7 @@ TEST_F(StudyFile, HostileContentIsRefused) {
     std::string longCell = good;
     longCell.insert(longCell.find("Patients"), std::string(100000, 'x'));
     std::string manyRows = header;
-    for (int i = 0; i < 1000001; ++i)
+    for (int i = 0; i < 1000101; ++i)
         manyRows += "x,,,,,,,,,,,,,,,,,,,,,,,,,,,,,\n";
     const std::pair<const char*, std::string> table[] = {
         {"is empty", ""},
@@ -93,7 +91,7 @@ TEST_F(StudyFile, HostileContentIsRefused) {
         {"row", "\xEF\xBB\xBF\xEF\xBB\xBF" + good.substr(0, 500)},
         {"NUL byte", nul},
         {"longer than 32767 bytes", longCell},
-        {"row 1000002, the table has more than 1000001 rows", manyRows},
+        {"row 1000102, the table has more than 1000101 rows", manyRows},
         {"no closing quote", good + "\"" + good}};
     for (const auto& [part, content] : table) {
         const std::string message = openingOf(content);

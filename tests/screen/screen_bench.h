@@ -31,7 +31,7 @@ inline std::vector<Texts> rowsOf(const std::string& table) {
 
 /// Answers from a queue; a test can look at the screen while a message stands.
 struct WatchedMessageBoxes final : MessageBoxes {
-    ScriptedMessageBoxes script;
+    ScriptedDialogs script;
     std::function<void()> whileShown = [] {};
 
     Answer show(const MessageBox& message) override {
@@ -66,7 +66,8 @@ struct ScreenTest : ::testing::Test {
     FixedLocale locale;
     MemoryFileStore files;
     WatchedMessageBoxes messages;
-    Application app{{library, locale, files, messages}};
+    MemorySettings settings;
+    Application app{{library, locale, files, messages, messages.script, settings, "/program"}};
 };
 
 }  // namespace lorvane

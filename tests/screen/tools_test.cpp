@@ -49,12 +49,14 @@ struct Tools : ScreenTest {
         if (changesType)
             messages.script.queue(Answer::OK);
         app.tool(name);
-        const bool speaks = changesType || name == "Exit" || name == "About";
+        const bool speaks = changesType || speaking.contains(name);
         EXPECT_EQ(messages.script.take().size(), speaks ? 1u : 0u);
         expectInOrder(name);
     }
 
     const std::vector<Texts> groups = choiceGroups();
+    const std::set<std::string> speaking = {"Exit", "About",  "Clear",           "Open",
+                                            "Save", "SaveAs", "Restore scenario"};
 };
 
 TEST_F(Tools, EachOneInEveryDesign) {

@@ -19,6 +19,8 @@ public:
         return found->second;
     }
 
+    bool exists(const std::string& path) const override { return files.contains(path); }
+
     void replace(const std::string& path, std::string_view content) override {
         if (full)
             throw FileProblem("The file \"" + path + "\" cannot be written.");

@@ -6,7 +6,7 @@
 #include "engine/docompute.h"
 #include "engine/study.h"
 #include "numerics/numeric_distribution_library.h"
-#include "platform/scripted_message_boxes.h"
+#include "platform/scripted_dialogs.h"
 #include "platform/system_locale.h"
 
 namespace lorvane {

@@ -17,7 +17,7 @@ namespace lorvane {
 /// a "_" is a blank of the name, a name may go without its "txt", "@" stands for a panel.
 struct StudyBench {
     NumericDistributionLibrary library;
-    ScriptedMessageBoxes messages;
+    ScriptedDialogs messages;
     Design design{library, FixedLocale(), messages};
     Study& study = design.study();
     ControlRegistry registry;

@@ -22,7 +22,8 @@
 #include "desktop/panels.h"
 #include "numerics/numeric_distribution_library.h"
 #include "os/disk_file_store.h"
-#include "platform/scripted_message_boxes.h"
+#include "os/program_folder.h"
+#include "platform/scripted_dialogs.h"
 
 namespace {
 
@@ -59,7 +60,7 @@ bool Stage::run(const QStringList& words, const QString& rest) {
     const QString& command = words[0];
     const std::string text = rest.toStdString();
     if (command == QLatin1String("open"))
-        desk.open(rest);
+        desk.start(rest);
     else if (command == QLatin1String("tool"))
         desk.tool(text);
     else if (command == QLatin1String("click"))
@@ -100,9 +101,10 @@ int main(int argc, char** argv) {
     NumericDistributionLibrary distributions;
     const PictureLocale locale;
     DiskFileStore files;
-    ScriptedMessageBoxes messages;
+    ScriptedDialogs messages;
     messages.queue(Answer::OK);
-    Application application({distributions, locale, files, messages});
+    MemorySettings settings;
+    Application application({distributions, locale, files, messages, messages, settings, programFolder()});
     desktop::Desk desk(application, messages);
     desktop::MainWindow window(desk);
     desktop::Panels panels(desk, window);

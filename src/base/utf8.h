@@ -1,0 +1,15 @@
+// Text in UTF-8: whether it is, and where its letters end.
+#pragma once
+
+#include <cstddef>
+#include <string_view>
+
+namespace lorvane {
+
+/// Number of bytes of the letter at the head of a text that is not empty; 0 when there is none.
+std::size_t letterLength(std::string_view text);
+
+/// Whether the text is UTF-8 without a NUL, which every file and every window can take.
+bool isCleanText(std::string_view text);
+
+}  // namespace lorvane

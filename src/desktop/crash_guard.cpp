@@ -1,0 +1,50 @@
+// Keeps a picture of unsaved work aside.
+#include "desktop/crash_guard.h"
+
+#include <utility>
+
+namespace lorvane::desktop {
+
+CrashGuard::CrashGuard(Desk& desk, UnsavedStore& store, int interval) : desk_(desk), store_(store) {
+    timer_.setSingleShot(true);
+    timer_.setInterval(interval);
+    writer_.setMaxThreadCount(1);
+    connect(&timer_, &QTimer::timeout, this, &CrashGuard::keepPicture);
+    connect(&desk_, &Desk::shown, this, &CrashGuard::follow);
+}
+
+// A saved study needs no picture; a changed one gets one when the time has come.
+void CrashGuard::follow() {
+    if (!desk_.design().settings().StudyDirty)
+        forget();
+    else if (!timer_.isActive())
+        timer_.start();
+}
+
+void CrashGuard::keepPicture() {
+    std::optional<UnsavedStudy> study = desk_.application().unsavedStudy();
+    if (!study)
+        forget();
+    if (!study || study == kept_)
+        return;
+    kept_ = std::move(study);
+    mayHold_ = true;
+    writer_.start([this, picture = *kept_] { store_.keep(picture); });
+}
+
+void CrashGuard::forget() {
+    timer_.stop();
+    if (!mayHold_)
+        return;
+    mayHold_ = false;
+    kept_.reset();
+    writer_.start([this] { store_.drop(); });
+}
+
+void CrashGuard::finish() {
+    disconnect(&desk_, nullptr, this, nullptr);
+    forget();
+    writer_.waitForDone();
+}
+
+}  // namespace lorvane::desktop

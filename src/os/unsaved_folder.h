@@ -1,0 +1,39 @@
+// Pictures of unsaved studies in the user's state folder: one a running program, found again when it has
+// ended without removing it.
+#pragma once
+
+#include <string>
+
+#include "os/disk_file_store.h"
+#include "platform/unsaved_store.h"
+
+namespace lorvane {
+
+/// The folder for what a program keeps between its runs; empty where the user has no home.
+std::string userStateFolder();
+
+class UnsavedFolder final : public UnsavedStore {
+public:
+    /// Works in the folder, which is made with the first picture. An empty folder keeps nothing.
+    explicit UnsavedFolder(std::string folder) : folder_(std::move(folder)) {}
+    ~UnsavedFolder() override;
+    UnsavedFolder(const UnsavedFolder&) = delete;
+    UnsavedFolder& operator=(const UnsavedFolder&) = delete;
+
+    void keep(const UnsavedStudy& study) override;
+    void drop() override;
+    std::optional<UnsavedStudy> takeLeftBehind() override;
+
+private:
+    bool takeLock(const std::string& stem, int flags);
+    bool makeLock();
+    void releaseLock();
+    std::string readOwner() const;
+
+    std::string folder_;
+    std::string stem_;  ///< path of picture and lock without their endings; empty while there is none
+    int lock_ = -1;     ///< held as long as the program runs; holds the path of the study's file
+    DiskFileStore files_;
+};
+
+}  // namespace lorvane

@@ -1,0 +1,121 @@
+// The start screen.
+#include "persistence/start_screen.h"
+
+#include <optional>
+
+#include "base/names.h"
+
+namespace lorvane {
+
+namespace {
+
+constexpr const char* fileKind = "File";
+constexpr const char* moreFilesKind = "More files";
+constexpr const char* moreFiles = "More files ...";
+constexpr const char* marked = "1";
+
+// The name of a file without its folder and its last extension.
+std::string shownName(const std::string& path) {
+    const std::string name = path.substr(path.find_last_of("/\\") + 1);
+    return name.substr(0, name.find_last_of('.'));
+}
+
+}  // namespace
+
+StartScreen::StartScreen(Design& design, StudyFiles& studies, const RecentFiles& recent,
+                         const FileStore& files)
+    : design_(design), studies_(studies), recent_(recent), files_(files) {
+    LoadFiles();
+    SetDisplay();
+}
+
+void StartScreen::registerNames(ControlRegistry& registry) const {
+    registry.add("frmStart.StartChoice", &choice_);
+    registry.add("frmStart.pnlOptions", pnlOptions_);
+    registry.add("frmStart.PnlLogo", PnlLogo_);
+    registry.addGrid("frmStart.flex", flex_);
+}
+
+void StartScreen::registerEvents(EventRegistry& events) {
+    events.onTool("gfrmOpenWizard", [this] { open(); });
+    for (const int choice : {StartChoices::newProject, StartChoices::existingFile})
+        events.onClick(indexedName("frmStart.optStart", choice), [this, choice] { choose(choice); });
+    events.onClick("frmStart.cmdOK(0)", [this] { accept(); });
+    events.onClick("frmStart.cmdOK(1)", [this] { closeScreen(); });
+    events.onClose("frmStart", [this] { closeScreen(); });
+    events.addGrid("frmStart.flex", flex_);
+}
+
+bool StartScreen::isOpen() const { return design_.windows().state(WindowId::frmStart) == WindowStates::open; }
+
+bool StartScreen::isMissing(std::size_t row) const {
+    const Grid::Row& cells = flex_.rows[row];
+    return cells[kindColumn] == fileKind && !files_.exists(cells[pathColumn]);
+}
+
+void StartScreen::open() {
+    if (!isOpen()) {
+        choose(StartChoices::newProject);
+        LoadFiles();
+    }
+    design_.SynchForms(WindowId::frmStart, WindowAction::open);
+}
+
+void StartScreen::LoadFiles() {
+    flex_.rows = {{"", "", "", "", ""}, {"", "", "", moreFiles, moreFilesKind}};
+    for (std::size_t i = 0; i < RecentFiles::rows && !recent_.path(i).empty(); ++i)
+        flex_.rows.push_back({"", marked, recent_.path(i), shownName(recent_.path(i)), fileKind});
+    flex_.selected = {flex_.rows.size() > 2 ? 2u : 1u};
+}
+
+// The logo's panel takes the place of the options' panel once a file is to be opened.
+void StartScreen::SetDisplay() {
+    pnlOptions_.Visible = choice_ == StartChoices::newProject;
+    PnlLogo_.Visible = choice_ == StartChoices::existingFile;
+}
+
+void StartScreen::choose(int choice) {
+    choice_ = choice;
+    SetDisplay();
+}
+
+void StartScreen::closeScreen() {
+    design_.SynchForms(WindowId::frmStart, WindowAction::bringBack);
+    design_.SynchForms(WindowId::frmStart, WindowAction::unload);
+}
+
+// The screen makes way while a file is chosen and opened, and comes back when that fails.
+void StartScreen::accept() {
+    if (!isOpen())
+        return;
+    if (choice_ == StartChoices::newProject) {
+        closeScreen();
+        return;
+    }
+    design_.SynchForms(WindowId::frmStart, WindowAction::withdraw);
+    const std::string path = chosenPath();
+    if (path.empty())
+        design_.SynchForms(WindowId::frmStart, WindowAction::bringBack);
+    else
+        tryToOpen(path);
+}
+
+// The path of the selected file; for "More files" the answer of the file dialog, empty on Cancel.
+std::string StartScreen::chosenPath() {
+    const std::size_t row = flex_.selected.empty() ? 1 : flex_.selected.front();
+    if (flex_.rows[row][kindColumn] == fileKind)
+        return flex_.rows[row][pathColumn];
+    const FileDialog dialog{FileDialog::Kind::open, "Open database", "(*..Lorvane)|*.Lorvane", ""};
+    return studies_.chooseFile(dialog).value_or("");
+}
+
+void StartScreen::tryToOpen(const std::string& path) {
+    if (studies_.OpenFile(path)) {
+        closeScreen();
+        return;
+    }
+    design_.ask(" File not opened ", "Sorry, that file could not be opened         ");
+    design_.SynchForms(WindowId::frmStart, WindowAction::bringBack);
+}
+
+}  // namespace lorvane

@@ -1,0 +1,67 @@
+// The start screen: a new study or an existing file, with the recent files to choose from.
+#pragma once
+
+#include <string>
+
+#include "persistence/recent_files.h"
+#include "persistence/study_files.h"
+#include "platform/control_registry.h"
+#include "platform/event_registry.h"
+#include "platform/file_store.h"
+#include "screen/design.h"
+
+namespace lorvane {
+
+namespace StartChoices {
+inline constexpr int newProject = 1;
+inline constexpr int existingFile = 2;
+}  // namespace StartChoices
+
+class StartScreen {
+public:
+    // Columns of the list; column 0 is empty.
+    static constexpr std::size_t markerColumn = 1;
+    static constexpr std::size_t pathColumn = 2;
+    static constexpr std::size_t textColumn = 3;
+    static constexpr std::size_t kindColumn = 4;
+
+    StartScreen(Design& design, StudyFiles& studies, const RecentFiles& recent, const FileStore& files);
+    StartScreen(const StartScreen&) = delete;
+    StartScreen& operator=(const StartScreen&) = delete;
+
+    void registerNames(ControlRegistry& registry) const;
+    void registerEvents(EventRegistry& events);
+
+    /// Opens the screen with the first choice and the recent files as they are now; raises it when it is
+    /// open.
+    void open();
+
+    int StartChoice() const noexcept { return choice_; }
+
+    /// The recent files: "More files ..." in row 1, then a row a file.
+    const Grid& flex() const noexcept { return flex_; }
+
+    /// Whether the file of a row is not there any more.
+    bool isMissing(std::size_t row) const;
+
+private:
+    void LoadFiles();
+    void SetDisplay();
+    void choose(int choice);
+    void accept();
+    void closeScreen();
+    std::string chosenPath();
+    void tryToOpen(const std::string& path);
+    bool isOpen() const;
+
+    Design& design_;
+    StudyFiles& studies_;
+    const RecentFiles& recent_;
+    const FileStore& files_;
+    int choice_ = StartChoices::newProject;
+    Grid flex_;
+    Panel pnlOptions_;
+    Panel PnlLogo_;
+};
+
+}  // namespace lorvane

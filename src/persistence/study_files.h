@@ -1,0 +1,79 @@
+// Opening and saving the study with its scenarios: the operations, their dialogs and their messages.
+#pragma once
+
+#include <optional>
+#include <string>
+
+#include "persistence/recent_files.h"
+#include "persistence/scenario_grid.h"
+#include "persistence/scenario_window.h"
+#include "platform/event_registry.h"
+#include "platform/file_dialogs.h"
+#include "platform/file_store.h"
+#include "platform/unsaved_store.h"
+#include "screen/design.h"
+
+namespace lorvane {
+
+enum class SaveMode { save = 0, saveAs = 1 };
+
+class StudyFiles {
+public:
+    /// The template of a new study is the file of that name in the program's folder.
+    StudyFiles(Design& design, ScenarioGrid& grid, ScenarioWindow& scenarios, RecentFiles& recent,
+               FileStore& files, FileDialogs& dialogs, const std::string& programFolder);
+    StudyFiles(const StudyFiles&) = delete;
+    StudyFiles& operator=(const StudyFiles&) = delete;
+
+    void registerEvents(EventRegistry& events);
+
+    /// Saves under the name that the study has, or asks for one; true when the file is written. A message
+    /// tells how it went; on a failure the study keeps its name and stays unsaved.
+    bool FileSave(SaveMode mode);
+
+    /// Opens a file, asking for it when the path is empty; true when it is open. On Cancel and on a file that
+    /// cannot be opened nothing changes; the status line tells why.
+    bool OpenFile(const std::string& path);
+
+    /// The same without dialogs and messages. Throws FileProblem and changes nothing then.
+    void open(const std::string& path);
+    void save(const std::string& path);
+
+    /// Asks whether unsaved work may go, and opens the file; an empty path asks for it.
+    void askAndOpen(const std::string& path);
+
+    /// Asks for a file to open; nothing on Cancel.
+    std::optional<std::string> chooseFile(const FileDialog& dialog);
+
+    /// Forgets all scenarios.
+    void forgetScenarios();
+
+    /// The study as it would be saved now; nothing while it is as it was opened or saved. Changes nothing.
+    std::optional<UnsavedStudy> unsavedStudy() const;
+
+    /// Puts a study that was not saved on the screen, under the name of its file; false, with the reason in
+    /// the status line, when it cannot be read.
+    bool bringBack(const UnsavedStudy& study);
+
+private:
+    bool mayClear();
+    void Clear();
+    void startWithoutTemplate();
+    void openTemplate();
+    void show(ScenarioGrid loaded, const std::string& file);
+    void write(const std::string& path);
+    void remember(const std::string& path);
+    UnsavedStudy picture() const;
+    void noteAsSaved();
+
+    Design& design_;
+    ScenarioGrid& grid_;
+    ScenarioWindow& scenarios_;
+    RecentFiles& recent_;
+    FileStore& files_;
+    FileDialogs& dialogs_;
+    std::string template_;
+    std::size_t savedPicture_ = 0;  ///< fingerprint of the study as it was opened or saved
+};
+
+}  // namespace lorvane

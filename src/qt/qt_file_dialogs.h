@@ -1,0 +1,32 @@
+// File dialogs of the desktop.
+#pragma once
+
+#include <functional>
+
+#include <QString>
+
+#include "platform/file_dialogs.h"
+
+class QWidget;
+
+namespace lorvane {
+
+class QtFileDialogs final : public FileDialogs {
+public:
+    /// What to do before a dialog comes up: the windows that make way have to be gone by then.
+    void beforeShowing(std::function<void()> redraw) { redraw_ = std::move(redraw); }
+
+    /// The window over which dialogs come up.
+    void setOwner(QWidget* owner) { owner_ = owner; }
+
+    /// Starts in the folder of the file that was chosen last, at first in the user's documents. A name for
+    /// saving without an ending gets the one of the filter.
+    std::optional<std::string> choose(const FileDialog& dialog) override;
+
+private:
+    std::function<void()> redraw_;
+    QWidget* owner_ = nullptr;
+    QString folder_;
+};
+
+}  // namespace lorvane
