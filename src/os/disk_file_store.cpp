@@ -9,7 +9,9 @@
 #include <cstring>
 #include <filesystem>
 #include <system_error>
-#include <utility>
+
+#include "os/open_file.h"
+#include "os/temporary_file.h"
 
 namespace lorvane {
 
@@ -20,62 +22,31 @@ namespace fs = std::filesystem;
 constexpr mode_t permissionsOfNewFile = 0666;
 constexpr std::size_t readStep = 1u << 16;
 
+// A message ends at its first NUL byte.
+std::string shown(std::string path) {
+    for (std::size_t i = path.find('\0'); i != std::string::npos; i = path.find('\0', i))
+        path.replace(i, 1, "\\0");
+    return path;
+}
+
 [[noreturn]] void failReading(const std::string& path, const std::string& why) {
-    throw FileProblem("The file \"" + path + "\" cannot be read (" + why +
+    throw FileProblem("The file \"" + shown(path) + "\" cannot be read (" + why +
                       "); check its name and its folder.");
 }
 
 [[noreturn]] void failWriting(const std::string& path, const std::string& why) {
-    throw FileProblem("The file \"" + path + "\" cannot be written (" + why +
+    throw FileProblem("The file \"" + shown(path) + "\" cannot be written (" + why +
                       "); choose another folder or make room, and save again.");
 }
 
+// The system would take the part of a name before a NUL byte.
+const char* problemOfName(const std::string& path) {
+    if (path.empty())
+        return "it has no name";
+    return path.find('\0') == std::string::npos ? nullptr : "its name holds a NUL byte";
+}
+
 std::string errorWords(int error) { return std::error_code(error, std::generic_category()).message(); }
-
-// An open file that closes itself.
-class OpenFile {
-public:
-    explicit OpenFile(int descriptor) : descriptor_(descriptor) {}
-    ~OpenFile() { closeNow(); }
-    OpenFile(const OpenFile&) = delete;
-    OpenFile& operator=(const OpenFile&) = delete;
-
-    bool isOpen() const { return descriptor_ >= 0; }
-    int descriptor() const { return descriptor_; }
-
-    bool closeNow() {
-        const int descriptor = std::exchange(descriptor_, -1);
-        return descriptor < 0 || ::close(descriptor) == 0;
-    }
-
-private:
-    int descriptor_;
-};
-
-// A file beside the target, removed again unless it took the target's place.
-class TemporaryFile {
-public:
-    explicit TemporaryFile(const fs::path& target)
-        : name_(target.parent_path() / (".lorvane-" + std::to_string(::getpid()) + ".tmp")) {}
-    ~TemporaryFile() {
-        if (!name_.empty())
-            ::unlink(name_.c_str());
-    }
-    TemporaryFile(const TemporaryFile&) = delete;
-    TemporaryFile& operator=(const TemporaryFile&) = delete;
-
-    const fs::path& name() const { return name_; }
-
-    bool takePlaceOf(const fs::path& target) {
-        if (::rename(name_.c_str(), target.c_str()) != 0)
-            return false;
-        name_.clear();
-        return true;
-    }
-
-private:
-    fs::path name_;
-};
 
 // The file that a path leads to, through symbolic links, whether or not it exists yet.
 fs::path realTarget(const std::string& path) {
@@ -87,10 +58,12 @@ fs::path realTarget(const std::string& path) {
     return target;
 }
 
-mode_t permissionsOf(const fs::path& target, bool& exists) {
-    struct stat status {};
-    exists = ::stat(target.c_str(), &status) == 0;
-    return exists ? status.st_mode & 07777 : permissionsOfNewFile;
+// What cannot be replaced by a file must not be: a folder, a pipe, a device.
+void checkThatItIsNoOther(const std::string& path, const fs::file_status& status) {
+    if (fs::is_directory(status))
+        failWriting(path, "it is a folder");
+    if (fs::exists(status) && !fs::is_regular_file(status))
+        failWriting(path, "it is no ordinary file");
 }
 
 bool writeAll(int descriptor, std::string_view content) {
@@ -111,22 +84,29 @@ void flushFolder(const fs::path& folder) {
         ::fsync(opened.descriptor());
 }
 
-void writeWhole(const std::string& path, const fs::path& target, const fs::path& name,
-                std::string_view content) {
-    bool exists = false;
-    const mode_t permissions = permissionsOf(target, exists);
-    OpenFile file(::open(name.c_str(), O_WRONLY | O_CREAT | O_TRUNC | O_CLOEXEC, permissions));
-    if (!file.isOpen())
+mode_t permissionsOf(const fs::file_status& status) {
+    return fs::exists(status) ? static_cast<mode_t>(status.permissions()) : permissionsOfNewFile;
+}
+
+// The lock of a leftover needs the right to write, so that a read-only file becomes so at last. Some file
+// systems know no permissions and refuse them.
+void writeWhole(const std::string& path, const fs::path& target, std::string_view content) {
+    const fs::file_status old = fs::status(target);
+    checkThatItIsNoOther(path, old);
+    TemporaryFile file(target, permissionsOf(old) | S_IWUSR);
+    if (!file.isOpen() || !writeAll(file.descriptor(), content) || ::fsync(file.descriptor()) != 0)
         failWriting(path, errorWords(errno));
-    if (exists)
-        ::fchmod(file.descriptor(), permissions);
-    if (!writeAll(file.descriptor(), content) || ::fsync(file.descriptor()) != 0 || !file.closeNow())
+    if (fs::exists(old))
+        ::fchmod(file.descriptor(), permissionsOf(old));
+    if (!file.takePlaceOf(target))
         failWriting(path, errorWords(errno));
 }
 
 }  // namespace
 
 std::string DiskFileStore::read(const std::string& path, std::size_t largest) const {
+    if (const char* why = problemOfName(path))
+        failReading(path, why);
     const OpenFile file(::open(path.c_str(), O_RDONLY | O_CLOEXEC | O_NONBLOCK));
     struct stat status {};
     if (!file.isOpen() || ::fstat(file.descriptor(), &status) != 0)
@@ -158,14 +138,11 @@ bool DiskFileStore::exists(const std::string& path) const {
 }
 
 void DiskFileStore::replace(const std::string& path, std::string_view content) {
+    if (const char* why = problemOfName(path))
+        failWriting(path, why);
     try {
         const fs::path target = realTarget(path);
-        if (fs::is_directory(target))
-            failWriting(path, "it is a folder");
-        TemporaryFile temporary(target);
-        writeWhole(path, target, temporary.name(), content);
-        if (!temporary.takePlaceOf(target))
-            failWriting(path, errorWords(errno));
+        writeWhole(path, target, content);
         flushFolder(target.parent_path());
     } catch (const fs::filesystem_error& error) {
         failWriting(path, error.code().message());
