@@ -6,6 +6,7 @@ if(CCACHE_PROGRAM)
 endif()
 
 option(LORVANE_SANITIZE "Build with the address and undefined-behaviour sanitizers" OFF)
+option(LORVANE_FUZZ "Build the fuzzers, with the sanitizers and clang" OFF)
 
 add_library(lorvane_options INTERFACE)
 target_compile_features(lorvane_options INTERFACE cxx_std_20)
@@ -16,6 +17,11 @@ if(LORVANE_SANITIZE)
     # Instrumented code makes the compiler warn of values inside the standard library that it cannot follow.
     target_compile_options(lorvane_options INTERFACE
         -fsanitize=address,undefined -fno-sanitize-recover=all -fno-omit-frame-pointer -Wno-maybe-uninitialized)
+    target_link_options(lorvane_options INTERFACE -fsanitize=address,undefined)
+endif()
+if(LORVANE_FUZZ)
+    target_compile_options(lorvane_options INTERFACE
+        -fsanitize=fuzzer-no-link,address,undefined -fno-sanitize-recover=all -fno-omit-frame-pointer)
     target_link_options(lorvane_options INTERFACE -fsanitize=address,undefined)
 endif()
 
