@@ -79,6 +79,7 @@ DialogModel limitsModel(const Desk& desk, const SmallDialogs& dialogs) {
 
 std::vector<DialogModel> dialogModels(const Desk& desk) {
     const SmallDialogs& d = desk.application().dialogs();
+    const ScenarioWindow& scenarios = desk.application().scenarioWindow();
     const auto group = [&desk](int which) {
         return [&desk, which] { return desk.study().txtGroupName(which); };
     };
@@ -122,6 +123,15 @@ std::vector<DialogModel> dialogModels(const Desk& desk) {
              always("This affects the display only, and has no impact on the computations."),
              {{"txtMaxCost", &d.maxCost(), always("Maximum cost")}},
              {{"cmdSetMaxCost(1)", "Cancel", false}, {"cmdSetMaxCost(0)", "Apply", true}}},
+            {"frmScenariosName",
+             whileOpen(desk, WindowId::frmScenariosName),
+             always("Edit row"),
+             always("Name and describe the scenario"),
+             always(""),
+             {{"frmScenariosName.txtScenariosName", &scenarios.name(), always("Name")},
+              {"frmScenariosName.txtScenariosDesc", &scenarios.description(), always("Description")}},
+             {{"frmScenariosName.cmdScenarioNameOk(1)", "Cancel", false},
+              {"frmScenariosName.cmdScenarioNameOk(0)", "Apply", true}}},
             {"frmOD",
              [&d] { return d.exampleIsOpen(); },
              always("Example of the optimal design"),

@@ -6,6 +6,7 @@
 #include "app/application.h"
 #include "desktop/crash_guard.h"
 #include "desktop/desk.h"
+#include "desktop/kit/logo.h"
 #include "desktop/kit/theme.h"
 #include "desktop/main_window.h"
 #include "desktop/panels.h"
@@ -23,7 +24,9 @@ int main(int argc, char** argv) {
     QApplication qt(argc, argv);
     QApplication::setApplicationName(QStringLiteral("Lorvane"));
     QApplication::setApplicationVersion(QStringLiteral(LORVANE_VERSION));
+    QGuiApplication::setDesktopFileName(QStringLiteral("lorvane"));
     desktop::applyTheme(qt);
+    QApplication::setWindowIcon(desktop::logoIcon());
 
     NumericDistributionLibrary distributions;
     const QtLocale locale;

@@ -2,14 +2,18 @@
 #include "desktop/main_window.h"
 
 #include <QCloseEvent>
+#include <QDragEnterEvent>
+#include <QDropEvent>
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QLayout>
 #include <QMenuBar>
+#include <QMimeData>
 #include <QScrollArea>
 #include <QStatusBar>
 #include <QTimer>
 #include <QToolBar>
+#include <QUrl>
 #include <QVBoxLayout>
 #include <algorithm>
 
@@ -57,6 +61,13 @@ QString wordsBefore(const Cell& cell) {
 // "Power = " without its sign.
 QString nameOf(const Cell& cell) { return wordsBefore(cell).section(QLatin1Char('='), 0, 0).trimmed(); }
 
+// The path of the one study file that is dragged; empty for anything else.
+QString studyOf(const QMimeData* dragged) {
+    const QList<QUrl> urls = dragged->urls();
+    const QString path = urls.size() == 1 ? urls.constFirst().toLocalFile() : QString();
+    return path.endsWith(QLatin1String(".Lorvane"), Qt::CaseInsensitive) ? path : QString();
+}
+
 }  // namespace
 
 MainWindow::MainWindow(Desk& desk) : desk_(desk), menus_(new Menus(desk, this)) {
@@ -69,6 +80,7 @@ MainWindow::MainWindow(Desk& desk) : desk_(desk), menus_(new Menus(desk, this)) 
     statusBar()->addPermanentWidget(saved_);
     statusBar()->setSizeGripEnabled(false);
     statusBar()->setFixedHeight(28);
+    setAcceptDrops(true);
     resize(1280, 800);
     connect(&desk_, &Desk::shown, this, &MainWindow::sync);
     connect(&desk_, &Desk::hinted, hint_, &QLabel::setText);
@@ -186,9 +198,19 @@ void MainWindow::sync() {
     syncCost();
     menus_->sync();
     saved_->setText(shownText(desk_.design().savedWords()));
+    syncStatus();
     chooseSize();
     if (desk_.design().isClosed())
         QTimer::singleShot(0, this, &QWidget::close);
+}
+
+// What the program tells of a file stands in the place of the hint until the next event.
+void MainWindow::syncStatus() {
+    const QString status = shownText(desk_.design().screen().pnlStatus.Caption);
+    if (status == status_)
+        return;
+    status_ = status;
+    hint_->setText(status);
 }
 
 // The rows get smaller as soon as they do not fit otherwise; smaller still, strip and table scroll.
@@ -229,6 +251,18 @@ void MainWindow::changeEvent(QEvent* event) {
         desk_.suspend();
     else if (isMaximized())
         desk_.restore();
+}
+
+void MainWindow::dragEnterEvent(QDragEnterEvent* event) {
+    if (!studyOf(event->mimeData()).isEmpty())
+        event->acceptProposedAction();
+}
+
+// The question about unsaved work waits until the drag is over.
+void MainWindow::dropEvent(QDropEvent* event) {
+    const QString path = studyOf(event->mimeData());
+    event->acceptProposedAction();
+    QTimer::singleShot(0, this, [this, path] { desk_.askAndOpen(path); });
 }
 
 void MainWindow::closeEvent(QCloseEvent* event) {

@@ -36,6 +36,8 @@ protected:
     void closeEvent(QCloseEvent* event) override;
     void resizeEvent(QResizeEvent* event) override;
     void changeEvent(QEvent* event) override;
+    void dragEnterEvent(QDragEnterEvent* event) override;
+    void dropEvent(QDropEvent* event) override;
 
 private:
     void addBars();
@@ -43,6 +45,7 @@ private:
     void addTitle(QVBoxLayout* column);
     void syncPower();
     void syncCost();
+    void syncStatus();
     void chooseSize();
 
     Desk& desk_;
@@ -51,6 +54,7 @@ private:
     QLabel* sense_ = nullptr;
     QLabel* hint_ = nullptr;
     QLabel* saved_ = nullptr;
+    QString status_;
     QScrollArea* scroll_ = nullptr;
     EffectStrip* strip_ = nullptr;
     LevelTable* table_ = nullptr;

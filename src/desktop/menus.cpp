@@ -109,7 +109,7 @@ void Menus::sync(QAction* action, const Tool& tool) {
     action->setVisible(tool.Visible);
     action->setEnabled(tool.Enabled);
     if (action->isCheckable())
-        action->setChecked(tool.Checked);
+        action->setChecked(tool.Checked && tool.Enabled);
 }
 
 void Menus::sync() {

@@ -3,11 +3,14 @@
 
 #include <QGuiApplication>
 #include <QScreen>
+#include <QVBoxLayout>
 
 #include "desktop/dialog_views.h"
 #include "desktop/dispersion_views.h"
 #include "desktop/main_window.h"
 #include "desktop/message_views.h"
+#include "desktop/scenario_view.h"
+#include "desktop/start_view.h"
 #include "desktop/table_view.h"
 
 namespace lorvane::desktop {
@@ -44,7 +47,8 @@ void PanelView::follow() {
         return;
     if (open && !panel_->place()) {
         const QRect screen = QGuiApplication::primaryScreen()->availableGeometry();
-        panel_->adjustSize();
+        if (panel_->content()->sizeConstraint() == QLayout::SetFixedSize)
+            panel_->adjustSize();
         const QSize room = screen.size() - panel_->size();
         const auto at = [](double share, int size, int space) {
             const int wanted = share < 0 ? space / 2 : static_cast<int>(share * size);
@@ -81,6 +85,8 @@ Panels::Panels(Desk& desk, MainWindow& window) : desk_(desk), window_(window) {
                    [&dialogs] { return dialogs.spreadICCIsOpen(); });
     add<TableView>(0.2, 0.4, "frmSpreadTauSq", "Table of the effects", design.spreadTauSq(),
                    [&dialogs] { return dialogs.spreadTauSqIsOpen(); });
+    add<ScenarioView>(0.5, 0.45);
+    add<StartView>(centred, centred);
     for (DialogModel& model : dialogModels(desk))
         add<DialogView>(centred, centred, std::move(model));
     connect(&desk_, &Desk::shown, this, &Panels::follow);

@@ -109,7 +109,7 @@ void ScenarioWindow::ScenariosAdd() {
     appendRow(grid_.rowCount() - 1 - ScenarioGrid::blockRows);
     const std::size_t row = vsNames_.rows.size() - 1;
     vsNames_.selected = {row};
-    design_.settings().StudyDirty = true;
+    design_.noteChange();
     ShowProgress(row, ProgressFlight::Direction::intoTable);
 }
 
@@ -175,7 +175,7 @@ void ScenarioWindow::ScenariosDelete() {
         bases.push_back(blocks[row - 1]);
     grid_.removeBlocks(bases);
     rebuild();
-    design_.settings().StudyDirty = true;
+    design_.noteChange();
 }
 
 void ScenarioWindow::ScenariosEdit() {
@@ -222,7 +222,7 @@ void ScenarioWindow::applyName() {
     ReplaceName(grid_, baseOf(editedRow_), name, description);
     vsNames_.rows[editedRow_][nameColumn] = name;
     vsNames_.rows[editedRow_][descriptionOfList] = description;
-    design_.settings().StudyDirty = true;
+    design_.noteChange();
     closeName();
 }
 

@@ -1,7 +1,6 @@
 // Opening and saving the study with its scenarios.
 #include "persistence/study_files.h"
 
-#include <functional>
 #include <utility>
 
 #include "persistence/scenario_cells.h"
@@ -15,8 +14,6 @@ namespace {
 constexpr const char* templateName = "/Template Means.Lorvane";
 constexpr const char* filter = "(*.Lorvane)|*.Lorvane";
 constexpr const char* extension = ".Lorvane";
-
-std::size_t fingerprint(const UnsavedStudy& study) { return std::hash<std::string>()(study.table); }
 
 // Windows that make way until the dialog is closed.
 class FormsAside {
@@ -65,7 +62,7 @@ void StudyFiles::save(const std::string& path) {
     design_.settings().CurrentFile = path;
     remember(path);
     design_.settings().StudyDirty = false;
-    noteAsSaved();
+    design_.noteAsSaved();
 }
 
 bool StudyFiles::FileSave(SaveMode mode) {
@@ -112,7 +109,7 @@ void StudyFiles::open(const std::string& path) {
     }
     show(LoadGrid(files_, path), path);
     remember(path);
-    noteAsSaved();
+    design_.noteAsSaved();
 }
 
 // A new study has the currency of this system, not of the one that the template was made on.
@@ -160,6 +157,7 @@ void StudyFiles::Clear() {
         startWithoutTemplate();
     }
     design_.settings().StudyDirty = false;
+    design_.noteAsSaved();
 }
 
 // A program folder without its template is no reason not to start anew: the same values come from within.
@@ -175,19 +173,12 @@ void StudyFiles::forgetScenarios() {
     scenarios_.rebuild();
 }
 
-UnsavedStudy StudyFiles::picture() const {
+std::optional<UnsavedStudy> StudyFiles::unsavedStudy() const {
+    if (design_.isAsSaved())
+        return std::nullopt;
     ScenarioGrid screen;
     SaveScenario(screen, design_, SystemScenarioName, SystemScenarioName);
-    return {design_.settings().CurrentFile, studyFileText(grid_, screen)};
-}
-
-void StudyFiles::noteAsSaved() { savedPicture_ = fingerprint(picture()); }
-
-std::optional<UnsavedStudy> StudyFiles::unsavedStudy() const {
-    if (!design_.settings().StudyDirty)
-        return std::nullopt;
-    UnsavedStudy study = picture();
-    return fingerprint(study) == savedPicture_ ? std::nullopt : std::optional(std::move(study));
+    return UnsavedStudy{design_.settings().CurrentFile, studyFileText(grid_, screen)};
 }
 
 bool StudyFiles::bringBack(const UnsavedStudy& study) {

@@ -63,8 +63,6 @@ private:
     void show(ScenarioGrid loaded, const std::string& file);
     void write(const std::string& path);
     void remember(const std::string& path);
-    UnsavedStudy picture() const;
-    void noteAsSaved();
 
     Design& design_;
     ScenarioGrid& grid_;
@@ -73,7 +71,6 @@ private:
     FileStore& files_;
     FileDialogs& dialogs_;
     std::string template_;
-    std::size_t savedPicture_ = 0;  ///< fingerprint of the study as it was opened or saved
 };
 
 }  // namespace lorvane

@@ -60,6 +60,7 @@ Design::Design(DistributionLibrary& library, const SystemLocale& locale, Message
     settings_.currency = systemCurrency_;
     ResetToStart();
     settings_.StudyDirty = false;
+    noteAsSaved();
 }
 
 void Design::startAnew() {
@@ -108,8 +109,10 @@ void Design::DoRefresh(bool Show) {
     ComputeDisplay& display = Show ? static_cast<ComputeDisplay&>(computeScreen_) : silent_;
     settings_.StudyDirty = true;
     faultWords_.clear();
-    if (Show)
+    if (Show) {
+        asSaved_ = false;
         showEntered();
+    }
     synchronise(Show, display);
     ComputeES(study_, display);
     docompute(study_, library_, display);
@@ -301,7 +304,7 @@ void Design::ShowCounts(bool show) {
 }
 
 std::string Design::savedWords() const {
-    if (settings_.StudyDirty || settings_.CurrentFile.empty())
+    if (!asSaved_ || settings_.CurrentFile.empty())
         return "Not saved";
     return "Saved in " + fileName(settings_.CurrentFile);
 }

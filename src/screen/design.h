@@ -118,6 +118,17 @@ public:
     void ShowTauSq(bool show);
     void SynchCellCounts();
 
+    /// The study with its scenarios is on the disk as it is now, or is a new one; any edit ends that. Opening
+    /// a file makes it so too, though StudyDirty asks a careful question after it.
+    void noteAsSaved() { asSaved_ = true; }
+    bool isAsSaved() const noexcept { return asSaved_; }
+
+    /// Something changed that a save would keep.
+    void noteChange() {
+        settings_.StudyDirty = true;
+        asSaved_ = false;
+    }
+
     /// Whether the study is saved, for the status line.
     std::string savedWords() const;
 
@@ -179,6 +190,7 @@ private:
     Grid spreadTauSq_;
     Panel caption_;
     std::string faultWords_;
+    bool asSaved_ = false;
     bool silentTick_ = false;
     bool closed_ = false;
     ComputeScreen computeScreen_;

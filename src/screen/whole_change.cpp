@@ -22,6 +22,7 @@ void changeOrUndo(Design& design, const std::function<void()>& change, IfFault i
     const Study study = design.study();
     const SessionSettings settings = design.settings();
     const WindowRegistry windows = design.windows();
+    const bool asSaved = design.isAsSaved();
     try {
         change();
         if (ifFault == IfFault::show)
@@ -35,6 +36,8 @@ void changeOrUndo(Design& design, const std::function<void()>& change, IfFault i
         refreshOrShowFault(design);
         design.settings().StudyDirty = settings.StudyDirty;
         design.putBack(windows);
+        if (asSaved)
+            design.noteAsSaved();
         throw;
     }
 }

@@ -71,6 +71,8 @@ bool Stage::run(const QStringList& words, const QString& rest) {
         desk.openValue(text);
     else if (command == QLatin1String("type"))
         desk.type(words[1].toStdString(), rest.section(QLatin1Char(' '), 1));
+    else if (command == QLatin1String("select"))
+        desk.select(words[1].toStdString(), {words[2].toULong()});
     else if (command == QLatin1String("size"))
         window.resize(words[1].toInt(), words[2].toInt());
     else if (command == QLatin1String("dark"))

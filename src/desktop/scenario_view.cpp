@@ -1,0 +1,130 @@
+// The window of scenarios.
+#include "desktop/scenario_view.h"
+
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QPainter>
+#include <QShortcut>
+#include <QVBoxLayout>
+
+#include "base/names.h"
+#include "desktop/kit/push_button.h"
+#include "desktop/kit/record_table.h"
+#include "desktop/kit/text_style.h"
+#include "desktop/kit/theme.h"
+
+namespace lorvane::desktop {
+
+namespace {
+
+constexpr const char* listName = "frmScenarios.vsNames";
+constexpr int heads = 1;  // rows of the program's list before the first scenario
+constexpr int add = 0, restore = 1, remove = 2, edit = 3, close = 4;
+
+// Buttons under a line.
+class Footer : public QWidget {
+protected:
+    void paintEvent(QPaintEvent*) override { QPainter(this).fillRect(0, 0, width(), 1, colour(Role::Line)); }
+};
+
+std::vector<QStringList> scenarioRows(const Grid& list) {
+    std::vector<QStringList> rows;
+    for (std::size_t row = heads; row < list.rows.size(); ++row) {
+        QStringList texts;
+        for (std::size_t column = 1; column < list.rows[row].size(); ++column)
+            texts += shownText(list.rows[row][column]);
+        rows.push_back(texts);
+    }
+    return rows;
+}
+
+std::vector<RecordColumn> scenarioColumns(const Grid& list) {
+    const Grid::Row& titles = list.rows.front();
+    return {{shownText(titles[1]), 150, false, false},
+            {shownText(titles[2]), 300, false, true},
+            {shownText(titles[3]), 90, true, false},
+            {shownText(titles[4]), 120, true, false}};
+}
+
+}  // namespace
+
+ScenarioView::ScenarioView(Desk& desk, ToolPanel* panel)
+    : PanelView(desk, panel, "frmScenarios"), table_(new RecordTable), count_(new QLabel) {
+    panel->setWindowTitle(tr("Scenarios"));
+    panel->setAttribute(Qt::WA_ShowWithoutActivating, false);
+    panel->content()->setSizeConstraint(QLayout::SetDefaultConstraint);
+    panel->content()->setContentsMargins(0, 8, 0, 0);
+    panel->resize(780, 396);
+    panel->setMinimumSize(560, 260);
+    table_->setAccessibleName(panel->windowTitle());
+    table_->setColumns(scenarioColumns(desk.application().scenarioWindow().vsNames()));
+    auto* list = new QHBoxLayout;
+    list->setContentsMargins(8, 0, 8, 0);
+    list->addWidget(table_);
+    panel->content()->addLayout(list, 1);
+    panel->content()->addWidget(makeFooter());
+    connect(table_, &RecordTable::selectionChangedByUser, this, [this](const QList<int>& rows) {
+        std::vector<std::size_t> chosen;
+        for (const int row : rows)
+            chosen.push_back(static_cast<std::size_t>(row + heads));
+        desk_.select(listName, chosen);
+    });
+    connect(table_, &RecordTable::activated, this, [this](int row) {
+        desk_.select(listName, {static_cast<std::size_t>(row + heads)});
+        press(restore);
+    });
+    connect(table_, &RecordTable::deletePressed, this, [this] { press(remove); });
+    connect(new QShortcut(Qt::Key_Escape, panel), &QShortcut::activated, this, [this] { press(close); });
+}
+
+void ScenarioView::press(int button) { desk_.click(indexedName("frmScenarios.cmdScenarios", button)); }
+
+QWidget* ScenarioView::makeFooter() {
+    auto* footer = new Footer;
+    auto* row = new QHBoxLayout(footer);
+    row->setContentsMargins(17, 12, 17, 13);
+    row->setSpacing(8);
+    const auto addButton = [&](int number, const QString& words, PushButton* button) {
+        button->setObjectName(QString::fromStdString(indexedName("frmScenarios.cmdScenarios", number)));
+        button->setMinimumWidth(84);
+        connect(button, &PushButton::clicked, this, [this, number] { press(number); });
+        button->setText(words);
+        row->addWidget(button);
+    };
+    addButton(add, tr("Add"), primaryButton(tr("Add")));
+    addButton(restore, tr("Restore"), plainButton(tr("Restore")));
+    addButton(edit, tr("Edit"), plainButton(tr("Edit")));
+    addButton(remove, tr("Delete"), plainButton(tr("Delete")));
+    row->addStretch(1);
+    count_->setFont(textFont(TextStyle::Caption));
+    count_->setProperty("second", true);
+    row->addWidget(count_);
+    row->addSpacing(8);
+    addButton(close, tr("Close"), plainButton(tr("Close")));
+    return footer;
+}
+
+bool ScenarioView::isOpen() const {
+    return desk_.design().windows().state(WindowId::frmScenarios) == WindowStates::open;
+}
+
+void ScenarioView::sync() {
+    const ScenarioWindow& model = desk_.application().scenarioWindow();
+    table_->setRows(scenarioRows(model.vsNames()));
+    QList<int> selected;
+    for (const std::size_t row : model.vsNames().selected)
+        selected += static_cast<int>(row) - heads;
+    table_->setSelectedRows(selected);
+    const std::size_t scenarios = model.vsNames().rows.size() - heads;
+    count_->setText(scenarios == 1 ? tr("1 scenario") : tr("%1 scenarios").arg(scenarios));
+    const ProgressFlight& progress = model.progress();
+    if (flights_ == progress.count)
+        return;
+    flights_ = progress.count;
+    const int row = static_cast<int>(progress.row) - heads;
+    table_->bringIntoView(row);
+    const bool in = progress.direction == ProgressFlight::Direction::intoTable;
+    table_->fly(row, in ? RecordTable::Flight::In : RecordTable::Flight::Out);
+}
+
+}  // namespace lorvane::desktop

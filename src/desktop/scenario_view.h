@@ -1,0 +1,30 @@
+// The window of scenarios: the list and its buttons.
+#pragma once
+
+#include "desktop/panels.h"
+
+class QLabel;
+
+namespace lorvane::desktop {
+
+class RecordTable;
+
+class ScenarioView final : public PanelView {
+    Q_OBJECT
+
+public:
+    ScenarioView(Desk& desk, ToolPanel* panel);
+
+    bool isOpen() const override;
+    void sync() override;
+
+private:
+    QWidget* makeFooter();
+    void press(int button);
+
+    RecordTable* table_;
+    QLabel* count_;
+    int flights_ = 0;
+};
+
+}  // namespace lorvane::desktop

@@ -1,0 +1,24 @@
+// The start screen over the main window.
+#pragma once
+
+#include "desktop/panels.h"
+
+namespace lorvane::desktop {
+
+class StartPage;
+
+class StartView final : public PanelView {
+    Q_OBJECT
+
+public:
+    StartView(Desk& desk, ToolPanel* panel);
+
+    bool isOpen() const override;
+    void sync() override;
+
+private:
+    StartPage* page_;
+    bool wasOpen_ = false;
+};
+
+}  // namespace lorvane::desktop
