@@ -57,17 +57,12 @@ std::string userStateFolder() {
     return home == nullptr || *home == '\0' ? std::string() : std::string(home) + "/.local/state/lorvane";
 }
 
-UnsavedFolder::~UnsavedFolder() { releaseLock(); }
-
 bool UnsavedFolder::takeLock(const std::string& stem, int flags) {
-    const int lock = ::open((stem + lockEnding).c_str(), O_RDWR | O_CLOEXEC | flags, forTheUserAlone);
-    if (lock < 0)
-        return false;
-    if (::flock(lock, LOCK_EX | LOCK_NB) != 0) {
-        ::close(lock);
+    lock_.take(::open((stem + lockEnding).c_str(), O_RDWR | O_CLOEXEC | flags, forTheUserAlone));
+    if (!lock_.isOpen() || ::flock(lock_.descriptor(), LOCK_EX | LOCK_NB) != 0) {
+        lock_.closeNow();
         return false;
     }
-    lock_ = lock;
     stem_ = stem;
     return true;
 }
@@ -83,17 +78,11 @@ bool UnsavedFolder::makeLock() {
     return false;
 }
 
-void UnsavedFolder::releaseLock() {
-    if (lock_ >= 0)
-        ::close(std::exchange(lock_, -1));
-    stem_.clear();
-}
-
 void UnsavedFolder::keep(const UnsavedStudy& study) {
     if (folder_.empty() || (stem_.empty() && !makeLock()))
         return;
     try {
-        writeOwner(lock_, study.file);
+        writeOwner(lock_.descriptor(), study.file);
         files_.replace(stem_ + pictureEnding, study.table);
     } catch (const FileProblem&) {
         // Without room for a picture the program works without one.
@@ -105,12 +94,13 @@ void UnsavedFolder::drop() {
         return;
     ::unlink((stem_ + pictureEnding).c_str());
     ::unlink((stem_ + lockEnding).c_str());
-    releaseLock();
+    stem_.clear();
+    lock_.closeNow();
 }
 
 std::string UnsavedFolder::readOwner() const {
     std::string file(longestPath, '\0');
-    const ssize_t got = ::pread(lock_, file.data(), file.size(), 0);
+    const ssize_t got = ::pread(lock_.descriptor(), file.data(), file.size(), 0);
     file.resize(got > 0 ? static_cast<std::size_t>(got) : 0);
     return file;
 }
@@ -122,7 +112,8 @@ std::optional<UnsavedStudy> UnsavedFolder::takeLeftBehind() {
         try {
             return UnsavedStudy{readOwner(), files_.read(stem + pictureEnding, largestPicture)};
         } catch (const FileProblem&) {
-            releaseLock();
+            stem_.clear();
+            lock_.closeNow();
         }
     }
     return std::nullopt;

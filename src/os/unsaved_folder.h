@@ -5,6 +5,7 @@
 #include <string>
 
 #include "os/disk_file_store.h"
+#include "os/open_file.h"
 #include "platform/unsaved_store.h"
 
 namespace lorvane {
@@ -16,7 +17,6 @@ class UnsavedFolder final : public UnsavedStore {
 public:
     /// Works in the folder, which is made with the first picture. An empty folder keeps nothing.
     explicit UnsavedFolder(std::string folder) : folder_(std::move(folder)) {}
-    ~UnsavedFolder() override;
     UnsavedFolder(const UnsavedFolder&) = delete;
     UnsavedFolder& operator=(const UnsavedFolder&) = delete;
 
@@ -27,12 +27,11 @@ public:
 private:
     bool takeLock(const std::string& stem, int flags);
     bool makeLock();
-    void releaseLock();
     std::string readOwner() const;
 
     std::string folder_;
     std::string stem_;  ///< path of picture and lock without their endings; empty while there is none
-    int lock_ = -1;     ///< held as long as the program runs; holds the path of the study's file
+    OpenFile lock_;     ///< held as long as the program runs; holds the path of the study's file
     DiskFileStore files_;
 };
 

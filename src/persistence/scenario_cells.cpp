@@ -181,8 +181,11 @@ void addSettings(CellList& list, Study& s, SessionSettings& settings) {
     list.choice(61, valueColumn, settings.ReportCosts, {1, 2});
 }
 
+// A value that a computation could not work out is left out of the file: it follows from the others again.
 struct TextOfTarget {
-    std::string operator()(const double* value) const { return shortestText(*value); }
+    std::string operator()(const double* value) const {
+        return shortestText(std::isfinite(*value) ? *value : 0);
+    }
     std::string operator()(const int* value) const { return std::to_string(*value); }
     std::string operator()(const bool* value) const { return *value ? "True" : "False"; }
     std::string operator()(const std::string* value) const { return *value; }

@@ -1,6 +1,8 @@
 // The study in words.
 #include "screen/design_words.h"
 
+#include <cmath>
+
 #include "base/money.h"
 #include "base/number_text.h"
 
@@ -70,7 +72,7 @@ std::string unitsNote(const Study& s) {
     std::string note;
     for (int level = s.NumLevels; level >= 1; --level) {
         const double units = unitsInStudy(s, level);
-        if (!(units < largestTold))
+        if (!(std::fabs(units) < largestTold))
             return "";
         note += (note.empty() ? "" : ", ") + groupedText(static_cast<std::int64_t>(units)) + " " +
                 lowerName(s, level);

@@ -34,6 +34,25 @@ def check_answers(folder):
                                "ICC Metric": 1}, out
 
 
+def check_examples():
+    studies = sorted(EXAMPLES.glob("*.Lorvane"))
+    assert len(studies) == 5, studies
+    for study in studies:
+        rows = json.loads(run("scenarios", str(study), "--json")[1])["scenarios"]
+        assert len(rows) == 3, study
+        for row in rows:
+            answer = json.loads(run("power", str(study), "--scenario", row["name"], "--json")[1])
+            assert f"{answer['power']:.3f}" == row["power"] and f"{answer['cost']:,}" == row["cost"], (study, row)
+
+
+def check_new_study():
+    template = Path(PROGRAM).parent / "Template Means.Lorvane"
+    code, out, _ = run("drive", text=f'get window:20\nset txtd 0.9\nopen "{template}"\nget txtd CurrentFile\ngrid flexfiles\n')
+    answers = [json.loads(line) for line in out.splitlines()]
+    assert answers[0] == {"window:20": 4} and answers[3] == {"txtd": 0, "CurrentFile": ""}, out
+    assert not any(row[0] for row in answers[4]), "the template is no recent file"
+
+
 def check_no_answer():
     code, out, err = run("power", STUDY, "--set", "txtNB(3)=1")
     assert code == 1 and "Cost" in out and err.startswith("There are insufficient degrees of freedom. "), err
@@ -81,6 +100,8 @@ def main():
     with tempfile.TemporaryDirectory() as folder:
         check_answers(folder)
         check_failures(folder)
+    check_examples()
+    check_new_study()
     check_no_answer()
     check_help()
 

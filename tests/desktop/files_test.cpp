@@ -1,0 +1,196 @@
+// Scenarios, start screen, files and unsaved work, as a person meets them.
+#include <QApplication>
+#include <QDialogButtonBox>
+#include <QDropEvent>
+#include <QFileDialog>
+#include <QLabel>
+#include <QLineEdit>
+#include <QMimeData>
+#include <QPushButton>
+#include <QSettings>
+#include <QStatusBar>
+#include <QTemporaryDir>
+#include <QTimer>
+#include <QUrl>
+
+#include "desktop/crash_guard.h"
+#include "desktop/kit/record_table.h"
+#include "desktop/kit/start_page.h"
+#include "desktop_bench.h"
+#include "qt/qt_file_dialogs.h"
+#include "qt/qt_settings_store.h"
+
+namespace lorvane::desktop {
+namespace {
+
+class Files : public DesktopBench {
+protected:
+    QString path(const char* name) const { return folder.filePath(QString::fromUtf8(name)); }
+    std::string local(const char* name) const { return path(name).toStdString(); }
+    int stateOf(WindowId id) const { return desk.design().windows().state(id); }
+    RecordTable& table() { return *panel("frmScenarios").findChild<RecordTable*>(); }
+    StartPage& page() { return *panel("frmStart").findChild<StartPage*>(); }
+    std::vector<std::string> names() const {
+        std::vector<std::string> all;
+        for (const ScenarioLine& line : application.scenarios())
+            all.push_back(line.name);
+        return all;
+    }
+    QString status() { return window.statusBar()->findChild<QLabel*>()->text(); }
+    bool drop(const QString& file) {
+        QMimeData data;
+        data.setUrls({QUrl::fromLocalFile(file)});
+        QDragEnterEvent enter(QPoint(50, 50), Qt::CopyAction, &data, Qt::LeftButton, {});
+        enter.ignore();
+        QCoreApplication::sendEvent(&window, &enter);
+        if (!enter.isAccepted())
+            return false;
+        QDropEvent dropped(QPointF(50, 50), Qt::CopyAction, &data, Qt::LeftButton, {});
+        QCoreApplication::sendEvent(&window, &dropped);
+        settle();
+        return true;
+    }
+
+    QTemporaryDir folder;
+};
+
+TEST_F(Files, ScenariosAreKeptAndRestoredByTheKeyboardAlone) {
+    tool("gfrmScenarios");
+    for (const double d : {0.2, 0.8, 0.5}) {
+        set({{"txtd", d}, {"ICC Metric", 1.0}});
+        tool("Add scenario");
+    }
+    ASSERT_TRUE(isShown("frmScenarios"));
+    EXPECT_EQ(table().selectedRows(), QList<int>{2}) << "the new one";
+    panel("frmScenarios").activateWindow();
+    table().setFocus();
+    settle();
+    table().sortByColumn(2, Qt::DescendingOrder);
+    key(Qt::Key_Home);
+    EXPECT_EQ(table().selectedRows(), QList<int>{1}) << "the highest power comes first";
+    key(Qt::Key_Return);
+    EXPECT_EQ(study().txtd, 0.8);
+    key(Qt::Key_Delete);
+    EXPECT_EQ(names(), (std::vector<std::string>{"Scenario 0001", "Scenario 0003"}));
+    key(Qt::Key_Escape);
+    EXPECT_FALSE(isShown("frmScenarios"));
+}
+
+TEST_F(Files, AScenarioGetsItsNameInADialog) {
+    tool("Add scenario");
+    tool("gfrmScenarios");
+    desk.click("frmScenarios.cmdScenarios(3)");
+    settle();
+    ASSERT_TRUE(isShown("frmScenariosName"));
+    type("Larger");
+    key(Qt::Key_Return);
+    EXPECT_EQ(names(), std::vector<std::string>{"Larger"});
+    EXPECT_FALSE(isShown("frmScenariosName"));
+}
+
+TEST_F(Files, TheStartScreenOpensARecentFile) {
+    set({{"txtd", 0.7}});
+    application.save(local("One.Lorvane"));
+    set({{"txtd", 0.3}});
+    application.save(local("Two.Lorvane"));
+    tool("gfrmOpenWizard");
+    ASSERT_TRUE(isShown("frmStart"));
+    panel("frmStart").activateWindow();
+    page().setFocus();
+    settle();
+    key(Qt::Key_Down);
+    EXPECT_EQ(application.startScreen().StartChoice(), StartChoices::existingFile);
+    page().focusFiles();
+    key(Qt::Key_Down);
+    key(Qt::Key_Return);
+    EXPECT_EQ(study().txtd, 0.7);
+    EXPECT_FALSE(isShown("frmStart"));
+    tool("gfrmOpenWizard");
+    panel("frmStart").activateWindow();
+    settle();
+    key(Qt::Key_Escape);
+    EXPECT_EQ(stateOf(WindowId::frmStart), WindowStates::notLoaded);
+}
+
+TEST_F(Files, ADroppedStudyOpensAfterTheQuestionAndAFailureIsTold) {
+    set({{"txtd", 0.7}});
+    application.save(local("One.Lorvane"));
+    EXPECT_FALSE(drop(path("notes.txt")));
+    set({{"txtd", 0.1}});
+    EXPECT_TRUE(drop(path("One.Lorvane")));
+    EXPECT_EQ(study().txtd, 0.1) << "Cancel";
+    messages.scripted.queue(Answer::OK);
+    EXPECT_TRUE(drop(path("One.Lorvane")));
+    EXPECT_EQ(study().txtd, 0.7);
+    messages.scripted.queue(Answer::OK);
+    EXPECT_TRUE(drop(path("none.Lorvane")));
+    EXPECT_TRUE(status().contains(QLatin1String("none.Lorvane\" cannot be read"))) << status().toStdString();
+    tool("Show power using digits");
+    EXPECT_EQ(status(), QString());
+}
+
+// A place for pictures that counts them.
+struct CountedPictures final : UnsavedStore {
+    std::vector<UnsavedStudy> kept;
+    int drops = 0;
+    void keep(const UnsavedStudy& study) override { kept.push_back(study); }
+    void drop() override { ++drops; }
+    std::optional<UnsavedStudy> takeLeftBehind() override { return std::nullopt; }
+};
+
+TEST_F(Files, UnsavedWorkIsPicturedOffTheClickAndForgottenWhenSaved) {
+    CountedPictures store;
+    CrashGuard guard(desk, store, 50);
+    set({{"txtd", 0.2}});
+    set({{"txtd", 0.3}});
+    EXPECT_TRUE(store.kept.empty()) << "not on the click";
+    QTest::qWait(200);
+    tool("gfrmDetails");
+    QTest::qWait(200);
+    desk.tool("Exit");
+    messages.scripted.queue(Answer::OK);
+    guard.finish();
+    ASSERT_EQ(store.kept.size(), 1u) << "one picture of one state";
+    EXPECT_NE(store.kept[0].table.find(",d,0.3,"), std::string::npos);
+    EXPECT_EQ(store.drops, 1);
+}
+
+TEST(QtFileDialogsTest, GiveTheChosenPathWithTheEndingOfTheFilter) {
+    const QTemporaryDir folder;
+    QtFileDialogs dialogs;
+    const auto answer = [&](FileDialog::Kind kind, const QString& name, bool accept) {
+        QString title, filter;
+        QTimer::singleShot(0, [&] {
+            auto* box = qobject_cast<QFileDialog*>(QApplication::activeModalWidget());
+            ASSERT_NE(box, nullptr);
+            title = box->windowTitle();
+            filter = box->nameFilters().value(0);
+            box->setDirectory(folder.path());
+            box->findChild<QLineEdit*>()->setText(name);
+            box->findChild<QDialogButtonBox*>()
+                ->button(accept ? QDialogButtonBox::Save : QDialogButtonBox::Cancel)
+                ->click();
+        });
+        const auto path = dialogs.choose({kind, "Save file", "(*.Lorvane)|*.Lorvane", ""});
+        EXPECT_EQ(title, QLatin1String("Save file"));
+        EXPECT_EQ(filter, QLatin1String("(*.Lorvane)"));
+        return path;
+    };
+    EXPECT_EQ(answer(FileDialog::Kind::save, QStringLiteral("Größe"), true),
+              folder.filePath(QStringLiteral("Größe.Lorvane")).toStdString());
+    EXPECT_EQ(answer(FileDialog::Kind::open, QStringLiteral("Größe"), false), std::nullopt);
+}
+
+TEST(QtSettingsStoreTest, KeepsTextsAndLivesWithoutAPlace) {
+    const QTemporaryDir folder;
+    QSettings::setPath(QSettings::IniFormat, QSettings::UserScope, folder.path());
+    const std::string path = "/home/Größe, \"x\"=\\y;.Lorvane";
+    QtSettingsStore().SaveSetting("Lorvane", "Recent", " 0", path);
+    EXPECT_EQ(QtSettingsStore().GetSetting("Lorvane", "Recent", " 0", "none"), path);
+    EXPECT_EQ(QtSettingsStore().GetSetting("Lorvane", "Recent", " 1", "none"), "none");
+    QSettings::setPath(QSettings::IniFormat, QSettings::UserScope, QStringLiteral("/proc/nowhere"));
+    QtSettingsStore().SaveSetting("Elsewhere", "Recent", " 0", path);
+}
+
+}  // namespace
+}  // namespace lorvane::desktop
