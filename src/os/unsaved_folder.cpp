@@ -69,7 +69,8 @@ bool UnsavedFolder::takeLock(const std::string& stem, int flags) {
 
 bool UnsavedFolder::makeLock() {
     std::error_code error;
-    fs::create_directories(folder_, error);
+    if (fs::create_directories(folder_, error))
+        fs::permissions(folder_, fs::perms::owner_all, error);
     const std::string own = folder_ + "/unsaved-" + std::to_string(::getpid()) + "-";
     for (int i = 0; i < mostAtOnce; ++i) {
         if (takeLock(own + std::to_string(i), O_CREAT | O_EXCL))

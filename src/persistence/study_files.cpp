@@ -1,6 +1,7 @@
 // Opening and saving the study with its scenarios.
 #include "persistence/study_files.h"
 
+#include <filesystem>
 #include <utility>
 
 #include "persistence/scenario_cells.h"
@@ -103,7 +104,7 @@ void StudyFiles::show(ScenarioGrid loaded, const std::string& file) {
 }
 
 void StudyFiles::open(const std::string& path) {
-    if (path == template_) {
+    if (std::filesystem::absolute(path).lexically_normal() == template_) {
         openTemplate();
         return;
     }
