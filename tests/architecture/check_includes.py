@@ -12,7 +12,7 @@ GROUND = {"base", "platform"}
 ENGINE = GROUND | {"engine"}
 VALIDATION = ENGINE | {"validation"}
 SCREEN = VALIDATION | {"screen"}
-CORE = SCREEN | {"persistence", "guidance"}
+CORE = SCREEN | {"persistence", "guidance", "search"}
 
 MAY_INCLUDE = {
     "base": set(),
@@ -23,6 +23,7 @@ MAY_INCLUDE = {
     "screen": VALIDATION,
     "persistence": SCREEN,
     "guidance": SCREEN,
+    "search": SCREEN,
     "app": CORE,
     "os": GROUND,
     "cli": CORE | {"numerics", "app", "os"},
