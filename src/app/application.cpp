@@ -44,12 +44,15 @@ Application::Application(const Platform& platform)
       dialogs_(design_), details_(design_), scenarioWindow_(design_, scenarios_), recent_(platform.settings),
       studyFiles_(design_, scenarios_, scenarioWindow_, recent_, platform.files, platform.dialogs,
                   platform.programFolder),
-      startScreen_(design_, studyFiles_, recent_, platform.files) {
+      startScreen_(design_, studyFiles_, recent_, platform.files),
+      optimalWindow_(design_, platform.distributions,
+                     platform.progress == nullptr ? noProgress_ : *platform.progress) {
     design_.registerNames(names_);
     dialogs_.registerNames(names_);
     details_.registerNames(names_);
     scenarioWindow_.registerNames(names_);
     startScreen_.registerNames(names_);
+    optimalWindow_.registerNames(names_);
     names_.addGrid("vsFile", scenarios_.grid());
     names_.addGrid("flexfiles", recent_.flexfiles());
     registerCommands(events_, design_);
@@ -58,6 +61,7 @@ Application::Application(const Platform& platform)
     scenarioWindow_.registerEvents(events_);
     studyFiles_.registerEvents(events_);
     startScreen_.registerEvents(events_);
+    optimalWindow_.registerEvents(events_);
     registerPanels();
     disableToolsWithoutSubject();
 }
@@ -96,8 +100,8 @@ void Application::handle(Event event) {
     design_.tellStatus("");
     try {
         event();
-    } catch (const ArithmeticFault& fault) {
-        design_.showFault(fault);
+    } catch (const ArithmeticFault&) {
+        refreshOrShowFault(design_);
         throw;
     }
 }
@@ -155,6 +159,10 @@ void Application::close(const std::string& window) {
 }
 
 void Application::spin(const std::string& control, int direction, Design::SpinMode mode) {
+    if (const auto* spun = events_.spin(control)) {
+        handle([&] { (*spun)(direction); });
+        return;
+    }
     const IndexedName name = splitName(control);
     const bool ofLevel = name.index && *name.index >= lowestLevel && *name.index <= highestLevel;
     const auto arrows = findSpin(control);
@@ -184,6 +192,16 @@ void Application::restoreForms() {
 
 void Application::openValue(const std::string& field) {
     handle([&] { dialogs_.openValue(field); });
+}
+
+void Application::setNumber(const std::string& name, double value) {
+    const EventRegistry::Number* number = events_.number(name);
+    if (number == nullptr)
+        throw UseProblem("There is no number \"" + name + "\".");
+    if (!(value >= number->low && value <= number->high))
+        throw UseProblem(name + " must lie from " + shortestText(number->low) + " to " +
+                         shortestText(number->high) + ", not at " + shortestText(value) + ".");
+    handle([&] { number->write(value); });
 }
 
 const StudyField& Application::knownField(const std::string& name) const {

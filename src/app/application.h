@@ -21,12 +21,14 @@
 #include "platform/file_dialogs.h"
 #include "platform/file_store.h"
 #include "platform/message_boxes.h"
+#include "platform/progress.h"
 #include "platform/settings_store.h"
 #include "platform/system_locale.h"
 #include "platform/unsaved_store.h"
 #include "screen/design.h"
 #include "screen/small_dialogs.h"
 #include "screen/study_fields.h"
+#include "search/optimal_window.h"
 
 namespace lorvane {
 
@@ -40,6 +42,7 @@ struct Platform {
     SettingsStore& settings;
     std::string programFolder;        ///< where the template of a new study lies
     UnsavedStore* unsaved = nullptr;  ///< none: a crash loses what was not saved
+    Progress* progress = nullptr;     ///< none: nobody watches a search
 };
 
 /// A name or a value that the program does not take; one sentence that names it.
@@ -115,6 +118,10 @@ public:
     void spinReleased();
     void openValue(const std::string& field);
 
+    /// A number of a window by its name, "frmOptimal.txtNumReps(1)", within its limits.
+    void setNumber(const std::string& name, double value);
+    bool hasNumber(const std::string& name) const { return events_.number(name) != nullptr; }
+
     /// The floating windows make way for a while, and the same ones come back.
     void suspendForms();
     void restoreForms();
@@ -123,6 +130,7 @@ public:
     void whenShown(std::function<void()> redraw) { events_.whenShown(std::move(redraw)); }
 
     const ScenarioWindow& scenarioWindow() const noexcept { return scenarioWindow_; }
+    const OptimalWindow& optimalWindow() const noexcept { return optimalWindow_; }
     const StartScreen& startScreen() const noexcept { return startScreen_; }
     const Details& details() const noexcept { return details_; }
     const SmallDialogs& dialogs() const noexcept { return dialogs_; }
@@ -154,6 +162,8 @@ private:
     RecentFiles recent_;
     StudyFiles studyFiles_;
     StartScreen startScreen_;
+    NoProgress noProgress_;
+    OptimalWindow optimalWindow_;
     ControlRegistry names_;
     EventRegistry events_;
 };

@@ -47,9 +47,19 @@ Json load(Session& session, ScriptWords& words) {
     return done();
 }
 
+double numberOf(const std::string& what, const std::string& text) {
+    if (const auto number = readNumber(text))
+        return *number;
+    throw UseProblem(what + " must be a number, not \"" + text + "\".");
+}
+
 Json set(Session& session, ScriptWords& words) {
     const std::string name = words.need("The name of a field");
     const std::string text = words.rest();
+    if (session.application.hasNumber(name)) {
+        session.application.setNumber(name, numberOf(name, text));
+        return done();
+    }
     const std::array values = {session.application.parse(name, text)};
     session.application.set(values);
     return done();
@@ -220,12 +230,7 @@ Json open(Session& session, ScriptWords& words) {
     return done();
 }
 
-double needNumber(ScriptWords& words, const char* what) {
-    const std::string word = words.need(what);
-    if (const auto number = readNumber(word))
-        return *number;
-    throw UseProblem(std::string(what) + " must be a number, not \"" + word + "\".");
-}
+double needNumber(ScriptWords& words, const char* what) { return numberOf(what, words.need(what)); }
 
 Json valueOf(double value) { return {{"value", value}}; }
 

@@ -48,6 +48,10 @@ void Desk::spinReleased() {
     act([&] { application_.spinReleased(); });
 }
 
+void Desk::setNumber(const std::string& name, double value) {
+    act([&] { application_.setNumber(name, value); });
+}
+
 void Desk::openValue(const std::string& field) {
     act([&] { application_.openValue(field); });
 }

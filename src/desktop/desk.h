@@ -26,6 +26,7 @@ public:
     void spin(const std::string& control, int direction, Design::SpinMode mode = Design::SpinMode::click);
     void spinReleased();
     void openValue(const std::string& field);
+    void setNumber(const std::string& name, double value);
 
     void select(const std::string& grid, const std::vector<std::size_t>& rows);
 

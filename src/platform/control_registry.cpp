@@ -40,6 +40,13 @@ void ControlRegistry::add(const std::string& name, const Button& button) {
     add(name + ".Enabled", &button.Enabled);
 }
 
+void ControlRegistry::add(const std::string& name, const Option& option) {
+    add(name + ".Caption", &option.Caption);
+    add(name + ".Value", &option.Value);
+    add(name + ".Visible", &option.Visible);
+    add(name + ".Enabled", &option.Enabled);
+}
+
 void ControlRegistry::addGrid(std::string name, const Grid& grid) {
     gridNames_.push_back(name);
     grids_.emplace(std::move(name), &grid);

@@ -29,6 +29,7 @@ public:
     /// Enters the properties of a control under "name.Caption", "name.Visible" and so on.
     void add(const std::string& name, const Panel& panel);
     void add(const std::string& name, const Button& button);
+    void add(const std::string& name, const Option& option);
 
     /// Enters a table under its name.
     void addGrid(std::string name, const Grid& grid);

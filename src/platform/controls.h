@@ -44,6 +44,14 @@ struct Button {
     bool Enabled = true;
 };
 
+/// One of several choices.
+struct Option {
+    std::string Caption;
+    bool Value = false;  ///< it is the one chosen
+    bool Visible = true;
+    bool Enabled = true;
+};
+
 /// A box to type a text into.
 struct TextBox {
     std::string Text;

@@ -23,6 +23,21 @@ public:
     void onClose(std::string window, Handler handler) {
         enter(closes_, std::move(window), std::move(handler));
     }
+    /// The arrows of a window's own number; the handler gets 1 for up and -1 for down.
+    void onSpin(std::string control, std::function<void(int)> handler) {
+        spins_.insert_or_assign(std::move(control), std::move(handler));
+    }
+
+    /// A number of a window that can be written, with the limits that it keeps, both inclusive.
+    struct Number {
+        double low;
+        double high;
+        std::function<void(double)> write;
+    };
+    void addNumber(std::string name, Number number) {
+        numbers_.insert_or_assign(std::move(name), std::move(number));
+    }
+
     void addTextBox(std::string name, TextBox& box) { textBoxes_.emplace(std::move(name), &box); }
 
     void addGrid(std::string name, Grid& grid) { grids_.emplace(std::move(name), &grid); }
@@ -33,6 +48,10 @@ public:
     bool close(std::string_view window) const { return run(closes_, window); }
 
     bool knowsTool(std::string_view name) const { return tools_.contains(std::string(name)); }
+
+    /// The arrows and the number of a name; null when there are none.
+    const std::function<void(int)>* spin(const std::string& control) const { return find(spins_, control); }
+    const Number* number(const std::string& name) const { return find(numbers_, name); }
 
     /// The text box of a name; null when there is none.
     TextBox* textBox(std::string_view name) const {
@@ -56,6 +75,11 @@ public:
 private:
     using Handlers = std::unordered_map<std::string, Handler>;
 
+    template <typename T>
+    static const T* find(const std::unordered_map<std::string, T>& values, const std::string& name) {
+        const auto found = values.find(name);
+        return found == values.end() ? nullptr : &found->second;
+    }
     static void enter(Handlers& handlers, std::string name, Handler handler) {
         handlers.insert_or_assign(std::move(name), std::move(handler));
     }
@@ -70,6 +94,8 @@ private:
     Handlers tools_;
     Handlers clicks_;
     Handlers closes_;
+    std::unordered_map<std::string, std::function<void(int)>> spins_;
+    std::unordered_map<std::string, Number> numbers_;
     std::unordered_map<std::string, TextBox*> textBoxes_;
     std::unordered_map<std::string, Grid*> grids_;
     std::vector<Handler> shown_;

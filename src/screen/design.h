@@ -57,6 +57,13 @@ public:
     /// The currency of the system's regional settings.
     const Currency& systemCurrency() const noexcept { return systemCurrency_; }
 
+    /// Draws an outline around the rectangle between two controls, and takes it away again. A computation
+    /// clears those of number 2 to 6.
+    void outline(int number, std::string from, std::string to) {
+        screen_.OutlineProblem(number, problemColour, std::move(from), std::move(to));
+    }
+    void clearOutline(int number) { screen_.outlines(number).Visible = false; }
+
     /// What the status line tells of a file.
     void tellStatus(std::string text) { screen_.pnlStatus.Caption = std::move(text); }
 

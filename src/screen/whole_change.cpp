@@ -5,9 +5,6 @@
 
 namespace lorvane {
 
-namespace {
-
-// The study before a refused change may be one that cannot be computed either.
 void refreshOrShowFault(Design& design) {
     try {
         design.DoRefresh(true);
@@ -15,8 +12,6 @@ void refreshOrShowFault(Design& design) {
         design.showFault(fault);
     }
 }
-
-}  // namespace
 
 void changeOrUndo(Design& design, const std::function<void()>& change, IfFault ifFault) {
     const Study study = design.study();
@@ -33,6 +28,7 @@ void changeOrUndo(Design& design, const std::function<void()>& change, IfFault i
         design.study() = study;
         design.settings() = settings;
         design.applyChoices();
+        // The study before may be one that cannot be computed either.
         refreshOrShowFault(design);
         design.settings().StudyDirty = settings.StudyDirty;
         design.putBack(windows);

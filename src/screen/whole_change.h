@@ -8,6 +8,9 @@
 
 namespace lorvane {
 
+/// A refresh; a study that cannot be computed is shown with a request for other data.
+void refreshOrShowFault(Design& design);
+
 /// What becomes of a study whose arithmetic cannot go on.
 enum class IfFault {
     undo,  ///< it is refused like any other change

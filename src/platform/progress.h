@@ -1,0 +1,21 @@
+// Long work that lets a face breathe: it repaints, and the user may stop the work.
+#pragma once
+
+namespace lorvane {
+
+class Progress {
+public:
+    virtual ~Progress() = default;
+
+    /// Called again and again during long work, when everything on display is right; false when the user asks
+    /// to stop.
+    virtual bool goOn() = 0;
+};
+
+/// Work that nobody watches.
+class NoProgress final : public Progress {
+public:
+    bool goOn() override { return true; }
+};
+
+}  // namespace lorvane

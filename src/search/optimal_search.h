@@ -1,0 +1,77 @@
+// The search for the cheapest design that reaches a required power: the sizes of the lower levels start from
+// the ratios that cost least, the size of the top level follows from the power, and a few larger top levels
+// are tried with smaller levels below. Every trial is a run of the computation on the study itself, whose
+// sizes are put back at the end. Knows no window.
+#pragma once
+
+#include <array>
+#include <cstdint>
+#include <optional>
+#include <vector>
+
+#include "engine/per_level.h"
+#include "engine/study.h"
+#include "platform/distribution_library.h"
+#include "platform/progress.h"
+
+namespace lorvane {
+
+/// Levels whose size may be left to the search.
+inline constexpr int highestFreeLevel = 3;
+
+struct OptimalOptions {
+    IndexedArray<bool, 1, highestFreeLevel> manual;     ///< the level keeps the size below
+    IndexedArray<double, 1, highestFreeLevel> numReps;  ///< sizes set by hand, 1 or more
+    int iterations = 30;                                ///< larger top levels that are tried
+    double power = 0.8;                                 ///< required, between 0 and 1
+    bool allowLowCellCounts = false;                    ///< a binary study may have small cells
+};
+
+/// Sizes of the levels 1 to 4: units per unit of the level above, the same in both arms.
+using LevelSizes = IndexedArray<double, 1, 4>;
+
+/// One design that was tried.
+struct Trial {
+    LevelSizes sizes;
+    std::int32_t cost = 0;
+    double power = 0;
+    bool valid = false;
+};
+
+enum class OptimalEnding {
+    found,
+    notReady,      ///< the study fails a readiness check; its flags tell which
+    noSolution,    ///< no size of the top level gives a valid design, or none in reach gives the power
+    costOverflow,  ///< the cost left the 32-bit range
+    stopped        ///< by the user
+};
+
+/// What was changed in the sizes before the search began, for the notes.
+struct SizeChange {
+    int level;
+    double from;
+    double to;
+    bool blocked;  ///< set at three, otherwise at two per group
+};
+
+struct OptimalResult {
+    OptimalEnding ending = OptimalEnding::notReady;
+    std::vector<Trial> trials;        ///< the first reaches the power with the least top level
+    std::size_t best = 0;             ///< the cheapest trial, the first of several
+    bool topRaisedForDf = false;      ///< the least valid top level has more power than required
+    bool level1Raised = false;        ///< to avoid low cell counts
+    bool aTrialFailed = false;        ///< a trial of the iterations gave no power
+    bool covariatesAreTight = false;  ///< a level with covariates stands at its least size
+    std::vector<SizeChange> changes;  ///< for the degrees of freedom of covariates
+    std::optional<Trial> nearby;      ///< a cheaper design found next to the best one
+    std::int64_t runs = 0;            ///< runs of the computation
+
+    const Trial& cheapest() const { return trials[best]; }
+};
+
+/// Runs the search. The study must have been refreshed and have xValid 1. Its sizes are put back, whatever
+/// happens; the flags of readiness, Adjusteddf and txtCostProblem tell the outcome. Throws ArithmeticFault.
+OptimalResult searchOptimalDesign(Study& study, DistributionLibrary& library, const OptimalOptions& options,
+                                  Progress& progress);
+
+}  // namespace lorvane

@@ -1,0 +1,179 @@
+// What the wizard of the optimal design tells.
+#include "search/optimal_texts.h"
+
+#include <cmath>
+
+#include "base/number_text.h"
+
+namespace lorvane {
+
+namespace {
+
+constexpr int decimalsOfMyStr = 2;
+
+bool iccIs(const Study& s, int metric) { return s.IccMetric == metric; }
+
+// A rule of readiness: when it fails, and what it says. The rules for one flag differ by metric and outcome.
+struct Rule {
+    bool (*fails)(const Study&);
+    ReadinessProblem problem;
+};
+
+bool dispersionOfOutcomeIsBad(const Study& s) { return s.outcome.ValidICC(0) == 0; }
+bool dispersionOfEffectIsBad(const Study& s) { return s.effect.ValidTauSq(0) == 0; }
+bool dispersionOfOutcomeIsZero(const Study& s) { return s.result.xValidICC(0) == 0; }
+bool dispersionOfEffectIsZero(const Study& s) {
+    return s.result.xValidTauSq(0) == 0 || s.result.xValidOmega(0) == 0;
+}
+
+template <bool (*fails)(const Study&)>
+bool withIcc(const Study& s) {
+    return fails(s) && iccIs(s, IccMetrics::icc);
+}
+template <bool (*fails)(const Study&)>
+bool withSpanOfMeans(const Study& s) {
+    return fails(s) && iccIs(s, IccMetrics::span) && s.isMeans();
+}
+template <bool (*fails)(const Study&)>
+bool withSpanOfRisks(const Study& s) {
+    return fails(s) && iccIs(s, IccMetrics::span) && s.isBinary();
+}
+template <bool (*fails)(const Study&), int metric>
+bool withMetric(const Study& s) {
+    return fails(s) && s.TauSqMetric == metric;
+}
+
+const std::vector<Rule>& rules() {
+    static const std::vector<Rule> all = {
+        {[](const Study& s) { return s.result.xValidModel(0) == 0; },
+         {"Model is fixed",
+          "Optimal design cannot be computed when using a fixed-effect model at any level.",
+          {"pnlModel"}}},
+        {[](const Study& s) { return s.result.xValidES == 0; },
+         {"Effect size is zero", "Enter an effect size. Then click <Compute>.", {"pnlEffectSize"}}},
+        {withIcc<dispersionOfOutcomeIsBad>,
+         {"Problem with ICC", "Please fix problem with the ICCs. Then click <Compute>.", {"pnlICC"}}},
+        {withSpanOfMeans<dispersionOfOutcomeIsBad>,
+         {"Problem with span",
+          "Please fix problem with the span of means. Then click <Compute>.",
+          {"pnlICC"}}},
+        {withSpanOfRisks<dispersionOfOutcomeIsBad>,
+         {"Problem with span",
+          "Please fix problem with the span of risks. Then click <Compute>.",
+          {"pnlICC"}}},
+        {withMetric<dispersionOfEffectIsBad, TauSqMetrics::tauSquared>,
+         {"Tau-squared is zero",
+          "Please fix problem with tau-squared values. Then click <Compute>.",
+          {"pnlTauSq"}}},
+        {withMetric<dispersionOfEffectIsBad, TauSqMetrics::spanOfEffects>,
+         {"Span of effects is zero",
+          "Please fix problem with the span of effects sizes. Then click <Compute>.",
+          {"pnlTauSq"}}},
+        {withMetric<dispersionOfEffectIsBad, TauSqMetrics::omega>,
+         {"Omega is zero", "Please fix problem with the omega values. Then click <Compute>.", {"pnlTauSq"}}},
+        {withIcc<dispersionOfOutcomeIsZero>,
+         {"ICC is zero", "Set all ICCs to values greater than zero. Then click <Compute>.", {"pnlICC"}}},
+        {withSpanOfMeans<dispersionOfOutcomeIsZero>,
+         {"Range of means is zero",
+          "Set the range of means to value greater than zero. Then click <Compute>.",
+          {"pnlICC"}}},
+        {withSpanOfRisks<dispersionOfOutcomeIsZero>,
+         {"Range of risks is zero",
+          "Set the range of risks to value greater than zero. Then click <Compute>.",
+          {"pnlICC"}}},
+        {[](const Study& s) { return s.result.xValidCost(0) == 0; },
+         {"Cost is zero",
+          "Set all costs to values greater than zero. Then click <Compute>.",
+          {"pnlCostT", "pnlCostC"}}},
+        {withMetric<dispersionOfEffectIsZero, TauSqMetrics::tauSquared>,
+         {"Tau-squared is zero",
+          "Set all tau-squared to values greater than zero. Then click <Compute>.",
+          {"pnlTauSq"}}},
+        {withMetric<dispersionOfEffectIsZero, TauSqMetrics::spanOfEffects>,
+         {"Span of effects is zero",
+          "Set all span of effects to value greater than zero. Then click <Compute>.",
+          {"pnlTauSq"}}},
+        {withMetric<dispersionOfEffectIsZero, TauSqMetrics::omega>,
+         {"Omega is zero", "Set all omega to value greater than zero. Then click <Compute>.", {"pnlTauSq"}}},
+        {[](const Study& s) { return s.result.xValidQ(0) == 0; },
+         {"Number of covariates is zero",
+          "Set the number of covariates to value greater than zero. Then click <Compute>.",
+          {"pnlQ", "pnlRsq"}}},
+        {[](const Study& s) { return s.result.xValidTotICC == 0; },
+         {"Total ICC exceeds 0.999",
+          "The total of the ICC values, summed across levels, cannot exceed 0.999.",
+          {"pnlICC"}}}};
+    return all;
+}
+
+std::string covariates(const Study& s, int level) {
+    return s.txtName(level) + (s.txtQ(level) == 1 ? "-level covariate. " : "-level covariates. ");
+}
+
+std::string costWithout(const Study& s, int level) {
+    return std::string("It is possible that the total cost will decrease if ") +
+           (s.txtQ(level) == 1 ? "this covariate is removed. " : "these covariates are removed. ");
+}
+
+std::string changeNote(const Study& s, const SizeChange& change, bool manual) {
+    std::string note = manual ? "You requested " : "The optimal ratio is ";
+    note += MyStr(change.from) + " " + s.txtName(change.level) + " for each of the " +
+            s.txtName(change.level + 1) + ". However, this number has been set at ";
+    note += change.blocked ? "three" : "two per group";
+    note += " to provide sufficient degrees of freedom for the " + covariates(s, change.level);
+    return manual ? note : note + costWithout(s, change.level);
+}
+
+std::string raisedTopNote(const Study& s) {
+    const std::string& top = s.txtName(s.NumLevels);
+    return "The number of " + top + " has been increased to provide sufficient degrees of freedom for the " +
+           top + "-level covariates. " + costWithout(s, s.NumLevels);
+}
+
+std::string nearbyNote(const Study& s, const Trial& nearby, const Currency& currency) {
+    std::string note = "A nearby design costs " + ReFormatCurrency(nearby.cost, currency) + ":";
+    for (int level = s.NumLevels; level >= 1; --level) {
+        note += level == s.NumLevels ? " " : ", ";
+        note += shortestText(nearby.sizes(level)) + " " + s.txtName(level);
+    }
+    return note + ".";
+}
+
+}  // namespace
+
+std::vector<ReadinessProblem> readinessProblems(const Study& study) {
+    std::vector<ReadinessProblem> problems;
+    for (const Rule& rule : rules()) {
+        if (rule.fails(study))
+            problems.push_back(rule.problem);
+    }
+    return problems;
+}
+
+std::string MyStr(double value) {
+    const double hundredths = std::pow(10, decimalsOfMyStr);
+    return shortestText(std::round(value * hundredths) / hundredths);
+}
+
+std::vector<std::string> optimalNotes(const Study& s, const OptimalResult& result,
+                                      const OptimalOptions& options, const Currency& currency) {
+    std::vector<std::string> notes;
+    for (const SizeChange& change : result.changes)
+        notes.push_back(changeNote(s, change, options.manual(change.level)));
+    if (result.topRaisedForDf)
+        notes.push_back(raisedTopNote(s));
+    if (result.covariatesAreTight)
+        notes.push_back("It may be possible to lower costs by removing some covariates.");
+    if (result.level1Raised)
+        notes.push_back("The number of " + s.txtName(1) + " has been increased to avoid low cell counts.");
+    if (result.nearby)
+        notes.push_back(nearbyNote(s, *result.nearby, currency));
+    return notes;
+}
+
+std::string optimalCostText(const OptimalResult& result, const Currency& currency) {
+    const std::int32_t cost = result.cheapest().cost;
+    return cost < 1 ? "n/a" : ReFormatCurrency(cost, currency);
+}
+
+}  // namespace lorvane

@@ -1,0 +1,33 @@
+// What the wizard of the optimal design tells: why it cannot run, and the notes of a finished run.
+#pragma once
+
+#include <string>
+#include <vector>
+
+#include "engine/study.h"
+#include "screen/currency.h"
+#include "search/optimal_search.h"
+
+namespace lorvane {
+
+/// A reason why the search cannot run, with the fields that it marks. A field is the stem of a cell's name.
+struct ReadinessProblem {
+    const char* title;
+    const char* text;
+    std::vector<const char*> fields;
+};
+
+/// The failing rules in their order; the last one is the one that is read.
+std::vector<ReadinessProblem> readinessProblems(const Study& study);
+
+/// The shortest text of a number with at most two decimals.
+std::string MyStr(double value);
+
+/// The notes of a finished run, a paragraph each. The options are those of the run.
+std::vector<std::string> optimalNotes(const Study& study, const OptimalResult& result,
+                                      const OptimalOptions& options, const Currency& currency);
+
+/// The cost of the cheapest trial, "$115,600".
+std::string optimalCostText(const OptimalResult& result, const Currency& currency);
+
+}  // namespace lorvane

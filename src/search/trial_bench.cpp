@@ -1,0 +1,28 @@
+// Trials of a search.
+#include "search/trial_bench.h"
+
+#include "engine/docompute.h"
+
+namespace lorvane {
+
+void TrialBench::setSizes(const LevelSizes& sizes) {
+    for (int level = 1; level <= study_.NumLevels; ++level)
+        setSize(level, sizes(level));
+}
+
+void TrialBench::compute() {
+    docompute(study_, library_, silent_);
+    ++runs_;
+}
+
+Trial TrialBench::trial() const {
+    Trial trial;
+    for (int level = 1; level <= study_.NumLevels; ++level)
+        trial.sizes(level) = size(level);
+    trial.cost = study_.result.txtCost;
+    trial.power = study_.result.txtPower;
+    trial.valid = study_.result.xValid == 1;
+    return trial;
+}
+
+}  // namespace lorvane
