@@ -131,6 +131,7 @@ public:
 
     const ScenarioWindow& scenarioWindow() const noexcept { return scenarioWindow_; }
     const OptimalWindow& optimalWindow() const noexcept { return optimalWindow_; }
+    OptimalWindow& optimalWindow() noexcept { return optimalWindow_; }
     const StartScreen& startScreen() const noexcept { return startScreen_; }
     const Details& details() const noexcept { return details_; }
     const SmallDialogs& dialogs() const noexcept { return dialogs_; }

@@ -3,11 +3,11 @@
 
 #include <algorithm>
 #include <array>
-#include <cctype>
 #include <nlohmann/json.hpp>
 #include <ostream>
 
 #include "base/number_text.h"
+#include "cli/command_words.h"
 #include "cli/json_text.h"
 #include "engine/effect_metrics.h"
 
@@ -16,25 +16,6 @@ namespace lorvane {
 namespace {
 
 using Json = nlohmann::ordered_json;
-
-constexpr std::size_t labelWidth = 20;
-
-std::vector<Assignment> assignments(const std::vector<std::string>& settings,
-                                    const Application& application) {
-    std::vector<Assignment> values;
-    for (const std::string& setting : settings) {
-        const std::size_t sign = setting.find('=');
-        if (sign == std::string::npos)
-            throw UseProblem("--set takes FIELD=VALUE, not \"" + setting + "\".");
-        values.push_back(application.parse(setting.substr(0, sign), setting.substr(sign + 1)));
-    }
-    return values;
-}
-
-void applySettings(const std::vector<std::string>& settings, Application& application) {
-    if (!settings.empty())
-        application.set(assignments(settings, application));
-}
 
 struct Effect {
     std::string name;
@@ -55,23 +36,6 @@ Effect effectOf(const Study& s) {
     default:
         return {name, s.txtP2};
     }
-}
-
-std::string capitalised(std::string text) {
-    text[0] = static_cast<char>(std::toupper(static_cast<unsigned char>(text[0])));
-    return text;
-}
-
-std::string onOneLine(std::string text) {
-    std::replace(text.begin(), text.end(), '\n', ' ');
-    while (const auto twice = text.find("  ") + 1)
-        text.erase(twice, 1);
-    return std::string(trimmed(text));
-}
-
-void printLine(std::ostream& out, std::string label, const std::string& value) {
-    label.resize(std::max(label.size() + 1, labelWidth), ' ');
-    out << label << value << '\n';
 }
 
 std::string costText(const Application& application) {

@@ -7,6 +7,7 @@
 #include "base/arithmetic_fault.h"
 #include "cli/commands.h"
 #include "cli/drive.h"
+#include "cli/optimal_command.h"
 #include "numerics/numeric_distribution_library.h"
 #include "os/disk_file_store.h"
 #include "os/environment_locale.h"
@@ -20,6 +21,7 @@ struct Requests {
     PowerRequest power;
     NewRequest fresh;
     ScenariosRequest scenarios;
+    OptimalRequest optimal;
     std::string driven;
 };
 
@@ -36,6 +38,27 @@ void addPower(CLI::App& cli, PowerRequest& request) {
     command->add_flag("--json", request.json, "Answer with one JSON object");
     command->footer(
         "Example:\n  lorvane-cli power schools.Lorvane --set \"txtNT(3)=24\" --set \"txtNC(3)=24\"");
+}
+
+void addOptimal(CLI::App& cli, OptimalRequest& request) {
+    CLI::App* command = cli.add_subcommand("optimal", "The cheapest design that reaches a power");
+    command->add_option("STUDY", request.study, "Study file")->required();
+    command->add_option("--power", request.power, "Required power; the study's own where it is not given")
+        ->type_name("P");
+    command
+        ->add_option("--fix", request.fixes,
+                     "Keep a level below the top at N units per unit above; may be repeated")
+        ->type_name("LEVEL=N")
+        ->allow_extra_args(false);
+    command->add_option("--iterations", request.iterations, "Larger top levels to try: 5, 10, 20 or 30")
+        ->type_name("K");
+    command->add_option("--set", request.settings, setHelp)
+        ->type_name("FIELD=VALUE")
+        ->allow_extra_args(false);
+    command->add_option("--out", request.out, "Save the study with the sizes found")->type_name("NEW");
+    command->add_flag("--json", request.json, "Answer with one JSON object");
+    command->footer(
+        "Example:\n  lorvane-cli optimal schools.Lorvane --power 0.9 --fix 1=22 --out cheap.Lorvane");
 }
 
 void addNew(CLI::App& cli, NewRequest& request) {
@@ -70,6 +93,8 @@ int runChosen(const CLI::App& cli, const Requests& requests) {
     Application application({distributions, locale, files, messages, messages, settings, programFolder()});
     if (cli.got_subcommand("power"))
         return printPower(requests.power, application, std::cout, std::cerr);
+    if (cli.got_subcommand("optimal"))
+        return printOptimal(requests.optimal, application, std::cout, std::cerr);
     if (cli.got_subcommand("new"))
         return makeNew(requests.fresh, application, std::cout);
     if (cli.got_subcommand("scenarios"))
@@ -100,6 +125,7 @@ int main(int argc, char** argv) {
                "Exit codes: 0 done, 1 the study gives no answer, 2 wrong use, 3 a file could not be read or "
                "written.");
     addPower(cli, requests.power);
+    addOptimal(cli, requests.optimal);
     addNew(cli, requests.fresh);
     addScenarios(cli, requests.scenarios);
     addDrive(cli, requests.driven);

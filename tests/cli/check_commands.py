@@ -53,6 +53,24 @@ def check_new_study():
     assert not any(row[0] for row in answers[4]), "the template is no recent file"
 
 
+def check_optimal(folder):
+    cheap = str(Path(folder) / "cheap.Lorvane")
+    code, out, _ = run("optimal", STUDY, "--power", "0.9", "--fix", "1=22", "--out", cheap)
+    assert code == 0 and "22 in each of the Classes" in out and "Cost" in out, out
+    answer = json.loads(run("power", cheap, "--json")[1])
+    assert 0.9 <= answer["power"] < 0.92, answer
+    code, out, _ = run("optimal", STUDY, "--json")
+    answer = json.loads(out)
+    assert answer["found"] and answer["power"] >= 0.8 and len(answer["sizes"]) == 3 and answer["cost"] > 0, out
+    code, out, err = run("optimal", STUDY, "--set", "txtModel(3)=1")
+    assert code == 1 and out == "" and err.startswith("Model is fixed. Optimal design cannot be computed"), err
+    code, out, err = run("optimal", STUDY, "--json", "--set", "txtNB(3)=1")
+    assert code == 1 and not json.loads(out)["found"] and "degrees of freedom" in err, (out, err)
+    for wrong in (["--fix", "3=2"], ["--fix", "1"], ["--fix", "1=0"], ["--power", "1"], ["--iterations", "7"]):
+        code, out, err = run("optimal", STUDY, *wrong)
+        assert code == 2 and out == "" and len(err.splitlines()) == 1, (wrong, code, out, err)
+
+
 def check_no_answer():
     code, out, err = run("power", STUDY, "--set", "txtNB(3)=1")
     assert code == 1 and "Cost" in out and err.startswith("There are insufficient degrees of freedom. "), err
@@ -90,7 +108,8 @@ def check_failures(folder):
 
 
 def check_help():
-    for arguments in [["--help"], ["power", "--help"], ["new", "--help"], ["scenarios", "--help"], ["drive", "--help"]]:
+    for arguments in [["--help"], ["power", "--help"], ["new", "--help"], ["scenarios", "--help"], ["drive", "--help"],
+                      ["optimal", "--help"]]:
         code, out, _ = run(*arguments)
         assert code == 0 and "Example:" in out, out
     assert run("--version")[1].startswith("Lorvane ")
@@ -100,6 +119,7 @@ def main():
     with tempfile.TemporaryDirectory() as folder:
         check_answers(folder)
         check_failures(folder)
+        check_optimal(folder)
     check_examples()
     check_new_study()
     check_no_answer()

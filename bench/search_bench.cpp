@@ -1,0 +1,95 @@
+// Time of the search for the cheapest design on all nine designs, means and binary, with the runs of the
+// computation that it took; and of a search whose top level ends in the millions.
+#include <benchmark/benchmark.h>
+
+#include <string>
+
+#include "engine/design_routines.h"
+#include "screen/design.h"
+#include "search/nearby_designs.h"
+#include "search/optimal_search.h"
+#include "support/test_library.h"
+
+namespace {
+
+using namespace lorvane;
+
+// Costs and dispersions of a usual trial: units are dearer the higher they stand.
+void fill(Study& s, int levels, int randomized, int dataType) {
+    s.NumLevels = levels;
+    s.RandomizedLevel = randomized;
+    s.DataType = dataType;
+    s.PowerOption = PowerOptions::tDistribution;
+    s.IccMetric = IccMetrics::icc;
+    s.txtd = 0.3;
+    s.txtPrev = 0.4;
+    s.txtOR = 1.6;
+    const double costs[] = {10, 150, 900, 4000};
+    for (int level = 1; level <= levels; ++level) {
+        s.txtNT(level) = s.txtNC(level) = s.txtNB(level) = level == levels ? 20 : 5;
+        s.txtCostT(level) = s.txtCostC(level) = s.txtCostB(level) = costs[level - 1];
+        s.txtICC(level) = level > 1 ? 0.05 : 0;
+        s.txtTauSq(level) = 0.02;
+    }
+}
+
+struct Bench {
+    Bench(int levels, int randomized, int dataType) {
+        fill(design.study(), levels, randomized, dataType);
+        design.DoRefresh(true);
+    }
+
+    NumericDistributionLibrary library;
+    FixedLocale locale;
+    ScriptedDialogs dialogs;
+    NoProgress progress;
+    Design design{library, locale, dialogs};
+};
+
+void optimal(benchmark::State& state, int levels, int randomized, int dataType) {
+    Bench bench(levels, randomized, dataType);
+    OptimalResult result;
+    for (auto _ : state)
+        result = searchOptimalDesign(bench.design.study(), bench.library, OptimalOptions(), bench.progress);
+    state.counters["runs"] = static_cast<double>(result.runs);
+    if (result.ending != OptimalEnding::found)
+        state.SkipWithError("nothing was found");
+}
+
+// A tiny effect needs a top level of millions.
+void optimalInTheMillions(benchmark::State& state) {
+    Bench bench(2, 2, DataTypes::means);
+    Study& s = bench.design.study();
+    s.txtd = 0.0011;
+    for (int level = 1; level <= 2; ++level)
+        s.txtCostT(level) = s.txtCostC(level) = 1;
+    bench.design.DoRefresh(true);
+    OptimalResult result;
+    for (auto _ : state)
+        result = searchOptimalDesign(s, bench.library, OptimalOptions(), bench.progress);
+    state.counters["runs"] = static_cast<double>(result.runs);
+    state.counters["top"] = result.ending == OptimalEnding::found ? result.cheapest().sizes(2) : 0;
+}
+
+void registerAll() {
+    for (int levels = 2; levels <= 4; ++levels) {
+        for (int randomized = 1; randomized <= levels; ++randomized) {
+            const std::string name(routinesOf(levels, randomized).name);
+            for (const auto& [suffix, type] :
+                 {std::pair{"Means", DataTypes::means}, {"Binary", DataTypes::binary}})
+                benchmark::RegisterBenchmark(("optimal/" + name + suffix).c_str(), optimal, levels,
+                                             randomized, type)
+                    ->Unit(benchmark::kMillisecond);
+        }
+    }
+    benchmark::RegisterBenchmark("optimal/millions", optimalInTheMillions)->Unit(benchmark::kMillisecond);
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+    registerAll();
+    benchmark::Initialize(&argc, argv);
+    benchmark::RunSpecifiedBenchmarks();
+    return 0;
+}

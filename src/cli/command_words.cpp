@@ -1,0 +1,52 @@
+// What the commands for people share.
+#include "cli/command_words.h"
+
+#include <algorithm>
+#include <cctype>
+#include <ostream>
+
+#include "base/number_text.h"
+
+namespace lorvane {
+
+namespace {
+
+constexpr std::size_t labelWidth = 20;
+
+std::vector<Assignment> assignments(const std::vector<std::string>& settings,
+                                    const Application& application) {
+    std::vector<Assignment> values;
+    for (const std::string& setting : settings) {
+        const std::size_t sign = setting.find('=');
+        if (sign == std::string::npos)
+            throw UseProblem("--set takes FIELD=VALUE, not \"" + setting + "\".");
+        values.push_back(application.parse(setting.substr(0, sign), setting.substr(sign + 1)));
+    }
+    return values;
+}
+
+}  // namespace
+
+void applySettings(const std::vector<std::string>& settings, Application& application) {
+    if (!settings.empty())
+        application.set(assignments(settings, application));
+}
+
+std::string capitalised(std::string text) {
+    text[0] = static_cast<char>(std::toupper(static_cast<unsigned char>(text[0])));
+    return text;
+}
+
+std::string onOneLine(std::string text) {
+    std::replace(text.begin(), text.end(), '\n', ' ');
+    while (const auto twice = text.find("  ") + 1)
+        text.erase(twice, 1);
+    return std::string(trimmed(text));
+}
+
+void printLine(std::ostream& out, std::string label, const std::string& value) {
+    label.resize(std::max(label.size() + 1, labelWidth), ' ');
+    out << label << value << '\n';
+}
+
+}  // namespace lorvane

@@ -1,0 +1,28 @@
+// The command for the cheapest design.
+#pragma once
+
+#include <iosfwd>
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "app/application.h"
+
+namespace lorvane {
+
+struct OptimalRequest {
+    std::string study;
+    std::vector<std::string> settings;  ///< FIELD=VALUE
+    std::optional<double> power;        ///< required; the study's own where it is not given
+    std::vector<std::string> fixes;     ///< LEVEL=N
+    std::optional<int> iterations;      ///< larger top levels that are tried; the study's own
+    std::string out;                    ///< a file for the study with the sizes found; empty for none
+    bool json = false;
+};
+
+/// Prints the sizes, the cost, the power and the notes, and returns the exit code. Throws UseProblem,
+/// FileProblem and ArithmeticFault.
+int printOptimal(const OptimalRequest& request, Application& application, std::ostream& out,
+                 std::ostream& errors);
+
+}  // namespace lorvane

@@ -1,0 +1,260 @@
+// The search for the cheapest design: its ratios, its trials, its endings, and the study that it puts back.
+#include <cmath>
+
+#include "engine/cell_screening.h"
+#include "engine/effect_metrics.h"
+#include "search/least_sizes.h"
+#include "search/optimal_ratios.h"
+#include "search/trial_bench.h"
+#include "search_bench.h"
+
+namespace lorvane {
+namespace {
+
+OptimalOptions pattern(int bits) {
+    OptimalOptions options;
+    for (int level = 1; level <= 3; ++level) {
+        options.manual(level) = (bits >> (level - 1) & 1) == 1;
+        options.numReps(level) = 3 + level;
+    }
+    return options;
+}
+
+SizeRatios ratiosOf(SearchBench& bench, const OptimalOptions& options) {
+    SizeRatios ratios;
+    resetReadiness(bench.study().result);
+    computeOptimalRatios(bench.study(), options, ratios);
+    EXPECT_EQ(bench.study().result.xValidOptimal, 1);
+    return ratios;
+}
+
+// Variance times cost of a design per unit of the top level, which cheap sizes make small.
+double varianceTimesCost(const Study& s, const SizeRatios& n) {
+    double variance = 0, cost = 0, units = 1, outcome = 1;
+    for (int level = 2; level <= s.NumLevels; ++level)
+        outcome -= s.txtICC(level);
+    for (int level = s.NumLevels; level >= 1; --level) {
+        if (level < s.NumLevels)
+            units *= n(level);
+        const bool blocked = s.isBlocked(level);
+        const double unit = level == 1 ? outcome : s.txtICC(level);
+        variance += (blocked ? GetTauSq(s, level) : unit) * (1 - s.txtRsq(level)) / units;
+        const double arms = s.isHierarchical() ? 0.5 : 1;
+        cost += (blocked ? s.txtCostB(level) : arms * (s.txtCostT(level) + s.txtCostC(level))) * units;
+    }
+    return variance * cost;
+}
+
+bool isTheException(const Study& s, int bits) {
+    return s.NumLevels == 4 && s.RandomizedLevel == 1 && bits == 2;
+}
+
+// No small change of a free size makes variance times cost smaller. A rounded ratio may miss by a little.
+int checkFreeRatios(SearchBench& bench, const OptimalOptions& options, const SizeRatios& ratios, int bits) {
+    const Study& s = bench.study();
+    const bool rounded = s.NumLevels == 2;
+    const double least = varianceTimesCost(s, ratios);
+    int checked = 0;
+    for (int level = 1; level < s.NumLevels; ++level) {
+        if (options.manual(level) || isTheException(s, bits) || (rounded && ratios(1) < 2))
+            continue;
+        for (const double direction : {-1, 1}) {
+            SizeRatios other = ratios;
+            other(level) += direction * (rounded ? 1 : 0.02 * ratios(level));
+            EXPECT_LT(least, (rounded ? 1.02 : 1) * varianceTimesCost(s, other)) << level << " of " << bits;
+            ++checked;
+        }
+    }
+    return checked;
+}
+
+TEST(OptimalRatios, FreeSizesMakeVarianceTimesCostSmallestWhateverIsFixed) {
+    std::mt19937 random(7);
+    int checked = 0;
+    for (int i = 0; i < 300; ++i) {
+        SearchBench bench;
+        makeRandom(bench, random);
+        if (bench.study().result.xValid != 1)
+            continue;
+        for (int bits = 0; bits < 1 << (bench.study().NumLevels - 1); ++bits) {
+            const OptimalOptions options = pattern(bits);
+            checked += checkFreeRatios(bench, options, ratiosOf(bench, options), bits);
+        }
+    }
+    EXPECT_GT(checked, 1000);
+}
+
+TEST(OptimalRatios, WorkedNumbers) {
+    SearchBench hierarchical;
+    hierarchical.study().txtCostT(2) = hierarchical.study().txtCostC(2) = 90;
+    EXPECT_EQ(ratiosOf(hierarchical, {})(1), 9);
+    SearchBench blocks(2, 1);
+    blocks.study().txtTauSq(2) = 0.1;
+    blocks.study().txtCostB(2) = 180;
+    blocks.refresh();
+    const double expected = std::sqrt(0.9 / GetTauSq(blocks.study(), 2) * 180 / 20);
+    EXPECT_EQ(ratiosOf(blocks, {})(1), std::nearbyint(expected));
+    SearchBench exception(4, 1);
+    Study& s = exception.study();
+    s.txtRsq(3) = s.txtRsq(4) = 0.5;
+    s.txtQ(3) = s.txtQ(4) = 1;
+    exception.refresh();
+    const double n2 = 5;
+    EXPECT_NEAR(
+        ratiosOf(exception, pattern(2))(3),
+        std::sqrt(10 / (n2 * 10 + 10) * (GetOmega(s, 2) * 0.1 + GetTauSq(s, 3) * n2) / (GetTauSq(s, 4) * n2)),
+        1e-12);
+}
+
+TEST(LeastSizes, LeaveDegreesOfFreedom) {
+    SearchBench blocked(3, 2), hierarchical(2, 2, DataTypes::binary);
+    blocked.study().txtQ(3) = 3;
+    EXPECT_EQ(Getmin(blocked.study(), 3), 5);
+    blocked.study().txtQ(2) = 41;
+    EXPECT_EQ(Getmin(blocked.study(), 2), 4) << "(4 + 4 - 2) x 10 >= 41";
+    hierarchical.study().txtQ(2) = 3;
+    EXPECT_EQ(Getmin(hierarchical.study(), 2), 3);
+    hierarchical.study().txtQ(1) = 21;
+    EXPECT_EQ(Getmin(hierarchical.study(), 1), 3) << "also at level 1 of a binary study";
+}
+
+TEST(LeastSizes, TheLeastLevel1AvoidsLowCells) {
+    for (const double risk : {0.5, 0.2, 0.05}) {
+        for (const double icc : {0.01, 0.1}) {
+            SearchBench bench(2, 2, DataTypes::binary);
+            Study& s = bench.study();
+            s.txtPrev = risk;
+            s.txtICC(2) = icc;
+            bench.refresh();
+            double first = 0;
+            for (double n = 1; n <= 1000 && first == 0; ++n) {
+                s.txtNT(1) = s.txtNC(1) = n;
+                AAAComputeTwoLevelHDEvents(s, bench.library);
+                first = s.counts.anyLow == 0 ? n : 0;
+            }
+            const auto found = GetMinN(s, bench.library);
+            EXPECT_TRUE(first == 0 ? !found || *found > 1000 : found == first) << risk << " " << icc;
+        }
+    }
+}
+
+// What must hold of every trial, whatever is set by hand.
+void checkTrials(SearchBench& bench, const OptimalResult& result) {
+    const int top = bench.study().NumLevels;
+    const Trial& first = result.trials.front();
+    for (std::size_t i = 0; i < result.trials.size(); ++i) {
+        const Trial& trial = result.trials[i];
+        EXPECT_EQ(trial.sizes(top), first.sizes(top) + static_cast<double>(i));
+        EXPECT_TRUE(!trial.valid || trial.power >= bench.options.power || i > 0);
+        TrialBench trials(bench.study(), bench.library, bench.options.power);
+        for (int level = 1; level < top; ++level) {
+            trials.setSizes(trial.sizes);
+            if (bench.options.manual(level))
+                continue;
+            const double least = Getmin(bench.study(), level);
+            if (trial.sizes(level) < least + 1)
+                continue;
+            trials.trySize(level, trial.sizes(level) - 1);
+            EXPECT_FALSE(trial.power >= bench.options.power && trials.reachesPower())
+                << "level " << level << " of trial " << i << " can still shrink";
+        }
+        EXPECT_LE(result.cheapest().cost, trial.cost);
+        EXPECT_TRUE(trial.cost > result.cheapest().cost || i >= result.best) << "a tie keeps the smaller top";
+    }
+}
+
+TEST(OptimalSearch, EveryTrialReachesThePowerWithNothingToSpare) {
+    std::mt19937 random(11);
+    int found = 0;
+    for (int i = 0; i < 250; ++i) {
+        SearchBench bench;
+        makeRandom(bench, random);
+        if (bench.study().result.xValid != 1)
+            continue;
+        for (int level = 1; level <= 3; ++level) {
+            bench.options.manual(level) = random() % 3 == 0;
+            bench.options.numReps(level) = 2 + static_cast<double>(random() % 8);
+        }
+        bench.options.iterations = 5;
+        const Study before = bench.study();
+        const OptimalResult result = bench.search();
+        const Study& after = bench.study();
+        for (int level = 1; level <= 4; ++level) {
+            EXPECT_EQ(after.txtNT(level), before.txtNT(level));
+            EXPECT_EQ(after.txtNC(level), before.txtNC(level));
+            EXPECT_EQ(after.txtNB(level), before.txtNB(level));
+        }
+        EXPECT_EQ(after.result.txtPower, before.result.txtPower);
+        if (result.ending != OptimalEnding::found)
+            continue;
+        ++found;
+        ASSERT_EQ(result.trials.size(), 6u);
+        for (int level = 1; level < bench.study().NumLevels; ++level) {
+            const bool kept = bench.options.manual(level) && result.changes.empty();
+            EXPECT_TRUE(!kept || result.cheapest().sizes(level) == bench.options.numReps(level));
+        }
+        checkTrials(bench, result);
+    }
+    EXPECT_GT(found, 150);
+}
+
+TEST(OptimalSearch, CovariatesAndLowCellsRaiseTheSizes) {
+    SearchBench blocked(3, 1);
+    blocked.study().txtQ(2) = 1;
+    blocked.study().txtRsq(2) = 0.2;
+    blocked.study().txtTauSq(2) = 0.001;
+    blocked.refresh();
+    OptimalResult result = blocked.search();
+    ASSERT_EQ(result.changes.size(), 1u);
+    EXPECT_EQ(result.changes[0].to, 3);
+    SearchBench risks(2, 2, DataTypes::binary);
+    risks.study().txtPrev = 0.1;
+    risks.study().txtCostT(1) = risks.study().txtCostC(1) = 500;
+    risks.refresh();
+    result = risks.search();
+    EXPECT_TRUE(result.level1Raised);
+    EXPECT_EQ(result.cheapest().sizes(1), *GetMinN(risks.study(), risks.library));
+    risks.options.allowLowCellCounts = true;
+    EXPECT_FALSE(risks.search().level1Raised);
+}
+
+// Asks to stop at the first look.
+struct Impatient final : Progress {
+    bool goOn() override { return false; }
+};
+
+TEST(OptimalSearch, EveryEndingPutsTheStudyBack) {
+    SearchBench bench;
+    Study& s = bench.study();
+    const auto endingOf = [&] {
+        bench.refresh();
+        const Study before = s;
+        const OptimalResult result = bench.search();
+        EXPECT_EQ(s.txtNT(2), before.txtNT(2));
+        EXPECT_EQ(s.txtNB(1), before.txtNB(1));
+        EXPECT_EQ(s.result.txtPower, before.result.txtPower);
+        return result.ending;
+    };
+    EXPECT_EQ(endingOf(), OptimalEnding::found);
+    s.txtd = 0.0012;
+    s.txtCostT(2) = s.txtCostC(2) = 1000000;
+    EXPECT_EQ(endingOf(), OptimalEnding::costOverflow);
+    EXPECT_EQ(s.result.txtCostProblem, 1);
+    s.txtd = 0.4;
+    s.txtQ(2) = 250;
+    EXPECT_EQ(endingOf(), OptimalEnding::found) << "the least size grows with the covariates";
+    s.txtQ(2) = 0;
+    s.txtCostT(2) = s.txtCostC(2) = 10;
+    Impatient impatient;
+    EXPECT_EQ(searchOptimalDesign(s, bench.library, bench.options, impatient).ending, OptimalEnding::stopped);
+    EXPECT_EQ(s.txtNT(2), 10);
+    s.txtCostT(1) = s.txtCostC(1) = 0;
+    EXPECT_EQ(endingOf(), OptimalEnding::notReady);
+    EXPECT_EQ(s.result.xValidCost(1), 0);
+    bench.options.manual(1) = true;
+    bench.options.numReps(1) = 20;
+    EXPECT_EQ(endingOf(), OptimalEnding::found) << "set by hand, a cost of zero does not count";
+}
+
+}  // namespace
+}  // namespace lorvane
