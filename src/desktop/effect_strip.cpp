@@ -47,6 +47,19 @@ const Panel* headingOf(const MainScreen& screen, const std::string& panel) {
     return panel == "pnlP2" ? &screen.lblP2 : nullptr;
 }
 
+// The cells in which the effect is stated, the others being what it refers to.
+bool statesEffect(std::string_view panel) {
+    return panel != "pnlMean" && panel != "pnlSD" && panel != "pnlPrev";
+}
+
+bool isMarked(const MainScreen& screen, std::string_view field) {
+    for (int number = 1; number <= screen.outlines.last; ++number) {
+        if (screen.outlines(number).Visible && screen.outlines(number).from == field)
+            return true;
+    }
+    return false;
+}
+
 QLabel* captionLabel(const QString& text, QWidget* parent) {
     auto* label = new QLabel(text, parent);
     label->setFont(textFont(TextStyle::Caption));
@@ -126,12 +139,15 @@ void EffectStrip::addAlpha(QHBoxLayout* row, Menus& menus) {
 
 void EffectStrip::sync() {
     const MainScreen& screen = desk_.design().screen();
+    const bool effectIsMarked = isMarked(screen, "pnlEffectSize");
     for (auto& [cell, field] : cells_) {
         const StripCellName& names = namesOf(cell->names().panel);
         field.box->setVisible((screen.*names.cell).Visible);
         if (const Panel* heading = headingOf(screen, cell->names().panel))
             field.caption->setText(shownText(heading->Caption));
         cell->sync();
+        const bool marked = effectIsMarked && statesEffect(cell->names().panel);
+        cell->widget()->setProblem(marked ? ValueCell::Problem::Outlined : ValueCell::Problem::None);
     }
     const bool within = screen.pnldW.Visible;
     otherForm_.box->setVisible(within || screen.pnldT.Visible);

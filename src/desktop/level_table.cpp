@@ -5,6 +5,7 @@
 #include <QLabel>
 #include <QPainter>
 #include <algorithm>
+#include <array>
 
 #include "base/names.h"
 #include "desktop/kit/text_style.h"
@@ -40,6 +41,18 @@ enum Head {
     costsHead,
     headCount
 };
+
+// The cells that an outline goes around, by the kind of cell that it starts at.
+struct OutlinedCells {
+    std::string_view from;
+    std::array<const char*, 5> cells;
+};
+constexpr OutlinedCells outlinedCells[] = {{"pnlLevel", {"pnlQ", "pnlRsq", "pnlNT", "pnlNC", "pnlNB"}},
+                                           {"pnlQ", {"pnlQ", "pnlRsq"}},
+                                           {"pnlModel", {"pnlModel"}},
+                                           {"pnlICC", {"pnlICC", "pnlMRange"}},
+                                           {"pnlTauSq", {"pnlTauSq", "pnlDRange", "pnlOmega"}},
+                                           {"pnlCostT", {"pnlCostT", "pnlCostC", "pnlCostB"}}};
 
 std::string popupOf(std::string_view pattern, int level) {
     if (pattern.find("{}") == std::string_view::npos)
@@ -337,7 +350,26 @@ void LevelTable::sync() {
     placeAll();
 }
 
-// The model names the controls between which an outline runs; the cells of the row between them are tinted.
+// The shown cells of an outline that starts at a kind of cell, over some levels.
+QList<QWidget*> LevelTable::tint(std::string_view from, int lowest, int highest) {
+    QList<QWidget*> around;
+    for (const OutlinedCells& row : outlinedCells) {
+        if (row.from != from)
+            continue;
+        for (int level = lowest; level <= std::min(highest, rowCount()); ++level) {
+            for (const char* stem : row.cells) {
+                ValueCell* cell = stem == nullptr ? nullptr : binding(stem, level)->widget();
+                if (cell == nullptr || cell->isHidden())
+                    continue;
+                cell->setProblem(ValueCell::Problem::Tinted);
+                around.append(cell);
+            }
+        }
+    }
+    return around;
+}
+
+// The model names the controls between which an outline runs; the cells between them are tinted.
 void LevelTable::syncOutlines() {
     QList<Outline> outlines;
     for (const auto& cell : cells_)
@@ -345,20 +377,13 @@ void LevelTable::syncOutlines() {
     const auto& models = desk_.design().screen().outlines;
     for (int number = 1; number <= models.last; ++number) {
         const lorvane::Outline& model = models(number);
-        const auto level = splitName(model.from).index;
-        if (!model.Visible || !level || *level > rowCount())
+        const IndexedName from = splitName(model.from);
+        const int to = splitName(model.to).index.value_or(0);
+        if (!model.Visible || !from.index)
             continue;
-        QList<QWidget*> around;
-        const bool covariatesOnly = splitName(model.from).stem == "pnlQ";
-        for (const char* stem : {"pnlQ", "pnlRsq", "pnlNT", "pnlNC", "pnlNB"}) {
-            const bool ofCovariates = std::string_view(stem) == "pnlQ" || std::string_view(stem) == "pnlRsq";
-            ValueCell* cell = binding(stem, *level)->widget();
-            if (cell->isHidden() || (covariatesOnly && !ofCovariates))
-                continue;
-            cell->setProblem(ValueCell::Problem::Tinted);
-            around.append(cell);
-        }
-        outlines.append({overlay_->rectangleAround(around), 5});
+        const QList<QWidget*> around = tint(from.stem, std::min(*from.index, to), std::max(*from.index, to));
+        if (!around.isEmpty())
+            outlines.append({overlay_->rectangleAround(around), 5});
     }
     overlay_->setOutlines(outlines);
 }

@@ -54,6 +54,7 @@ private:
                    int middle);
     void placeSingle(CellBinding* cell, int left, int width, int middle);
     void placeRail();
+    QList<QWidget*> tint(std::string_view from, int lowest, int highest);
     void syncOutlines();
     CellBinding* binding(std::string_view stem, int level) const;
 

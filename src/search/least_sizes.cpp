@@ -1,6 +1,9 @@
 // The least sizes that a design can have.
 #include "search/least_sizes.h"
 
+#include <algorithm>
+#include <cmath>
+
 #include "engine/cell_screening.h"
 
 namespace lorvane {
@@ -10,12 +13,13 @@ namespace {
 constexpr double tolerance = 0.00001;
 constexpr double largestLevel1 = 100000;
 
-// Degrees of freedom of a level of n units: a block counts once, an arm for each of the two.
-double degreesOfFreedom(const Study& s, int level, double n) {
+// Degrees of freedom that a level has for every unit beyond the first: a block counts once, an arm for each
+// of the two.
+double degreesOfFreedomPerUnit(const Study& s, int level) {
     double above = 1;
     for (int k = level + 1; k <= s.NumLevels; ++k)
         above *= s.isBlocked(k) ? s.txtNB(k) : s.txtNT(k);
-    return (s.isBlocked(level) ? n - 1 : n + n - 2) * above;
+    return (s.isBlocked(level) ? 1 : 2) * above;
 }
 
 bool hasGoodCells(Study& s, DistributionLibrary& library, double n) {
@@ -28,10 +32,8 @@ bool hasGoodCells(Study& s, DistributionLibrary& library, double n) {
 
 double Getmin(const Study& s, int level) {
     const double needed = level == s.NumLevels ? 1 : 0;
-    double n = 1;
-    while (degreesOfFreedom(s, level, n) - s.txtQ(level) + tolerance < needed)
-        ++n;
-    return n;
+    const double wanted = s.txtQ(level) + needed - tolerance;
+    return std::max(1.0, 1 + std::ceil(wanted / degreesOfFreedomPerUnit(s, level)));
 }
 
 // A larger cluster never has lower cells, so the least size is found by halving.

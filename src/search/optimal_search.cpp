@@ -14,7 +14,7 @@ namespace lorvane {
 
 namespace {
 
-constexpr double largestTop = 100000000;
+constexpr double largestSize = 100000000;
 constexpr double largestFirstTop = 110;  // by then a valid design must have been met
 constexpr int runsBetweenLooks = 1000;
 constexpr int slackOfTop = 5;  // so near to its least size a top level with covariates is told of
@@ -91,6 +91,8 @@ void Search::writeLowerSizes(const SizeRatios& ratios) {
     for (int level = 1; level < top(); ++level) {
         if (s_.txtQ(level) > 0)
             leaveRoomForCovariates(level, bench_.size(level));
+        if (bench_.size(level) > largestSize)
+            end(OptimalEnding::noSolution);
     }
 }
 
@@ -131,7 +133,7 @@ void Search::raiseTop(double step) {
         bench_.trySize(top(), n);
         if (s_.result.txtCostProblem == 1)
             end(OptimalEnding::costOverflow);
-        else if (n > largestTop)
+        else if (n > largestSize)
             end(OptimalEnding::noSolution);
         else if (bench_.runs() % runsBetweenLooks == 0 && !progress_.goOn())
             end(OptimalEnding::stopped);
@@ -224,11 +226,10 @@ bool Search::covariatesAreTight() const {
 void Search::run() {
     end(OptimalEnding::found);
     s_.result.Adjusteddf = 0;
-    if (!prepareSizes()) {
+    if (!prepareSizes())
         end(OptimalEnding::notReady);
-        return;
-    }
-    CallFindM();
+    if (!isOver())
+        CallFindM();
     if (isOver())
         return;
     result_.topRaisedForDf = s_.result.Adjusteddf == 1;

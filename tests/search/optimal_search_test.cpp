@@ -5,6 +5,7 @@
 #include "engine/effect_metrics.h"
 #include "search/least_sizes.h"
 #include "search/optimal_ratios.h"
+#include "search/optimal_texts.h"
 #include "search/trial_bench.h"
 #include "search_bench.h"
 
@@ -216,6 +217,88 @@ TEST(OptimalSearch, CovariatesAndLowCellsRaiseTheSizes) {
     EXPECT_EQ(result.cheapest().sizes(1), *GetMinN(risks.study(), risks.library));
     risks.options.allowLowCellCounts = true;
     EXPECT_FALSE(risks.search().level1Raised);
+}
+
+TEST(Readiness, EveryReasonIsToldByItsOwnWords) {
+    struct Case {
+        int dataType;
+        void (*spoil)(Study&);
+        const char* title;
+        const char* part;
+    };
+    for (const Case& c : std::initializer_list<Case>{
+             {1, [](Study& s) { s.txtModel(3) = 1; }, "Model is fixed", "fixed-effect model at any level"},
+             {1, [](Study& s) { s.txtd = 0.001; }, "Effect size is zero", "Enter an effect size"},
+             {2, [](Study& s) { s.txtOR = 1; }, "Effect size is zero", "Enter an effect size"},
+             {1, [](Study& s) { s.txtICC(2) = 0; }, "ICC is zero", "Set all ICCs"},
+             {1, [](Study& s) { s.IccMetric = 2, s.txtMRange(2) = 0; }, "Range of means is zero",
+              "range of means"},
+             {2, [](Study& s) { s.IccMetric = 2, s.txtMRange(3) = 0.2, s.txtMRange(2) = 0; },
+              "Range of risks is zero", "range of risks"},
+             {1, [](Study& s) { s.txtCostB(3) = 0; }, "Cost is zero", "Set all costs"},
+             {2, [](Study& s) { s.txtCostT(1) = s.txtCostC(1) = 0; }, "Cost is zero", "Set all costs"},
+             {1, [](Study& s) { s.txtTauSq(3) = 0; }, "Tau-squared is zero", "Set all tau-squared"},
+             {1, [](Study& s) { s.TauSqMetric = 2, s.txtDRange(3) = 0; }, "Span of effects is zero",
+              "Set all span"},
+             {2, [](Study& s) { s.TauSqMetric = 3, s.txtOmega(3) = 0; }, "Omega is zero", "Set all omega"}}) {
+        SearchBench bench(3, 2, c.dataType);
+        c.spoil(bench.study());
+        bench.refresh();
+        ASSERT_EQ(bench.study().result.xValid, 1) << c.title;
+        EXPECT_EQ(bench.search().ending, OptimalEnding::notReady) << c.title;
+        const auto problems = readinessProblems(bench.study());
+        ASSERT_EQ(problems.size(), 1u) << problems[0].title << problems.back().title;
+        EXPECT_EQ(problems[0].title, std::string(c.title));
+        EXPECT_NE(std::string(problems[0].text).find(c.part), std::string::npos) << problems[0].text;
+        for (int level = 1; level <= 2; ++level)
+            bench.options.manual(level) = true, bench.options.numReps(level) = 3;
+        const bool always = std::string(c.title) == "Effect size is zero";
+        EXPECT_EQ(bench.search().ending == OptimalEnding::found, !always) << "by hand, " << c.title;
+    }
+}
+
+TEST(Readiness, TheLastOfAllReasonsIsRead) {
+    SearchBench bench;
+    Study& s = bench.study();
+    s.outcome.ValidICC(0) = s.effect.ValidTauSq(0) = 0;
+    for (LevelFlags* flags : {&s.result.xValidModel, &s.result.xValidICC, &s.result.xValidCost,
+                              &s.result.xValidTauSq, &s.result.xValidQ})
+        (*flags)(2) = 0;
+    s.result.xValidES = s.result.xValidTotICC = 0;
+    ResolveValidOptimal(s, false);
+    EXPECT_EQ(s.result.xValidOptimal, 0);
+    std::string titles;
+    for (const ReadinessProblem& problem : readinessProblems(s))
+        titles += std::string(problem.title) + "; ";
+    EXPECT_EQ(titles,
+              "Model is fixed; Effect size is zero; Problem with ICC; Tau-squared is zero; ICC is zero; "
+              "Cost is zero; Tau-squared is zero; Number of covariates is zero; Total ICC exceeds 0.999; ");
+}
+
+// Values that no dialog offers, as a file can hold them: the search ends soon, whatever it answers.
+TEST(OptimalSearch, ExtremeStudiesEndSoon) {
+    std::mt19937 random(3);
+    const double extremes[] = {0, -1, 1e-9, 0.999, 3, 1e6, 1e9, 1e15, 1e300};
+    int endings[5] = {};
+    for (int i = 0; i < 400; ++i) {
+        SearchBench bench;
+        try {
+            makeRandom(bench, random);
+            Study& s = bench.study();
+            for (auto change = random() % 3 + 1; change > 0; --change) {
+                PerLevel<double>* fields[] = {&s.txtICC,   &s.txtTauSq, &s.txtQ,      &s.txtRsq,  &s.txtCostT,
+                                              &s.txtCostB, &s.txtCostC, &s.txtMRange, &s.txtModel};
+                (*fields[random() % std::size(fields)])(1 + static_cast<int>(random() % 4)) =
+                    extremes[random() % std::size(extremes)];
+            }
+            bench.refresh();
+            ++endings[static_cast<int>(bench.search().ending)];
+        } catch (const ArithmeticFault&) {
+        }
+    }
+    for (const OptimalEnding ending : {OptimalEnding::found, OptimalEnding::notReady,
+                                       OptimalEnding::noSolution, OptimalEnding::costOverflow})
+        EXPECT_GT(endings[static_cast<int>(ending)], 0) << static_cast<int>(ending);
 }
 
 // Asks to stop at the first look.
