@@ -6,6 +6,7 @@
 #include "search/least_sizes.h"
 #include "search/optimal_ratios.h"
 #include "search/optimal_texts.h"
+#include "search/optimal_window.h"
 #include "search/trial_bench.h"
 #include "search_bench.h"
 
@@ -337,6 +338,22 @@ TEST(OptimalSearch, EveryEndingPutsTheStudyBack) {
     bench.options.manual(1) = true;
     bench.options.numReps(1) = 20;
     EXPECT_EQ(endingOf(), OptimalEnding::found) << "set by hand, a cost of zero does not count";
+}
+
+TEST(OptimalWizard, AStoppedSearchOffersToStartAgain) {
+    SearchBench bench;
+    Impatient impatient;
+    OptimalWindow wizard(bench.design, bench.library, impatient);
+    EventRegistry events;
+    wizard.registerEvents(events);
+    events.tool("gfrmOptimal");
+    events.click("frmOptimal.cmdOpt(2)");
+    EXPECT_TRUE(wizard.pnlOptimalInner().Caption.starts_with("The search was stopped."));
+    EXPECT_TRUE(wizard.cmdOpt(2).Visible);
+    EXPECT_FALSE(wizard.cmdOpt(3).Visible);
+    EXPECT_EQ(wizard.row(1).OptimalpnlNT.Caption, "Use optimal");
+    EXPECT_EQ(wizard.result(), nullptr);
+    EXPECT_EQ(bench.study().txtNT(2), 10);
 }
 
 }  // namespace
