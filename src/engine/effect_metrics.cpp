@@ -20,16 +20,23 @@ void oddsRatioWithinFixedLimits(double controlRate, double treatedRate, bool& va
         oddsRatio = oddsRatioOfRates(controlRate, treatedRate);
 }
 
-// Walks while the rate of the next value is admissible, and leaves the last value that was met before.
+constexpr double longestLeap = 1e15;
+
+// Walks while the rate of the next value is admissible, and leaves the last value that was met before. The
+// rate goes one way, so the walk may leap: an odds ratio near a rate of 1 lies millions of steps away.
 template <typename RateOf, typename Admissible>
 double walk(double start, double step, int direction, RateOf rateOf, Admissible admissible) {
-    double value = start;
-    double last = start;
-    do {
-        last = value;
-        value += step * direction;
-    } while (admissible(rateOf(value)));
-    return last;
+    const auto value = [&](double steps) { return start + steps * step * direction; };
+    const auto goesOn = [&](double steps) { return admissible(rateOf(value(steps))); };
+    double walked = 0;
+    double leap = 1;
+    for (; leap < longestLeap && goesOn(walked + leap); leap *= 2)
+        walked += leap;
+    for (leap /= 2; leap >= 1; leap /= 2) {
+        if (goesOn(walked + leap))
+            walked += leap;
+    }
+    return value(walked);
 }
 
 }  // namespace

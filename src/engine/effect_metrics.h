@@ -56,7 +56,8 @@ void GetORfromRD(double riskDifference, double controlRate, bool& valid, double&
 
 /// The last admissible value of a metric, walking from start in steps of step (above 0) upward
 /// (direction 1) or downward (-1). The treated rate is held to txtDelta and 1 - txtDelta for the odds
-/// ratio, and to the fixed limits 0.001 and 0.999 for risk ratio and risk difference.
+/// ratio, and to the fixed limits 0.001 and 0.999 for risk ratio and risk difference. However far the limit
+/// lies, the walk is short.
 void GetRangeOR(const Study& study, double& limit, double start, double step, int direction);
 void GetRangeRR(const Study& study, double& limit, double start, double step, int direction);
 void GetRangeRD(const Study& study, double& limit, double start, double step, int direction);

@@ -210,6 +210,9 @@ TEST(EffectMetricsTest, ConversionsAndRanges) {
     EXPECT_NEAR(last(GetRangeOR, 1, -0.01), 0.08, 1e-12);
     EXPECT_NEAR(last(GetRangeRR, 1, 0.01), 2.49, 1e-12);
     EXPECT_NEAR(last(GetRangeRD, 0, -0.01), -0.39, 1e-12);
+    EXPECT_EQ(last(GetRangeRD, 0.7, 0.01), 0.7) << "the next value is out already";
+    s.limits.txtDelta = 0.0001, s.txtPrev = 0.00011;  // about ninety million steps of 1, in a moment
+    EXPECT_NEAR(last(GetRangeOR, 1, 1) * 0.00011 / 0.99989, 9999, 1e-3);
     double lower = 77, upper = 77;
     GetRangeP2(lower, upper, 0.05, 1);
     EXPECT_TRUE(lower == 77 && upper == 0.95);
