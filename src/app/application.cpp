@@ -41,15 +41,16 @@ std::optional<bool> readFlag(std::string_view text) {
 
 Application::Application(const Platform& platform)
     : platform_(platform), design_(platform.distributions, platform.locale, platform.messages),
-      dialogs_(design_), details_(design_), scenarioWindow_(design_, scenarios_), recent_(platform.settings),
-      studyFiles_(design_, scenarios_, scenarioWindow_, recent_, platform.files, platform.dialogs,
-                  platform.programFolder),
+      dialogs_(design_), details_(design_), mdesWindow_(design_), scenarioWindow_(design_, scenarios_),
+      recent_(platform.settings), studyFiles_(design_, scenarios_, scenarioWindow_, recent_, platform.files,
+                                              platform.dialogs, platform.programFolder),
       startScreen_(design_, studyFiles_, recent_, platform.files),
       optimalWindow_(design_, platform.distributions,
                      platform.progress == nullptr ? noProgress_ : *platform.progress) {
     design_.registerNames(names_);
     dialogs_.registerNames(names_);
     details_.registerNames(names_);
+    mdesWindow_.registerNames(names_);
     scenarioWindow_.registerNames(names_);
     startScreen_.registerNames(names_);
     optimalWindow_.registerNames(names_);
@@ -58,6 +59,7 @@ Application::Application(const Platform& platform)
     registerCommands(events_, design_);
     dialogs_.registerEvents(events_);
     details_.registerEvents(events_);
+    mdesWindow_.registerEvents(events_);
     scenarioWindow_.registerEvents(events_);
     studyFiles_.registerEvents(events_);
     startScreen_.registerEvents(events_);

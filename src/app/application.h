@@ -28,6 +28,7 @@
 #include "screen/design.h"
 #include "screen/small_dialogs.h"
 #include "screen/study_fields.h"
+#include "search/mdes_window.h"
 #include "search/optimal_window.h"
 
 namespace lorvane {
@@ -107,6 +108,10 @@ public:
     /// Why the study gives no power, in the words of the window that tells it; needs a study without power.
     std::string whyNoPower() const;
 
+    /// The smallest effect with which the study reaches a power; the study stays as it is. Throws
+    /// ArithmeticFault.
+    MdesResult findMDES(double requiredPower) { return FindMDES(design_, requiredPower); }
+
     /// What a person does on the screen, by the names of its controls. Each throws UseProblem for a name that
     /// is not known and ArithmeticFault when the computation cannot go on; the entered values stay then.
     void tool(const std::string& name);
@@ -134,6 +139,7 @@ public:
     OptimalWindow& optimalWindow() noexcept { return optimalWindow_; }
     const StartScreen& startScreen() const noexcept { return startScreen_; }
     const Details& details() const noexcept { return details_; }
+    const MdesWindow& mdesWindow() const noexcept { return mdesWindow_; }
     const SmallDialogs& dialogs() const noexcept { return dialogs_; }
 
     const ControlRegistry& names() const noexcept { return names_; }
@@ -158,6 +164,7 @@ private:
     Design design_;
     SmallDialogs dialogs_;
     Details details_;
+    MdesWindow mdesWindow_;
     ScenarioGrid scenarios_;
     ScenarioWindow scenarioWindow_;
     RecentFiles recent_;

@@ -160,6 +160,8 @@ void Design::showFault(const ArithmeticFault& fault) {
     computeScreen_.askForData("Please modify data");
     computeScreen_.tellProblem("", "");
     writeWords(study_, settings_, screen_);
+    if (const auto& mdes = followers_[static_cast<std::size_t>(RefreshFollower::mdes)])
+        mdes();
 }
 
 void Design::showTools() {

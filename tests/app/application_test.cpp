@@ -253,7 +253,7 @@ TEST_F(App, ARefusalOpensNoWindowThatWasClosed) {
 }
 
 TEST_F(App, ToolsWithoutASubjectAreThereAndDisabled) {
-    for (const char* name : {"gfrmMDES", "gfrmPrint", "Graph", "gfrmTips"}) {
+    for (const char* name : {"gfrmPrint", "Graph", "gfrmTips"}) {
         const Tool* tool = app.design().tools().find(name);
         ASSERT_NE(tool, nullptr) << name;
         EXPECT_FALSE(tool->Enabled) << name;

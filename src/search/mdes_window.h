@@ -1,0 +1,70 @@
+// The panel of the smallest detectable effect: its display models and commands. While it is open the effect
+// field keeps what was found; closing brings the earlier effect back.
+#pragma once
+
+#include <string>
+
+#include "platform/control_registry.h"
+#include "platform/event_registry.h"
+#include "search/mdes_texts.h"
+
+namespace lorvane {
+
+class MdesWindow {
+public:
+    /// What the panel shows below its prompt.
+    enum class State {
+        resting,  ///< nothing yet
+        result,   ///< of the study as it stands
+        changed,  ///< there was an edit, the result is gone
+        problem,
+    };
+
+    /// Follows the refreshes of a screen, which must outlive it.
+    explicit MdesWindow(Design& design);
+    MdesWindow(const MdesWindow&) = delete;
+    MdesWindow& operator=(const MdesWindow&) = delete;
+
+    void registerNames(ControlRegistry& registry) const;
+    void registerEvents(EventRegistry& events);
+
+    State state() const noexcept { return state_; }
+    const Panel& prompt() const noexcept { return pnlMDESTop_; }
+    const Panel& firstLine() const noexcept { return pnlMDESMid_; }
+    const Panel& secondLine() const noexcept { return pnlMDES_; }
+    const Panel& figureName() const noexcept { return pnlFigureName_; }
+    const Panel& figureNumber() const noexcept { return pnlFigureNumber_; }
+    const Button& compute() const noexcept { return cmdComputeMDES_; }
+    const Button& closeButton() const noexcept { return cmdMDESClose_; }
+
+private:
+    /// The effect field that a search wrote: what it held before and what it holds since.
+    struct LentEffect {
+        double Study::*field = nullptr;
+        double before = 0;
+        double found = 0;
+    };
+
+    bool isOpen() const;
+    void refresh();
+    void computeEffect();
+    void lend(double found);
+    void takeBack();
+    void close();
+    void show(State state, const MdesLines& lines, const MdesFigure& figure = {});
+
+    Design& design_;
+    LentEffect lent_;
+    double prompted_ = 0;  ///< required power that the prompt tells
+    bool computing_ = false;
+    State state_ = State::resting;
+    Panel pnlMDESTop_;
+    Panel pnlMDESMid_;
+    Panel pnlMDES_;
+    Panel pnlFigureName_;
+    Panel pnlFigureNumber_;
+    Button cmdComputeMDES_;
+    Button cmdMDESClose_;
+};
+
+}  // namespace lorvane
