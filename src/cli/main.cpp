@@ -7,6 +7,7 @@
 #include "base/arithmetic_fault.h"
 #include "cli/commands.h"
 #include "cli/drive.h"
+#include "cli/mdes_command.h"
 #include "cli/optimal_command.h"
 #include "numerics/numeric_distribution_library.h"
 #include "os/disk_file_store.h"
@@ -22,6 +23,7 @@ struct Requests {
     NewRequest fresh;
     ScenariosRequest scenarios;
     OptimalRequest optimal;
+    MdesRequest mdes;
     std::string driven;
 };
 
@@ -61,6 +63,18 @@ void addOptimal(CLI::App& cli, OptimalRequest& request) {
         "Example:\n  lorvane-cli optimal schools.Lorvane --power 0.9 --fix 1=22 --out cheap.Lorvane");
 }
 
+void addMdes(CLI::App& cli, MdesRequest& request) {
+    CLI::App* command = cli.add_subcommand("mdes", "The smallest effect that the study can detect");
+    command->add_option("STUDY", request.study, "Study file")->required();
+    command->add_option("--power", request.power, "Required power; the study's own where it is not given")
+        ->type_name("P");
+    command->add_option("--set", request.settings, setHelp)
+        ->type_name("FIELD=VALUE")
+        ->allow_extra_args(false);
+    command->add_flag("--json", request.json, "Answer with one JSON object");
+    command->footer("Example:\n  lorvane-cli mdes schools.Lorvane --power 0.9");
+}
+
 void addNew(CLI::App& cli, NewRequest& request) {
     CLI::App* command = cli.add_subcommand("new", "A study file from the start values");
     command->add_option("--out", request.out, "Study file to write")->required()->type_name("STUDY");
@@ -95,6 +109,8 @@ int runChosen(const CLI::App& cli, const Requests& requests) {
         return printPower(requests.power, application, std::cout, std::cerr);
     if (cli.got_subcommand("optimal"))
         return printOptimal(requests.optimal, application, std::cout, std::cerr);
+    if (cli.got_subcommand("mdes"))
+        return printMdes(requests.mdes, application, std::cout, std::cerr);
     if (cli.got_subcommand("new"))
         return makeNew(requests.fresh, application, std::cout);
     if (cli.got_subcommand("scenarios"))
@@ -126,6 +142,7 @@ int main(int argc, char** argv) {
                "written.");
     addPower(cli, requests.power);
     addOptimal(cli, requests.optimal);
+    addMdes(cli, requests.mdes);
     addNew(cli, requests.fresh);
     addScenarios(cli, requests.scenarios);
     addDrive(cli, requests.driven);

@@ -69,7 +69,7 @@ MdesFigure mdesFigure(const Study& study, const MdesResult& result) {
     if (result.outcome != MdesOutcome::found)
         return {};
     const char* name = study.isMeans() ? "d" : isOddsRatio(study) ? "Odds ratio" : "Risk difference";
-    return {name, effectText(study, result.effect)};
+    return {name, fixedText(result.effect, study.isMeans() ? 2 : 3)};
 }
 
 }  // namespace lorvane

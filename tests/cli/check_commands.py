@@ -34,6 +34,26 @@ def check_answers(folder):
                                "ICC Metric": 1}, out
 
 
+def check_mdes():
+    code, out, _ = run("mdes", STUDY)
+    assert code == 0 and "Standardized mean difference" in out and "The minimum detectable effect size is" in out, out
+    code, out, _ = run("mdes", STUDY, "--power", "0.877", "--json")
+    answer = json.loads(out)
+    assert code == 0 and answer["found"] and answer["requiredPower"] == 0.877 and answer["message"] == "", out
+    for thousandths, reaches in ((0, True), (-0.001, False)):
+        effect = f"txtd={answer['effect'] + thousandths:.3f}"
+        power = json.loads(run("power", STUDY, "--set", effect, "--json")[1])["power"]
+        assert (power >= 0.877) == reaches, (effect, power)
+    binary = ["--set", "DataType=2", "--set", "txtPrev=0.4"]
+    code, out, _ = run("mdes", STUDY, *binary, "--json")
+    answer = json.loads(out)
+    assert code == 0 and answer["effectName"] == "odds ratio" and answer["controlRate"] == 0.4, out
+    code, out, err = run("mdes", STUDY, *binary, "--set", "txtNB(3)=3", "--power", "0.999")
+    assert code == 1 and out == "" and err.startswith("The highest possible power is "), err
+    code, out, err = run("mdes", STUDY, "--set", "txtICC(2)=0.95", "--json")
+    assert code == 1 and json.loads(out)["power"] is None and "sum of the ICCs" in err, err
+
+
 def check_examples():
     studies = sorted(EXAMPLES.glob("*.Lorvane"))
     assert len(studies) == 5, studies
@@ -88,6 +108,7 @@ WRONG_USE = [
     (["power", STUDY, "--set", "NumLevels=7"], "NumLevels must be 2, 3 or 4"),
     (["power", STUDY, "--set", "RandomizedLevel=4"], "RandomizedLevel"),
     (["power", STUDY, "--scenario", "20 school"], 'the nearest is "20 schools"'),
+    (["mdes", STUDY, "--power", "1"], "--power takes a power from 0.01 to 0.999, not 1."),
     (["power", STUDY, "--colour"], "--colour"),
     (["power"], "STUDY"),
     (["paint"], ""),
@@ -120,6 +141,7 @@ def main():
         check_answers(folder)
         check_failures(folder)
         check_optimal(folder)
+    check_mdes()
     check_examples()
     check_new_study()
     check_no_answer()

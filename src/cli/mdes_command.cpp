@@ -1,0 +1,89 @@
+// The command for the smallest detectable effect.
+#include "cli/mdes_command.h"
+
+#include <nlohmann/json.hpp>
+#include <ostream>
+
+#include "base/number_text.h"
+#include "cli/command_words.h"
+#include "cli/commands.h"
+#include "cli/json_text.h"
+#include "engine/effect_metrics.h"
+#include "search/mdes_texts.h"
+
+namespace lorvane {
+
+namespace {
+
+using Json = nlohmann::ordered_json;
+
+constexpr double lowestPower = 0.01;
+constexpr double highestPower = 0.999;
+
+double requiredPower(const MdesRequest& request, const Application& application) {
+    const double power = request.power.value_or(application.design().study().ReqPower);
+    if (request.power && !(power >= lowestPower && power <= highestPower))
+        throw UseProblem("--power takes a power from 0.01 to 0.999, not " + shortestText(power) + ".");
+    return power;
+}
+
+std::string words(const Study& s, const MdesResult& result) {
+    const MdesLines lines = mdesLines(s, result);
+    return lines.first + "\n" + lines.second;
+}
+
+// Why there is no effect; empty when there is one.
+std::string whyNothing(const Application& application, const MdesResult& result) {
+    if (result.outcome == MdesOutcome::problem && !application.hasPower())
+        return onOneLine(application.whyNoPower());
+    return result.outcome == MdesOutcome::found ? "" : onOneLine(words(application.design().study(), result));
+}
+
+void printFound(const Study& s, double required, const MdesResult& result, std::ostream& out) {
+    printLine(out, capitalised(std::string(GetESName(s))), shortestText(result.effect));
+    printLine(out, "Power", fixedText(result.power, 4));
+    printLine(out, "Required power", shortestText(required));
+    if (s.isBinary()) {
+        printLine(out, "Rate, " + s.treatedName(), fixedText(result.treatedRate, 4));
+        printLine(out, "Rate, " + s.controlName(), fixedText(result.controlRate, 4));
+    }
+    out << '\n' << words(s, result) << '\n';
+}
+
+Json mdesJson(const Study& s, double required, const MdesResult& result, const std::string& why) {
+    const bool found = result.outcome == MdesOutcome::found;
+    const auto ifSearched = [&](double value) {
+        return result.outcome == MdesOutcome::problem ? Json() : Json(value);
+    };
+    return {{"found", found},
+            {"effectName", std::string(GetESName(s))},
+            {"effect", found ? Json(result.effect) : Json()},
+            {"power", ifSearched(result.power)},
+            {"requiredPower", required},
+            {"treatedRate", found && s.isBinary() ? Json(result.treatedRate) : Json()},
+            {"controlRate", found && s.isBinary() ? Json(result.controlRate) : Json()},
+            {"lowCellCounts", found && result.countsAreLow},
+            {"text", found ? words(s, result) : ""},
+            {"message", why}};
+}
+
+}  // namespace
+
+int printMdes(const MdesRequest& request, Application& application, std::ostream& out, std::ostream& errors) {
+    application.open(request.study);
+    applySettings(request.settings, application);
+    const double required = requiredPower(request, application);
+    const MdesResult result = application.findMDES(required);
+    const Study& study = application.design().study();
+    const std::string why = whyNothing(application, result);
+    if (request.json)
+        out << jsonText(mdesJson(study, required, result, why)) << '\n';
+    else if (result.outcome == MdesOutcome::found)
+        printFound(study, required, result, out);
+    if (result.outcome == MdesOutcome::found)
+        return ExitCodes::done;
+    errors << why << '\n';
+    return ExitCodes::noAnswer;
+}
+
+}  // namespace lorvane

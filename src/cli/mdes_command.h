@@ -1,0 +1,24 @@
+// The command for the smallest detectable effect.
+#pragma once
+
+#include <iosfwd>
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "app/application.h"
+
+namespace lorvane {
+
+struct MdesRequest {
+    std::string study;
+    std::optional<double> power;        ///< required, 0.01 to 0.999; the study's own where it is not given
+    std::vector<std::string> settings;  ///< FIELD=VALUE
+    bool json = false;
+};
+
+/// Prints the effect in numbers and words and returns the exit code. Throws UseProblem, FileProblem and
+/// ArithmeticFault.
+int printMdes(const MdesRequest& request, Application& application, std::ostream& out, std::ostream& errors);
+
+}  // namespace lorvane
