@@ -8,6 +8,7 @@
 #include "desktop/dialog_views.h"
 #include "desktop/dispersion_views.h"
 #include "desktop/main_window.h"
+#include "desktop/mdes_view.h"
 #include "desktop/message_views.h"
 #include "desktop/scenario_view.h"
 #include "desktop/start_view.h"
@@ -86,6 +87,7 @@ Panels::Panels(Desk& desk, MainWindow& window) : desk_(desk), window_(window) {
     add<TableView>(0.2, 0.4, "frmSpreadTauSq", "Table of the effects", design.spreadTauSq(),
                    [&dialogs] { return dialogs.spreadTauSqIsOpen(); });
     add<ScenarioView>(0.5, 0.45);
+    add<MdesView>(centred, centred);
     add<StartView>(centred, centred);
     for (DialogModel& model : dialogModels(desk))
         add<DialogView>(centred, centred, std::move(model));

@@ -2,6 +2,7 @@
 // what a screen reader is told.
 #include <QAbstractButton>
 #include <QAccessible>
+#include <QClipboard>
 #include <QLabel>
 #include <QMenu>
 #include <QMenuBar>
@@ -274,6 +275,26 @@ TEST_F(Keyboard, EveryControlHasAName) {
     }
     set({{"DataType", 2.0}, {"BinaryType", 1.0}});
     expectNames(window);
+}
+
+TEST_F(Edit, TheSmallestEffectByKeysAlone) {
+    set({{"txtd", 0.3}, {"txtNT(2)", 10.0}, {"txtNC(2)", 10.0}});
+    tool("gfrmMDES");
+    key(Qt::Key_Return);
+    const double found = study().txtd;
+    EXPECT_NE(found, 0.3);
+    key(Qt::Key_C, Qt::ControlModifier);
+    const QString copied = QGuiApplication::clipboard()->text();
+    EXPECT_TRUE(copied.contains(QStringLiteral("(d) of %1,\nwhere d is").arg(found, 0, 'f', 2)))
+        << copied.toStdString();
+    const int withResult = panel("frmMDES").height();
+    clickArrow("pnlNT(2)", 1);
+    EXPECT_LT(panel("frmMDES").height(), withResult) << "the figure is gone";
+    panel("frmMDES").activateWindow();
+    settle();
+    key(Qt::Key_Escape);
+    EXPECT_FALSE(isShown("frmMDES"));
+    EXPECT_EQ(study().txtd, 0.3);
 }
 
 }  // namespace

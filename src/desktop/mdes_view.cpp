@@ -1,0 +1,161 @@
+// The panel of the smallest detectable effect: a prompt, a band with the answer, two buttons.
+#include "desktop/mdes_view.h"
+
+#include <QClipboard>
+#include <QGuiApplication>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QShortcut>
+#include <QStyle>
+#include <QVBoxLayout>
+
+#include "desktop/kit/card.h"
+#include "desktop/kit/number_label.h"
+#include "desktop/kit/push_button.h"
+#include "desktop/kit/text_style.h"
+#include "desktop/kit/theme.h"
+
+namespace lorvane::desktop {
+
+namespace {
+
+constexpr int panelWidth = 600;
+constexpr int padding = 22;
+constexpr int bandPadding = 20;
+constexpr int spaceOverFigure = 16;
+constexpr int spaceOverLines = 24;
+constexpr int lineWidth = panelWidth - 2 * padding - 2 * bandPadding;
+constexpr const char* computeButton = "frmMDES.cmdComputeMDES";
+constexpr const char* closeButton = "frmMDES.cmdMDESClose";
+
+struct StateLook {
+    CardTone tone;
+    TextStyle firstLine;
+    bool quietSecondLine;
+};
+
+// In the order of MdesWindow::State.
+constexpr StateLook looks[] = {
+    {CardTone::Quiet, TextStyle::Body, false},
+    {CardTone::Accent, TextStyle::Body, false},
+    {CardTone::Quiet, TextStyle::BodyMedium, true},
+    {CardTone::Problem, TextStyle::BodyMedium, true},
+};
+
+QLabel* line() {
+    auto* label = new QLabel;
+    label->setFont(textFont(TextStyle::Body));
+    label->setWordWrap(true);
+    label->setFixedWidth(lineWidth);
+    label->setTextInteractionFlags(Qt::TextSelectableByMouse);
+    return label;
+}
+
+// Word-wrapped labels ask for too little height when a window is fitted to them.
+void setLine(QLabel* label, const std::string& text) {
+    label->setText(shownText(text));
+    label->setFixedHeight(label->heightForWidth(lineWidth));
+    label->setVisible(!text.empty());
+}
+
+// The style sheet knows the colour of a second line.
+void setSecond(QLabel* label, bool second) {
+    label->setProperty("second", second);
+    label->style()->unpolish(label);
+    label->style()->polish(label);
+}
+
+}  // namespace
+
+MdesView::MdesView(Desk& desk, ToolPanel* panel)
+    : PanelView(desk, panel, "frmMDES"), prompt_(new QLabel), band_(new Card(CardTone::Accent)),
+      figure_(new QWidget), figureName_(new NumberLabel(Qt::AlignLeft)),
+      figureNumber_(new NumberLabel(Qt::AlignLeft)), first_(line()), second_(line()) {
+    panel->setWindowTitle(tr("Minimum detectable effect size"));
+    panel->setAttribute(Qt::WA_ShowWithoutActivating, false);
+    panel->content()->setContentsMargins(padding, 26, padding, 18);
+    prompt_->setFont(textFont(TextStyle::PanelHeading));
+    prompt_->setFixedWidth(panelWidth - 2 * padding);
+    panel->content()->addWidget(prompt_);
+    panel->content()->addSpacing(22);
+    panel->content()->addWidget(makeBand());
+    panel->content()->addSpacing(14);
+    panel->content()->addLayout(makeButtons());
+    addShortcuts();
+}
+
+QWidget* MdesView::makeBand() {
+    figureName_->setTextStyle(TextStyle::FigureWords);
+    figureName_->setTextRole(Role::SecondText);
+    figureNumber_->setTextStyle(TextStyle::Figure);
+    auto* figure = new QHBoxLayout(figure_);
+    figure->setContentsMargins(0, 0, 0, 0);
+    figure->setSpacing(0);
+    figure->addWidget(figureName_);
+    figure->addWidget(figureNumber_);
+    figure->addStretch(1);
+    auto* box = new QVBoxLayout(band_);
+    box->setSpacing(4);
+    box->addWidget(figure_);
+    box->addWidget(first_);
+    box->addWidget(second_);
+    return band_;
+}
+
+QLayout* MdesView::makeButtons() {
+    const MdesWindow& model = desk_.application().mdesWindow();
+    auto* row = new QHBoxLayout;
+    const auto add = [&](const char* control, const Button& button, PushButton* made, int width) {
+        made->setObjectName(QString::fromUtf8(control));
+        made->setText(shownText(button.Caption));
+        made->setMinimumWidth(width);
+        connect(made, &PushButton::clicked, this, [this, control] { desk_.click(control); });
+        row->addWidget(made);
+    };
+    add(computeButton, model.compute(), primaryButton(QString()), 220);
+    row->addStretch(1);
+    add(closeButton, model.closeButton(), plainButton(QString()), 84);
+    return row;
+}
+
+void MdesView::addShortcuts() {
+    const auto press = [this](const QKeySequence& key, auto action) {
+        connect(new QShortcut(key, panel()), &QShortcut::activated, this, action);
+    };
+    for (const Qt::Key key : {Qt::Key_Return, Qt::Key_Enter})
+        press(key, [this] { desk_.click(computeButton); });
+    press(Qt::Key_Escape, [this] { desk_.click(closeButton); });
+    press(QKeySequence::Copy, [this] { copy(); });
+}
+
+void MdesView::copy() const {
+    const QStringList lines = {first_->text(), second_->text()};
+    QGuiApplication::clipboard()->setText(lines.join(QLatin1Char('\n')).trimmed());
+}
+
+bool MdesView::isOpen() const {
+    return desk_.design().windows().state(WindowId::frmMDES) == WindowStates::open;
+}
+
+void MdesView::sync() {
+    const MdesWindow& model = desk_.application().mdesWindow();
+    const StateLook& look = looks[static_cast<std::size_t>(model.state())];
+    prompt_->setText(shownText(model.prompt().Caption));
+    band_->setTone(look.tone);
+    band_->setVisible(model.state() != MdesWindow::State::resting);
+    figureName_->setText(shownText(model.figureName().Caption) + QStringLiteral(" = "));
+    figureNumber_->setText(shownText(model.figureNumber().Caption));
+    const bool hasFigure = !model.figureNumber().Caption.empty();
+    figure_->setVisible(hasFigure);
+    const int above = hasFigure ? spaceOverFigure : spaceOverLines;
+    band_->layout()->setContentsMargins(bandPadding, above, bandPadding, above);
+    first_->setFont(textFont(look.firstLine));
+    setLine(first_, model.firstLine().Caption);
+    setSecond(second_, look.quietSecondLine);
+    setLine(second_, model.secondLine().Caption);
+    if (isOpen() && !wasOpen_)
+        panel()->findChild<PushButton*>(QString::fromUtf8(computeButton))->setFocus();
+    wasOpen_ = isOpen();
+}
+
+}  // namespace lorvane::desktop
