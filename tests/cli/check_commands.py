@@ -130,7 +130,7 @@ def check_failures(folder):
 
 def check_help():
     for arguments in [["--help"], ["power", "--help"], ["new", "--help"], ["scenarios", "--help"], ["drive", "--help"],
-                      ["optimal", "--help"]]:
+                      ["optimal", "--help"], ["mdes", "--help"]]:
         code, out, _ = run(*arguments)
         assert code == 0 and "Example:" in out, out
     assert run("--version")[1].startswith("Lorvane ")
