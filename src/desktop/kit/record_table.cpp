@@ -26,26 +26,24 @@ namespace lorvane::desktop {
 
 namespace {
 
-constexpr int RowHeight = 34;
-constexpr int HeadHeight = 34;
-constexpr int CellPadding = 14;
 constexpr double SortSign = 12;
 constexpr double SortSpace = 4;
 constexpr int FlightTime = 250;  ///< milliseconds
 
-QRectF inner(const QRect& cell) { return QRectF(cell).adjusted(CellPadding, 0, -CellPadding, 0); }
+QRectF inner(const QRect& cell, int padding) { return QRectF(cell).adjusted(padding, 0, -padding, 0); }
 
 bool isRightAligned(const QVariant& alignment) { return alignment.toInt() & Qt::AlignRight; }
 
 /// The heads over their columns, with a sign at the one that sorts.
 class RecordHead : public QHeaderView {
 public:
-    explicit RecordHead(QWidget* parent) : QHeaderView(Qt::Horizontal, parent) {
+    RecordHead(const RecordRoom& room, QWidget* parent)
+        : QHeaderView(Qt::Horizontal, parent), padding_(room.cellPadding) {
         setSectionsClickable(true);
         setHighlightSections(false);
         setSortIndicatorClearable(true);
         setSortIndicator(-1, Qt::AscendingOrder);
-        setFixedHeight(HeadHeight);
+        setFixedHeight(room.headHeight);
     }
 
 protected:
@@ -54,11 +52,13 @@ protected:
         painter->fillRect(line, colour(Role::Line));
         painter->setFont(textFont(TextStyle::CaptionStrong));
         painter->setPen(colour(isHovered(section) ? Role::Text : Role::SecondText));
-        const QString title = model()->headerData(section, Qt::Horizontal).toString();
         const bool right =
             isRightAligned(model()->headerData(section, Qt::Horizontal, Qt::TextAlignmentRole));
-        const QRectF room = inner(area.adjusted(0, 0, 0, -1));
-        const double width = QFontMetricsF(painter->font()).horizontalAdvance(title);
+        const QRectF room = inner(area.adjusted(0, 0, 0, -1), padding_);
+        const QFontMetricsF metrics(painter->font());
+        const QString title = metrics.elidedText(model()->headerData(section, Qt::Horizontal).toString(),
+                                                 Qt::ElideRight, room.width());
+        const double width = metrics.horizontalAdvance(title);
         const double left = right ? room.right() - width : room.left();
         painter->drawText(QPointF(left, centredBaseline(painter->font(), room)), title);
         if (section == sortIndicatorSection())
@@ -75,25 +75,30 @@ private:
         const double top = room.center().y() - SortSign / 2;
         drawIcon(painter, sign, QRectF(left, top, SortSign, SortSign), colour(Role::SecondText));
     }
+
+    int padding_;
 };
 
 /// The text of a cell; its row is painted by the table.
 class RecordCell : public QStyledItemDelegate {
 public:
-    using QStyledItemDelegate::QStyledItemDelegate;
+    explicit RecordCell(RecordTable* table) : QStyledItemDelegate(table), table_(*table) {}
 
     void paint(QPainter* painter, const QStyleOptionViewItem& option,
                const QModelIndex& index) const override {
         const bool selected = option.state & QStyle::State_Selected;
         const QString text = index.data().toString();
-        const QRectF room = inner(option.rect);
-        painter->setFont(textFont(TextStyle::Body));
+        const QRectF room = inner(option.rect, table_.room().cellPadding);
+        painter->setFont(textFont(table_.isMarked(index) ? TextStyle::BodyStrong : TextStyle::Body));
         painter->setPen(colour(selected ? Role::OnAccent : Role::Text));
         if (isRightAligned(index.data(Qt::TextAlignmentRole)))
             return drawNumber(*painter, room, Qt::AlignRight, text);
         const QString fitting = QFontMetricsF(painter->font()).elidedText(text, Qt::ElideRight, room.width());
         painter->drawText(QPointF(room.left(), centredBaseline(painter->font(), room)), fitting);
     }
+
+private:
+    const RecordTable& table_;
 };
 
 /// A text that keeps to its cell when it is pasted into a sheet.
@@ -105,8 +110,9 @@ bool motionIsWelcome(const QWidget& widget) {
 
 }  // namespace
 
-RecordTable::RecordTable(QWidget* parent)
-    : QTableView(parent), records_(new RecordModel(this)), order_(new RecordOrder(*records_, this)) {
+RecordTable::RecordTable(QWidget* parent, const RecordRoom& room)
+    : QTableView(parent), room_(room), records_(new RecordModel(this)),
+      order_(new RecordOrder(*records_, this)) {
     setUpView();
     setUpFlight();
     connect(this, &QTableView::doubleClicked, this, &RecordTable::activate);
@@ -117,7 +123,7 @@ void RecordTable::setUpView() {
     QPalette withoutPlate;
     withoutPlate.setColor(QPalette::Highlight, Qt::transparent);
     setPalette(withoutPlate);
-    setHorizontalHeader(new RecordHead(this));
+    setHorizontalHeader(new RecordHead(room_, this));
     setItemDelegate(new RecordCell(this));
     setModel(order_);
     setFrameShape(NoFrame);
@@ -131,7 +137,7 @@ void RecordTable::setUpView() {
     setSortingEnabled(true);
     verticalHeader()->hide();
     verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
-    verticalHeader()->setDefaultSectionSize(RowHeight);
+    verticalHeader()->setDefaultSectionSize(room_.rowHeight);
 }
 
 void RecordTable::setUpFlight() {
@@ -177,6 +183,13 @@ void RecordTable::setSelectedRows(const QList<int>& rows) {
     const QList<int> selected = selectedRows();
     if (!selected.isEmpty() && !selected.contains(numberOf(currentIndex())))
         selectionModel()->setCurrentIndex(indexOf(selected.first()), QItemSelectionModel::NoUpdate);
+}
+
+void RecordTable::setMarkedRow(int row) {
+    if (row == markedRow_)
+        return;
+    markedRow_ = row;
+    viewport()->update();
 }
 
 /// Positions that follow each other are selected as one range, or many would be slow.
@@ -292,7 +305,7 @@ bool RecordTable::isSelected(int position) const {
 }
 
 QRectF RecordTable::rowArea(int position) const {
-    return QRectF(0, rowViewportPosition(position), viewport()->width(), RowHeight);
+    return QRectF(0, rowViewportPosition(position), viewport()->width(), room_.rowHeight);
 }
 
 void RecordTable::paintRow(QPainter& painter, int position) const {
@@ -301,6 +314,8 @@ void RecordTable::paintRow(QPainter& painter, int position) const {
     const bool isLast = position + 1 == order_->rowCount();
     if (isSelected(position))
         return paintSelectedRow(painter, area, focused);
+    if (isMarked(order_->index(position, 0)))
+        painter.fillRect(area, colour(Role::AccentTint));
     if (!isLast && !isSelected(position + 1))
         painter.fillRect(QRectF(area.left(), area.bottom() - 1, area.width(), 1), colour(Role::Line));
     if (focused)

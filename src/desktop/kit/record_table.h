@@ -13,6 +13,13 @@
 
 namespace lorvane::desktop {
 
+/// How much room rows and texts get.
+struct RecordRoom {
+    int rowHeight = 34;
+    int headHeight = 34;
+    int cellPadding = 14;
+};
+
 class RecordTable : public QTableView {
     Q_OBJECT
 
@@ -20,7 +27,7 @@ public:
     /// Whether a row comes into the table or goes out of it.
     enum class Flight { In, Out };
 
-    explicit RecordTable(QWidget* parent = nullptr);
+    explicit RecordTable(QWidget* parent = nullptr, const RecordRoom& room = {});
 
     /// The columns from left to right. Other columns than before take the sorting back.
     void setColumns(const std::vector<RecordColumn>& columns);
@@ -31,6 +38,10 @@ public:
 
     /// Selects these rows and no others, without a signal. Numbers without a row are left out.
     void setSelectedRows(const QList<int>& rows);
+
+    /// Sets one row off from the others, whatever is selected; below 0 none.
+    void setMarkedRow(int row);
+    bool isMarked(const QModelIndex& index) const { return numberOf(index) == markedRow_; }
 
     /// The selected rows by rising number.
     QList<int> selectedRows() const;
@@ -46,6 +57,9 @@ public:
     /// Puts the selected rows on the clipboard, in the order on the screen, as lines of tabbed texts below
     /// the heads.
     void copySelection() const;
+
+    const RecordRoom& room() const { return room_; }
+    const RecordModel& records() const { return *records_; }
 
 signals:
     /// The user selected other rows; their numbers, rising.
@@ -74,10 +88,12 @@ private:
     QModelIndex indexOf(int row) const;
     int numberOf(const QModelIndex& index) const;
 
+    RecordRoom room_;
     RecordModel* records_;
     RecordOrder* order_;
     QVariantAnimation flight_;
     int flownRow_ = -1;
+    int markedRow_ = -1;
     bool byCode_ = false;
 };
 

@@ -22,6 +22,7 @@ enum class TextStyle {
     CompactTitle,   ///< 17, semibold
     Heading,        ///< 18, semibold
     Title,          ///< 20, semibold
+    ResultWords,    ///< 24, light where the family has a light cut
     Result,         ///< 24, semibold
     Message,        ///< 26, medium
     FigureWords,    ///< 40, light where the family has a light cut

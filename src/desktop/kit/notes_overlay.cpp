@@ -1,0 +1,216 @@
+// Veil, sheet, place and keyboard of the notes.
+#include "desktop/kit/notes_overlay.h"
+
+#include <algorithm>
+
+#include <QApplication>
+#include <QHBoxLayout>
+#include <QKeyEvent>
+#include <QLabel>
+#include <QPainter>
+#include <QScrollArea>
+#include <QVBoxLayout>
+
+#include "desktop/kit/icons.h"
+#include "desktop/kit/painting.h"
+#include "desktop/kit/push_button.h"
+#include "desktop/kit/text_style.h"
+#include "desktop/kit/theme.h"
+
+namespace lorvane::desktop {
+
+namespace {
+
+constexpr int SheetWidth = 520;
+constexpr int Padding = 20;
+constexpr int TextWidth = SheetWidth - 2 * Padding;
+constexpr int SignSize = 36;
+constexpr int SpaceAround = 20;  ///< between the sheet and the ends of what it covers
+constexpr double SheetRadius = 10;
+constexpr float VeilShare = 0.72F;
+constexpr int ParagraphGap = 8;
+
+constexpr int ShadowReach = 30;  ///< at which a blur of 36 is seen no more
+constexpr double ShadowDown = 8;
+constexpr float ShadowShare = 0.02F;  ///< of each of its sheets
+
+/// The close sign in the corner of the sheet.
+class CloseSign : public QAbstractButton {
+public:
+    explicit CloseSign(const QString& name) {
+        setFixedSize(SignSize, SignSize);
+        setAccessibleName(name);
+        setToolTip(name);
+        setAttribute(Qt::WA_Hover);
+    }
+
+protected:
+    void paintEvent(QPaintEvent*) override {
+        QPainter painter(this);
+        const QRectF plate = QRectF(rect()).adjusted(4, 4, -4, -4);
+        if (underMouse())
+            fillPlate(painter, plate, FieldRadius, colour(Role::FieldHover));
+        if (hasFocus())
+            strokePlate(painter, plate, FieldRadius, colour(Role::Accent), RingWidth);
+        drawIcon(painter, Icon::Close, QRectF(rect()).adjusted(10, 10, -10, -10), colour(Role::SecondText));
+    }
+};
+
+/// On a dark ground, where shadows say little, a sheet above others is lighter than they are.
+Role sheetRole() { return Theme::current().isDark() ? Role::Field : Role::Card; }
+
+/// Many faint sheets, each larger than the one above, add up to a soft edge.
+void paintShadow(QPainter& painter, const QRectF& sheet) {
+    QColor faint(Qt::black);
+    faint.setAlphaF(ShadowShare * (Theme::current().isDark() ? 1.6F : 1));
+    for (int grown = 0; grown < ShadowReach; grown += 2) {
+        const double by = grown - ShadowDown;
+        fillPlate(painter, sheet.translated(0, ShadowDown).adjusted(-by, -by, by, by),
+                  std::max(1.0, SheetRadius + by), faint);
+    }
+}
+
+class Sheet : public QWidget {
+public:
+    using QWidget::QWidget;
+
+protected:
+    void paintEvent(QPaintEvent*) override {
+        QPainter painter(this);
+        drawPlate(painter, QRectF(rect()), SheetRadius, colour(sheetRole()), colour(Role::StrongLine));
+    }
+};
+
+QString paragraphs(const QString& text) {
+    QString html;
+    for (const QString& paragraph : text.split(QStringLiteral("\n\n"), Qt::SkipEmptyParts))
+        html +=
+            QStringLiteral("<p style='margin:%1px 0 0 0'>%2</p>")
+                .arg(html.isEmpty() ? 0 : ParagraphGap)
+                .arg(paragraph.trimmed().toHtmlEscaped().replace(QLatin1Char('\n'), QLatin1String("<br>")));
+    return html;
+}
+
+}  // namespace
+
+NotesOverlay::NotesOverlay(QWidget* covered)
+    : QWidget(covered), title_(new QLabel), text_(new QLabel), scroll_(new QScrollArea),
+      button_(plainButton(tr("Close notes"))), sign_(nullptr), sheet_(makeSheet()) {
+    hide();
+    setAttribute(Qt::WA_NoSystemBackground);
+    covered->installEventFilter(this);
+    connect(button_, &PushButton::clicked, this, &NotesOverlay::closeRequested);
+    connect(qApp, &QApplication::focusChanged, this, [this](QWidget*, QWidget* now) { keepFocus(now); });
+}
+
+QWidget* NotesOverlay::makeSheet() {
+    auto* sheet = new Sheet(this);
+    auto* sign = new CloseSign(tr("Close"));
+    sign_ = sign;
+    connect(sign, &QAbstractButton::clicked, this, &NotesOverlay::closeRequested);
+    auto* head = new QHBoxLayout;
+    title_->setFont(textFont(TextStyle::PanelHeading));
+    head->addWidget(title_, 1);
+    head->addWidget(sign);
+    text_->setFont(textFont(TextStyle::Body));
+    text_->setWordWrap(true);
+    text_->setAlignment(Qt::AlignTop);
+    text_->setFixedWidth(TextWidth);
+    scroll_->setWidget(text_);
+    scroll_->setFrameShape(QFrame::NoFrame);
+    scroll_->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    scroll_->setFocusPolicy(Qt::NoFocus);
+    for (QWidget* part : {static_cast<QWidget*>(scroll_), scroll_->viewport(), static_cast<QWidget*>(text_)})
+        part->setAutoFillBackground(false);
+    auto* box = new QVBoxLayout(sheet);
+    box->setContentsMargins(Padding, 11, Padding, Padding - 1);
+    box->setSpacing(0);
+    box->addLayout(head);
+    box->addSpacing(6);
+    box->addWidget(scroll_);
+    box->addSpacing(15);
+    box->addWidget(button_, 0, Qt::AlignRight);
+    sheet->setFixedWidth(SheetWidth);
+    return sheet;
+}
+
+void NotesOverlay::setNotes(const QString& title, const QString& text) {
+    title_->setText(title);
+    setAccessibleName(title);
+    text_->setText(paragraphs(text));
+    arrange();
+}
+
+void NotesOverlay::setButton(const QString& words) { button_->setText(words); }
+
+/// The sheet stands in the middle; notes longer than the window scroll within it.
+void NotesOverlay::arrange() {
+    setGeometry(parentWidget()->rect());
+    text_->setFixedHeight(text_->heightForWidth(TextWidth));
+    scroll_->setFixedHeight(0);
+    const int frame = sheet_->sizeHint().height();
+    scroll_->setFixedHeight(std::clamp(height() - 2 * SpaceAround - frame, 60, text_->height()));
+    sheet_->adjustSize();
+    sheet_->move((width() - sheet_->width()) / 2, std::max(0, (height() - sheet_->height()) / 2));
+    update();
+}
+
+// Keyboard -------------------------------------------------------------------------------------------------
+
+/// Whatever else is given the keyboard in this window gives it back.
+void NotesOverlay::keepFocus(QWidget* now) {
+    if (isVisible() && now != nullptr && now->window() == window() && !isAncestorOf(now))
+        button_->setFocus();
+}
+
+bool NotesOverlay::focusNextPrevChild(bool) {
+    QWidget* other = button_->hasFocus() ? sign_ : button_;
+    other->setFocus(Qt::TabFocusReason);
+    return true;
+}
+
+/// Escape belongs to the notes before it is a shortcut of the window.
+bool NotesOverlay::event(QEvent* event) {
+    if (event->type() == QEvent::ShortcutOverride &&
+        static_cast<QKeyEvent*>(event)->key() == Qt::Key_Escape) {
+        event->accept();
+        return true;
+    }
+    return QWidget::event(event);
+}
+
+void NotesOverlay::keyPressEvent(QKeyEvent* event) {
+    const int keys[] = {Qt::Key_Escape, Qt::Key_Return, Qt::Key_Enter};
+    if (std::find(std::begin(keys), std::end(keys), event->key()) != std::end(keys))
+        emit closeRequested();
+}
+
+void NotesOverlay::mousePressEvent(QMouseEvent*) {}
+
+bool NotesOverlay::eventFilter(QObject*, QEvent* event) {
+    if (event->type() == QEvent::Resize && isVisible())
+        arrange();
+    return false;
+}
+
+void NotesOverlay::showEvent(QShowEvent*) {
+    before_ = window()->focusWidget();
+    raise();
+    arrange();
+    button_->setFocus();
+}
+
+void NotesOverlay::hideEvent(QHideEvent*) {
+    if (before_ != nullptr && before_->isVisible() && !isAncestorOf(before_))
+        before_->setFocus();
+}
+
+void NotesOverlay::paintEvent(QPaintEvent*) {
+    QPainter painter(this);
+    QColor veil = colour(Role::Page);
+    veil.setAlphaF(VeilShare);
+    painter.fillRect(rect(), veil);
+    paintShadow(painter, QRectF(sheet_->geometry()));
+}
+
+}  // namespace lorvane::desktop
