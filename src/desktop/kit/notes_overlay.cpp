@@ -2,6 +2,7 @@
 #include "desktop/kit/notes_overlay.h"
 
 #include <algorithm>
+#include <cmath>
 
 #include <QApplication>
 #include <QHBoxLayout>
@@ -30,9 +31,11 @@ constexpr double SheetRadius = 10;
 constexpr float VeilShare = 0.72F;
 constexpr int ParagraphGap = 8;
 
-constexpr int ShadowReach = 30;  ///< at which a blur of 36 is seen no more
+constexpr QRgb Shadow = qRgb(10, 16, 40);
+constexpr double ShadowShare = 0.32;
 constexpr double ShadowDown = 8;
-constexpr float ShadowShare = 0.02F;  ///< of each of its sheets
+constexpr int ShadowReach = 18;  ///< half the blur, to both sides of the edge
+constexpr int ShadowStep = 2;
 
 /// The close sign in the corner of the sheet.
 class CloseSign : public QAbstractButton {
@@ -59,12 +62,13 @@ protected:
 /// On a dark ground, where shadows say little, a sheet above others is lighter than they are.
 Role sheetRole() { return Theme::current().isDark() ? Role::Field : Role::Card; }
 
-/// Many faint sheets, each larger than the one above, add up to a soft edge.
+/// Faint sheets, each smaller than the one below and strongest about the edge, add up to a soft shadow.
 void paintShadow(QPainter& painter, const QRectF& sheet) {
-    QColor faint(Qt::black);
-    faint.setAlphaF(ShadowShare * (Theme::current().isDark() ? 1.6F : 1));
-    for (int grown = 0; grown < ShadowReach; grown += 2) {
-        const double by = grown - ShadowDown;
+    constexpr double Spread = ShadowReach / 2.0;
+    constexpr double Peak = ShadowShare * ShadowStep * 0.3989 / Spread;
+    QColor faint(Shadow);
+    for (int by = ShadowReach; by >= -ShadowReach; by -= ShadowStep) {
+        faint.setAlphaF(static_cast<float>(Peak * std::exp(-by * by / (2 * Spread * Spread))));
         fillPlate(painter, sheet.translated(0, ShadowDown).adjusted(-by, -by, by, by),
                   std::max(1.0, SheetRadius + by), faint);
     }
@@ -138,7 +142,8 @@ void NotesOverlay::setNotes(const QString& title, const QString& text) {
     title_->setText(title);
     setAccessibleName(title);
     text_->setText(paragraphs(text));
-    arrange();
+    if (isVisible())
+        arrange();
 }
 
 void NotesOverlay::setButton(const QString& words) { button_->setText(words); }

@@ -54,6 +54,17 @@ QLineEdit:disabled { color: @quiet; border-color: @line; }
 QLineEdit[problem="true"] { background: @problemTint; border: 2px solid @problemOutline; padding: 0 9px;
             min-height: 28px; }
 
+QScrollBar { background: transparent; border: none; }
+QScrollBar:vertical { width: 14px; }
+QScrollBar:horizontal { height: 14px; }
+QScrollBar::handle { background: @strongLine; border-radius: 4px; margin: 3px; }
+QScrollBar::handle:vertical { min-height: 24px; }
+QScrollBar::handle:horizontal { min-width: 24px; }
+QScrollBar::handle:hover { background: @quiet; }
+QScrollBar::add-line, QScrollBar::sub-line { width: 0; height: 0; }
+QAbstractScrollArea::corner { background: transparent; border: none; }
+QScrollBar::add-page, QScrollBar::sub-page { background: transparent; }
+
 QTabWidget::pane { border: none; border-top: 1px solid @line; }
 QTabBar { qproperty-drawBase: 0; }
 QTabBar::tab { background: transparent; color: @secondText; border: none; border-bottom: 2px solid transparent;

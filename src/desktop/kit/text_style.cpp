@@ -19,11 +19,13 @@ struct Values {
 
 /// In the order of TextStyle.
 constexpr std::array<Values, 19> Table = {{
-    {11, QFont::Normal},       {12, QFont::Normal},      {12, QFont::Medium},         {13, QFont::Normal},
-    {13, QFont::Medium},       {13, QFont::DemiBold},    {13.5, QFont::Normal},       {14, QFont::DemiBold},
-    {15, QFont::DemiBold},     {17, QFont::DemiBold},    {17, QFont::Medium},         {17, QFont::DemiBold},
-    {18, QFont::DemiBold},     {20, QFont::DemiBold},    {24, QFont::Light},          {24, QFont::DemiBold},
-    {26, QFont::Medium, true}, {40, QFont::Light, true}, {40, QFont::DemiBold, true},
+    {11, QFont::Normal},         {12, QFont::Normal},       {12, QFont::Medium},
+    {13, QFont::Normal},         {13, QFont::Medium},       {13, QFont::DemiBold},
+    {13.5, QFont::Normal},       {14, QFont::DemiBold},     {15, QFont::DemiBold},
+    {17, QFont::DemiBold},       {17, QFont::Medium},       {17, QFont::DemiBold},
+    {18, QFont::DemiBold},       {20, QFont::DemiBold},     {24, QFont::Light, true},
+    {24, QFont::DemiBold, true}, {26, QFont::Medium, true}, {40, QFont::Light, true},
+    {40, QFont::DemiBold, true},
 }};
 
 constexpr double PointsPerPixel = 0.75;

@@ -38,6 +38,7 @@ constexpr double WayLine = 1.25;
 constexpr float WayShare = 0.45F;
 constexpr double BestAside = 9;
 constexpr double BestBelow = 18;
+constexpr double BestRoom = 0.15;  ///< of the range of costs, below the cheapest
 constexpr double BestAbove = 10;
 
 QColor way() {
@@ -87,7 +88,8 @@ void TrialPlot::measure() {
     const auto [cheap, dear] = std::minmax_element(points.begin(), points.end(), byCost);
     lowSize_ = narrow->size;
     highSize_ = wide->size;
-    costs_ = fiveSteps(cheap->cost, dear->cost);
+    const double room = BestRoom * (dear->cost - cheap->cost);
+    costs_ = fiveSteps(std::max(0.0, cheap->cost - room), dear->cost);
 }
 
 void TrialPlot::setContent(const TrialPlotContent& content) {
@@ -205,7 +207,9 @@ void TrialPlot::paintBest(QPainter& painter) const {
     painter.setPen(QPen(colour(Role::Treated), RingLine));
     painter.setBrush(colour(Role::Card));
     painter.drawEllipse(place, RingSize / 2, RingSize / 2);
-    painter.setFont(textFont(TextStyle::CaptionStrong));
+    QFont strong = textFont(TextStyle::CaptionStrong);
+    strong.setWeight(QFont::DemiBold);
+    painter.setFont(strong);
     painter.setPen(colour(Role::Text));
     const double width = QFontMetricsF(painter.font()).horizontalAdvance(content_.bestLabel);
     const bool right = place.x() + BestAside + width <= field().right() + Right;

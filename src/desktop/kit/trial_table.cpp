@@ -3,6 +3,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <numeric>
 
 #include <QFontMetricsF>
 #include <QHeaderView>
@@ -16,24 +17,34 @@ namespace lorvane::desktop {
 
 namespace {
 
-constexpr RecordRoom Room{30, 37, 9};
-constexpr double WidestHead = 72;  ///< longer heads are cut, or few columns would fill the table
+constexpr RecordRoom Room{30, 33, 7};
+/// Longer heads are cut, and even shorter ones where the table would be too wide.
+constexpr double WidestHead = 72;
+constexpr double NarrowHead = 44;
 
-double widestText(const RecordModel& records, int column) {
+int widthOf(const RecordModel& records, int column, double widestHead) {
     const QString& title = records.columns()[static_cast<std::size_t>(column)].title;
     double widest =
-        std::min(WidestHead, QFontMetricsF(textFont(TextStyle::CaptionStrong)).horizontalAdvance(title));
+        std::min(widestHead, QFontMetricsF(textFont(TextStyle::CaptionStrong)).horizontalAdvance(title));
     const QFont font = textFont(TextStyle::BodyStrong);
     for (int row = 0; row < records.rowCount(); ++row)
         widest = std::max(widest, numberWidth(font, records.text(row, column)));
-    return std::ceil(widest);
+    return static_cast<int>(std::ceil(widest)) + 2 * Room.cellPadding;
+}
+
+std::vector<int> widthsOf(const RecordModel& records, double widestHead) {
+    std::vector<int> widths;
+    for (int i = 0; i < records.columnCount(); ++i)
+        widths.push_back(widthOf(records, i, widestHead));
+    return widths;
 }
 
 }  // namespace
 
 TrialTable::TrialTable(QWidget* parent) : Card(CardTone::Plain, parent), table_(new RecordTable(this, Room)) {
     auto* box = new QVBoxLayout(this);
-    box->setContentsMargins(2, 1, 2, 5);
+    // Within the round corners of the card.
+    box->setContentsMargins(2, 5, 2, 5);
     box->addWidget(table_);
     table_->horizontalHeader()->setMinimumSectionSize(0);
     table_->setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOn);
@@ -43,23 +54,27 @@ void TrialTable::setTrials(const QStringList& heads, const std::vector<QStringLi
     std::vector<RecordColumn> columns;
     for (const QString& head : heads)
         columns.push_back({head, 0, true, false});
+    const bool anew = rows != table_->records().rows();
     table_->setColumns(columns);
     table_->setRows(rows);
     table_->setMarkedRow(marked);
     fitColumns();
+    if (anew)
+        table_->bringIntoView(marked);
 }
 
 /// Spare width is shared alike.
 void TrialTable::fitColumns() {
-    const RecordModel& records = table_->records();
-    std::vector<int> widths;
-    int spare = table_->viewport()->width();
-    for (int i = 0; i < records.columnCount(); ++i) {
-        widths.push_back(static_cast<int>(widestText(records, i)) + 2 * Room.cellPadding);
-        spare -= widths.back();
-    }
-    for (int i = 0; i < records.columnCount(); ++i) {
-        const int share = std::max(0, spare) / (records.columnCount() - i);
+    const auto spareBeside = [this](const std::vector<int>& widths) {
+        return table_->viewport()->width() - std::accumulate(widths.begin(), widths.end(), 0);
+    };
+    std::vector<int> widths = widthsOf(table_->records(), WidestHead);
+    if (spareBeside(widths) < 0)
+        widths = widthsOf(table_->records(), NarrowHead);
+    int spare = std::max(0, spareBeside(widths));
+    int left = static_cast<int>(widths.size());
+    for (int i = 0; i < static_cast<int>(widths.size()); ++i, --left) {
+        const int share = spare / left;
         table_->horizontalHeader()->resizeSection(i, widths[static_cast<std::size_t>(i)] + share);
         spare -= share;
     }

@@ -12,7 +12,7 @@ class TrialTable : public Card {
 public:
     explicit TrialTable(QWidget* parent = nullptr);
 
-    /// Heads, rows of numbers below them, and the row that is marked.
+    /// Heads, rows of numbers below them, and the row that is marked, which is seen when rows are new.
     void setTrials(const QStringList& heads, const std::vector<QStringList>& rows, int marked);
 
     RecordTable* table() const { return table_; }
