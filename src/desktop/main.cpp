@@ -6,6 +6,7 @@
 #include "app/application.h"
 #include "desktop/crash_guard.h"
 #include "desktop/desk.h"
+#include "desktop/desk_progress.h"
 #include "desktop/kit/logo.h"
 #include "desktop/kit/theme.h"
 #include "desktop/main_window.h"
@@ -35,8 +36,9 @@ int main(int argc, char** argv) {
     QtFileDialogs dialogs;
     QtSettingsStore settings;
     UnsavedFolder unsaved(userStateFolder());
+    desktop::DeskProgress progress;
     Application application(
-        {distributions, locale, files, messages, dialogs, settings, programFolder(), &unsaved});
+        {distributions, locale, files, messages, dialogs, settings, programFolder(), &unsaved, &progress});
     desktop::Desk desk(application, messages);
     desktop::MainWindow window(desk);
     desktop::Panels panels(desk, window);
@@ -44,6 +46,7 @@ int main(int argc, char** argv) {
     messages.beforeShowing([&panels] { panels.follow(); });
     dialogs.setOwner(&window);
     dialogs.beforeShowing([&panels] { panels.follow(); });
+    progress.setRedraw([&panels] { panels.follow(); });
     desktop::CrashGuard guard(desk, unsaved);
     window.show();
     desk.start(argc > 1 ? QFileInfo(QFile::decodeName(argv[1])).absoluteFilePath() : QString());

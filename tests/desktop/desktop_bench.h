@@ -8,9 +8,11 @@
 #include <QCloseEvent>
 #include <QLineEdit>
 #include <QTest>
+#include <QThread>
 #include <QWindow>
 #include <functional>
 
+#include "desktop/desk_progress.h"
 #include "desktop/kit/figure_card.h"
 #include "desktop/kit/value_cell.h"
 #include "desktop/main_window.h"
@@ -29,6 +31,16 @@ struct WatchedMessageBoxes final : MessageBoxes {
     }
     ScriptedDialogs scripted;
     std::function<void()> beforeShowing = [] {};
+};
+
+/// A search that takes its time between two looks.
+struct SlowProgress final : Progress {
+    bool goOn() override {
+        QThread::msleep(pause);
+        return inner.goOn();
+    }
+    DeskProgress inner;
+    unsigned long pause = 0;  ///< milliseconds
 };
 
 class DesktopBench : public testing::Test {
@@ -96,8 +108,9 @@ protected:
     DiskFileStore files;
     WatchedMessageBoxes messages;
     MemorySettings settings;
-    Application application{
-        {distributions, locale, files, messages, messages.scripted, settings, "/program"}};
+    SlowProgress progress;
+    Application application{{distributions, locale, files, messages, messages.scripted, settings, "/program",
+                             nullptr, &progress}};
     Desk desk{application, messages};
     MainWindow window{desk};
     Panels panels{desk, window};
