@@ -11,6 +11,7 @@
 #include "desktop/kit/text_style.h"
 #include "desktop/kit/theme.h"
 #include "desktop/menus.h"
+#include "desktop/role_word.h"
 #include "screen/tool_table.h"
 
 namespace lorvane::desktop {
@@ -64,11 +65,6 @@ LevelRail::Stop stopOf(const Study& s, int level) {
     if (level == s.RandomizedLevel)
         return LevelRail::Stop::Randomized;
     return s.isBlocked(level) ? LevelRail::Stop::Blocked : LevelRail::Stop::Nested;
-}
-
-// "(Blocked)" without its brackets.
-QString roleWord(const std::string& role) {
-    return role.size() > 2 ? shownText(role.substr(1, role.size() - 2)) : QString();
 }
 
 // The level of a panel's name, the stem and the index apart.

@@ -10,6 +10,7 @@
 #include "desktop/main_window.h"
 #include "desktop/mdes_view.h"
 #include "desktop/message_views.h"
+#include "desktop/optimal_view.h"
 #include "desktop/scenario_view.h"
 #include "desktop/start_view.h"
 #include "desktop/table_view.h"
@@ -89,6 +90,7 @@ Panels::Panels(Desk& desk, MainWindow& window) : desk_(desk), window_(window) {
     add<ScenarioView>(0.5, 0.45);
     add<MdesView>(centred, centred);
     add<StartView>(centred, centred);
+    add<OptimalView>(centred, 0.15, window_.menus());
     for (DialogModel& model : dialogModels(desk))
         add<DialogView>(centred, centred, std::move(model));
     connect(&desk_, &Desk::shown, this, &Panels::follow);

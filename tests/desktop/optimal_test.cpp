@@ -1,0 +1,137 @@
+// The optimal design wizard as a person uses it.
+#include <QHeaderView>
+#include <QRadioButton>
+
+#include "base/number_text.h"
+#include "desktop/kit/entry_cell.h"
+#include "desktop/kit/notes_overlay.h"
+#include "desktop/kit/push_button.h"
+#include "desktop/kit/result_band.h"
+#include "desktop/kit/trial_plot.h"
+#include "desktop/kit/trial_table.h"
+#include "desktop_bench.h"
+
+namespace lorvane::desktop {
+namespace {
+
+class Wizard : public DesktopBench {
+protected:
+    void SetUp() override {
+        DesktopBench::SetUp();
+        progress.inner.setRedraw([this] { whenRedrawn(); });
+        application.open(LORVANE_TEST_DATA "/../../assets/examples/schools.Lorvane");
+        tool("gfrmOptimal");
+        ASSERT_TRUE(isShown("frmOptimal"));
+        panel("frmOptimal").activateWindow();
+        settle();
+    }
+
+    template <typename Widget>
+    Widget& part(const char* name = "") {
+        return *panel("frmOptimal").findChild<Widget*>(QString::fromLatin1(name));
+    }
+    const OptimalWindow& model() const { return application.optimalWindow(); }
+    void click(const char* radio) {
+        auto& button = part<QRadioButton>(radio);
+        DesktopBench::click(button, button.mapTo(button.window(), QPoint(10, button.height() / 2)));
+    }
+    EntryCell& students() { return part<EntryCell>("frmOptimal.txtNumReps(1)"); }
+    void pushArrow(int direction) { DesktopBench::click(students(), arrow(students(), direction)); }
+    /// The first key opens the cell, the others go into it.
+    void typeSize(std::initializer_list<Qt::Key> keys) {
+        students().setFocus();
+        for (const Qt::Key typed : keys)
+            key(typed);
+    }
+
+    std::function<void()> whenRedrawn = [this] { panels.follow(); };
+};
+
+TEST_F(Wizard, RunsAndPastesByTheKeyboardAlone) {
+    EXPECT_FALSE(part<TrialPlot>().isVisible());
+    key(Qt::Key_Return);
+    ASSERT_NE(model().result(), nullptr);
+    ASSERT_TRUE(part<NotesOverlay>().isVisible());
+    EXPECT_TRUE(part<TrialPlot>().isVisible());
+    const OptimalResult& result = *model().result();
+    const QAbstractItemModel& rows = *part<TrialTable>().table()->model();
+    ASSERT_EQ(rows.rowCount(), static_cast<int>(result.trials.size()));
+    const int best = static_cast<int>(result.best);
+    EXPECT_TRUE(part<TrialTable>().table()->isMarked(rows.index(best, 0)));
+    for (const int level : {3, 2, 1})
+        EXPECT_EQ(rows.index(best, 3 - level).data().toString(),
+                  model().row(level).OptimalpnlNT.Caption.c_str());
+    const auto& band = std::get<BandFigure>(part<ResultBand>().content());
+    EXPECT_EQ(band.words + band.number, QString::fromStdString(model().pnlOptimalCost().Caption));
+    const LevelSizes sizes = result.cheapest().sizes;
+
+    key(Qt::Key_Escape);
+    EXPECT_FALSE(part<NotesOverlay>().isVisible());
+    ASSERT_TRUE(isShown("frmOptimal"));
+    key(Qt::Key_Return);
+    for (const int level : {1, 2, 3})
+        EXPECT_EQ(study().txtNT(level), sizes(level)) << level;
+    key(Qt::Key_Return);
+    EXPECT_FALSE(isShown("frmOptimal")) << "after Paste comes Close";
+}
+
+TEST_F(Wizard, OptionsArrowsAndTypedSizesReachTheProgram) {
+    EXPECT_FALSE(students().isVisible());
+    click("frmOptimal.optManual(1)");
+    EXPECT_TRUE(model().row(1).optManual.Value);
+    ASSERT_TRUE(students().isVisible());
+    const double size = model().row(1).txtNumReps;
+    pushArrow(1);
+    EXPECT_EQ(model().row(1).txtNumReps, size + 1);
+    EXPECT_EQ(students().text().toStdString(), shortestText(size + 1));
+    pushArrow(-1);
+    EXPECT_EQ(model().row(1).txtNumReps, size);
+    typeSize({Qt::Key_3, Qt::Key_7, Qt::Key_Return});
+    EXPECT_EQ(model().row(1).txtNumReps, 37);
+    EXPECT_TRUE(students().hasFocus());
+    messages.scripted.queue(Answer::OK);
+    int told = 0;
+    messages.beforeShowing = [&] { ++told; };
+    typeSize({Qt::Key_0, Qt::Key_Return});
+    EXPECT_EQ(told, 1) << "beyond the limits";
+    typeSize({Qt::Key_5, Qt::Key_X, Qt::Key_Return});
+    EXPECT_EQ(model().row(1).txtNumReps, 37);
+    typeSize({Qt::Key_4, Qt::Key_Escape});
+    EXPECT_EQ(model().row(1).txtNumReps, 37);
+    ASSERT_TRUE(isShown("frmOptimal")) << "Escape has left the number only";
+    click("frmOptimal.optAuto(1)");
+    EXPECT_TRUE(model().row(1).optAuto.Value);
+    key(Qt::Key_Escape);
+    EXPECT_FALSE(isShown("frmOptimal"));
+}
+
+TEST_F(Wizard, ALongSearchIsWatchedAndStopped) {
+    const double size = study().txtNT(1);
+    const double power = study().result.txtPower;
+    QStringList texts;
+    progress.pause = 15;
+    whenRedrawn = [&] {
+        panels.follow();
+        texts << std::get<BandText>(part<ResultBand>().content()).text;
+        auto* click = new QMouseEvent(QEvent::MouseButtonPress, arrow(cell("pnlNB(3)"), 1), QPointF(),
+                                      Qt::LeftButton, Qt::LeftButton, {});
+        QCoreApplication::postEvent(window.windowHandle(), click);
+        const int button = texts.size() < 4 ? Qt::Key_A : Qt::Key_Escape;
+        QCoreApplication::postEvent(panel("frmOptimal").windowHandle(),
+                                    new QKeyEvent(QEvent::KeyPress, button, Qt::NoModifier));
+    };
+    key(Qt::Key_Return);
+    ASSERT_EQ(texts.size(), 4) << "stopped at once";
+    EXPECT_GT(texts.last().size(), texts.first().size()) << "it tells that it goes on";
+    EXPECT_EQ(model().result(), nullptr);
+    EXPECT_TRUE(part<PushButton>("frmOptimal.cmdOpt(2)").hasFocus());
+    EXPECT_EQ(study().txtNT(1), size);
+    EXPECT_EQ(study().result.txtPower, power);
+    ASSERT_TRUE(isShown("frmOptimal"));
+    progress.pause = 0;
+    key(Qt::Key_Return);
+    EXPECT_NE(model().result(), nullptr) << "and can be started again";
+}
+
+}  // namespace
+}  // namespace lorvane::desktop
