@@ -75,8 +75,9 @@ void MdesWindow::refresh() {
 }
 
 void MdesWindow::computeEffect() {
+    // A script may press the button where nobody has opened the panel.
     if (!isOpen())
-        return;
+        design_.SynchForms(WindowId::frmMDES, WindowAction::open);
     Study& s = design_.study();
     const WhileComputing computing(computing_);
     show(State::problem, {problemLines[0], problemLines[1]});

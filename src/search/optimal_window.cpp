@@ -170,9 +170,9 @@ void OptimalWindow::registerButtons(EventRegistry& events) {
         });
     };
     onButton(resetButton, &OptimalWindow::ReDisplayOptimal);
-    onButton(computeButton, &OptimalWindow::ComputeOptimalDesign);
     onButton(pasteButton, &OptimalWindow::paste);
     onButton(closeButton, &OptimalWindow::close);
+    events.onClick(indexedName("frmOptimal.cmdOpt", computeButton), [this] { pressCompute(); });
     events.onClose("frmOptimal", [this] { close(); });
     events.onClick("frmOptimal.cmdAdjustClose", [this] { pnlAdjustOuter_.Visible = false; });
 }
@@ -189,6 +189,16 @@ void OptimalWindow::open() {
     DisplayOptimalOptions();
     design_.SynchForms(WindowId::frmOptimal, WindowAction::open);
     ReDisplayOptimal();
+}
+
+// A script may press Compute where nobody has opened the wizard: it opens with the options as they were set.
+void OptimalWindow::pressCompute() {
+    if (!isOpen()) {
+        design_.SynchForms(WindowId::frmOptimal, WindowAction::open);
+        ReDisplayOptimal();
+    }
+    if (cmdOpt_(computeButton).Visible)
+        ComputeOptimalDesign();
 }
 
 // With all lower levels as the study has them only the number of top units is searched for.

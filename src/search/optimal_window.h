@@ -82,6 +82,7 @@ private:
     void registerButtons(EventRegistry& events);
     void open();
     void openAndCompute(bool byHand);
+    void pressCompute();
     void close();
     void choose(int level, bool manual);
     void spin(int level, int direction);
