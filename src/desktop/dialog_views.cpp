@@ -235,7 +235,6 @@ void DialogView::sync() {
     }
     wasOpen_ = isOpen();
     if (opened && !fields_.empty()) {
-        panel()->activateWindow();
         for (FieldView& view : fields_) {
             if (view.field->isHidden())
                 continue;

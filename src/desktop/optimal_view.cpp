@@ -413,7 +413,6 @@ void OptimalView::sync() {
     wasOpen_ = isOpen();
     if (!opened)
         return;
-    panel()->activateWindow();
     buttons_.at(model().primaryButton())->setFocus();
 }
 

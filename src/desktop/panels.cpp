@@ -60,8 +60,12 @@ void PanelView::follow() {
                                                    at(y_, screen.height(), room.height())));
     }
     panel_->setVisible(open);
-    if (open)
-        sync();
+    if (!open)
+        return;
+    sync();
+    // A window that is there to be answered takes the keyboard.
+    if (!panel_->testAttribute(Qt::WA_ShowWithoutActivating))
+        panel_->activateWindow();
 }
 
 template <typename View, typename... More>

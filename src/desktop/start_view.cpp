@@ -69,7 +69,6 @@ void StartView::sync() {
     wasOpen_ = isOpen();
     if (!opened)
         return;
-    panel()->activateWindow();
     page_->setFocus();
 }
 

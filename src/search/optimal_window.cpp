@@ -363,10 +363,18 @@ void OptimalWindow::ComputeOptimalDesign() {
                     "The program has encountered a problem in trying to find the optimal design.");
     // The refresh takes some of the flags back that tell why the search cannot run.
     const std::vector<ReadinessProblem> problems = readinessProblems(design_.study());
-    design_.DoRefresh(true);
+    refreshUnchanged();
     for (int level = lowestLevel; level <= highestLevel; ++level)
         writeRow(level);
     show(options, problems);
+}
+
+// The study is as it was before the run, also as far as the disk is concerned.
+void OptimalWindow::refreshUnchanged() {
+    const bool asSaved = design_.isAsSaved();
+    design_.DoRefresh(true);
+    if (asSaved)
+        design_.noteAsSaved();
 }
 
 void OptimalWindow::show(const OptimalOptions& options, const std::vector<ReadinessProblem>& problems) {

@@ -93,6 +93,7 @@ private:
     void showButtons(bool reset, bool compute, bool paste, bool close);
     OptimalOptions options() const;
     double requiredPower() const;
+    void refreshUnchanged();
     void show(const OptimalOptions& options, const std::vector<ReadinessProblem>& problems);
     void showFound(const OptimalOptions& options);
     void showSizes();
