@@ -38,6 +38,7 @@ std::vector<std::string> picturesIn(const std::string& folder) {
     }
     std::sort(found.rbegin(), found.rend());
     std::vector<std::string> stems;
+    stems.reserve(found.size());
     for (auto& [time, stem] : found)
         stems.push_back(std::move(stem));
     return stems;

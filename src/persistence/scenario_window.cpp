@@ -171,6 +171,7 @@ void ScenarioWindow::ScenariosDelete() {
         return;
     const std::vector<std::size_t> blocks = grid_.listedBlocks();
     std::vector<std::size_t> bases;
+    bases.reserve(selected.size());
     for (const std::size_t row : selected)
         bases.push_back(blocks[row - 1]);
     grid_.removeBlocks(bases);
