@@ -107,6 +107,9 @@ NotesOverlay::NotesOverlay(QWidget* covered)
     connect(qApp, &QApplication::focusChanged, this, [this](QWidget*, QWidget* now) { keepFocus(now); });
 }
 
+// The buttons go after the overlay itself, and one with the keyboard says so.
+NotesOverlay::~NotesOverlay() { disconnect(qApp, nullptr, this, nullptr); }
+
 QWidget* NotesOverlay::makeSheet() {
     auto* sheet = new Sheet(this);
     auto* sign = new CloseSign(tr("Close"));

@@ -18,6 +18,7 @@ class NotesOverlay : public QWidget {
 
 public:
     explicit NotesOverlay(QWidget* covered);
+    ~NotesOverlay() override;
 
     /// The title and the paragraphs, parted by empty lines.
     void setNotes(const QString& title, const QString& text);
