@@ -46,6 +46,7 @@ isAnswered() {
 }
 
 # Same study, currency and colours on every machine, nothing of the user's; a display number that is free.
+export LSAN_OPTIONS="suppressions=$(dirname "$0")/leaks.txt"
 export XDG_CONFIG_HOME="$scratch/config" XDG_STATE_HOME="$scratch/state"
 export LC_ALL=C.UTF-8 QT_QPA_PLATFORM=xcb XDG_RUNTIME_DIR="$scratch"
 Xvfb -displayfd 3 -screen 0 1280x800x24 -nolisten tcp 3>"$scratch/display" 2>"$scratch/server.log" &
