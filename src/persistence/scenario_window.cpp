@@ -47,6 +47,7 @@ void ScenarioWindow::registerEvents(EventRegistry& events) {
     const auto open = [this] { design_.SynchForms(WindowId::frmScenarios, WindowAction::open); };
     const auto close = [this] { design_.SynchForms(WindowId::frmScenarios, WindowAction::unload); };
     events.onTool("gfrmScenarios", open);
+    events.onTool("Show scenarios", open);
     events.onTool("Add scenario", [this] { ScenariosAdd(); });
     events.onTool("Restore scenario", [this] { ScenariosRestore(); });
     events.onClick("frmScenarios.cmdScenarios(0)", [this] { ScenariosAdd(); });

@@ -105,9 +105,13 @@ constexpr ToolRow toolRows[] = {
      "Keep the searches from low cell counts", choice},
     // Windows
     {"gfrmScenarios", "&Scenarios", "Open the table of scenarios", window},
+    {"Show scenarios", "&Show scenarios", "Open the table of scenarios", window},
     {"Add scenario", "&Add scenario", "Keep the study as a scenario", command},
     {"Restore scenario", "&Restore scenario", "Put the selected scenario on the screen", command},
     {"gfrmOptimal", "&Optimal design", "Find the cheapest design for a required power", window},
+    {"Find optimal n per cluster", "Find optimal &n per cluster",
+     "Find the cheapest design, all sizes left to the search", command},
+    {"Find M", "&Find the number of clusters", "Find the number of top units, all other sizes kept", command},
     {"gfrmMDES", "&MDES", "Find the smallest effect that can be detected", window},
     {"gfrmPrint", "&Report", "Make a report", window},
     {"Graph", "&Graph", "Draw power and cost as a graph", window},
