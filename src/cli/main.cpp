@@ -27,14 +27,16 @@ struct Requests {
     std::string driven;
 };
 
-constexpr const char* setHelp = "Give a field or a design choice a value; may be repeated";
+void addSettings(CLI::App* command, std::vector<std::string>& settings) {
+    command->add_option("--set", settings, "Give a field or a design choice a value; may be repeated")
+        ->type_name("FIELD=VALUE")
+        ->allow_extra_args(false);
+}
 
 void addPower(CLI::App& cli, PowerRequest& request) {
     CLI::App* command = cli.add_subcommand("power", "Power and cost of a study");
     command->add_option("STUDY", request.study, "Study file")->required();
-    command->add_option("--set", request.settings, setHelp)
-        ->type_name("FIELD=VALUE")
-        ->allow_extra_args(false);
+    addSettings(command, request.settings);
     command->add_option("--scenario", request.scenario, "Answer for this scenario of the file")
         ->type_name("NAME");
     command->add_flag("--json", request.json, "Answer with one JSON object");
@@ -54,9 +56,7 @@ void addOptimal(CLI::App& cli, OptimalRequest& request) {
         ->allow_extra_args(false);
     command->add_option("--iterations", request.iterations, "Larger top levels to try: 5, 10, 20 or 30")
         ->type_name("K");
-    command->add_option("--set", request.settings, setHelp)
-        ->type_name("FIELD=VALUE")
-        ->allow_extra_args(false);
+    addSettings(command, request.settings);
     command->add_option("--out", request.out, "Save the study with the sizes found")->type_name("NEW");
     command->add_flag("--json", request.json, "Answer with one JSON object");
     command->footer(
@@ -68,9 +68,7 @@ void addMdes(CLI::App& cli, MdesRequest& request) {
     command->add_option("STUDY", request.study, "Study file")->required();
     command->add_option("--power", request.power, "Required power; the study's own where it is not given")
         ->type_name("P");
-    command->add_option("--set", request.settings, setHelp)
-        ->type_name("FIELD=VALUE")
-        ->allow_extra_args(false);
+    addSettings(command, request.settings);
     command->add_flag("--json", request.json, "Answer with one JSON object");
     command->footer("Example:\n  lorvane-cli mdes schools.Lorvane --power 0.9");
 }
@@ -78,9 +76,7 @@ void addMdes(CLI::App& cli, MdesRequest& request) {
 void addNew(CLI::App& cli, NewRequest& request) {
     CLI::App* command = cli.add_subcommand("new", "A study file from the start values");
     command->add_option("--out", request.out, "Study file to write")->required()->type_name("STUDY");
-    command->add_option("--set", request.settings, setHelp)
-        ->type_name("FIELD=VALUE")
-        ->allow_extra_args(false);
+    addSettings(command, request.settings);
     command->footer("Example:\n  lorvane-cli new --out trial.Lorvane --set NumLevels=3 --set txtd=0.4");
 }
 
