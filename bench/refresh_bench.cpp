@@ -7,26 +7,11 @@
 #include "engine/design_routines.h"
 #include "screen/design.h"
 #include "support/test_library.h"
+#include "support/usual_study.h"
 
 namespace {
 
 using namespace lorvane;
-
-void fill(Study& s, int levels, int randomized, int dataType) {
-    s.NumLevels = levels;
-    s.RandomizedLevel = randomized;
-    s.DataType = dataType;
-    s.IccMetric = IccMetrics::icc;
-    s.txtd = 0.3;
-    s.txtPrev = 0.4;
-    s.txtOR = 1.6;
-    for (int level = 1; level <= levels; ++level) {
-        s.txtNT(level) = s.txtNC(level) = s.txtNB(level) = level == levels ? 20 : 5;
-        s.txtCostT(level) = s.txtCostC(level) = s.txtCostB(level) = 10;
-        s.txtICC(level) = level > 1 ? 0.05 : 0;
-        s.txtTauSq(level) = 0.02;
-    }
-}
 
 // The size at the top, which moves the degrees of freedom of every design.
 void setTop(Study& s, double size) {
@@ -38,7 +23,7 @@ void silentRefresh(benchmark::State& state, int levels, int randomized, int data
     const FixedLocale locale;
     ScriptedDialogs messages;
     Design design(library, locale, messages);
-    fill(design.study(), levels, randomized, dataType);
+    makeUsual(design.study(), levels, randomized, dataType);
     double size = 20;
     for (auto _ : state) {
         if (newDf) {
@@ -58,7 +43,7 @@ void shownRefresh(benchmark::State& state) {
     const FixedLocale locale;
     ScriptedDialogs messages;
     Design design(library, locale, messages);
-    fill(design.study(), 4, 2, DataTypes::binary);
+    makeUsual(design.study(), 4, 2, DataTypes::binary);
     design.applyChoices();
     for (auto _ : state) {
         setTop(design.study(), design.study().txtNB(4) == 20 ? 21 : 20);

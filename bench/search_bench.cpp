@@ -6,31 +6,21 @@
 
 #include "engine/design_routines.h"
 #include "screen/design.h"
-#include "search/nearby_designs.h"
 #include "search/optimal_search.h"
 #include "support/test_library.h"
+#include "support/usual_study.h"
 
 namespace {
 
 using namespace lorvane;
 
-// Costs and dispersions of a usual trial: units are dearer the higher they stand.
+// Units are dearer the higher they stand.
 void fill(Study& s, int levels, int randomized, int dataType) {
-    s.NumLevels = levels;
-    s.RandomizedLevel = randomized;
-    s.DataType = dataType;
+    makeUsual(s, levels, randomized, dataType);
     s.PowerOption = PowerOptions::tDistribution;
-    s.IccMetric = IccMetrics::icc;
-    s.txtd = 0.3;
-    s.txtPrev = 0.4;
-    s.txtOR = 1.6;
     const double costs[] = {10, 150, 900, 4000};
-    for (int level = 1; level <= levels; ++level) {
-        s.txtNT(level) = s.txtNC(level) = s.txtNB(level) = level == levels ? 20 : 5;
+    for (int level = 1; level <= levels; ++level)
         s.txtCostT(level) = s.txtCostC(level) = s.txtCostB(level) = costs[level - 1];
-        s.txtICC(level) = level > 1 ? 0.05 : 0;
-        s.txtTauSq(level) = 0.02;
-    }
 }
 
 struct Bench {
