@@ -280,12 +280,12 @@ TEST(Readiness, TheLastOfAllReasonsIsRead) {
 TEST(OptimalSearch, ExtremeStudiesEndSoon) {
     std::mt19937 random(3);
     const double extremes[] = {0, -1, 1e-9, 0.999, 3, 1e6, 1e9, 1e15, 1e300};
-    int endings[5] = {};
+    int endings[5] = {}, faults = 0;
     for (int i = 0; i < 400; ++i) {
         SearchBench bench;
+        Study& s = bench.study();
         try {
             makeRandom(bench, random);
-            Study& s = bench.study();
             for (auto change = random() % 3 + 1; change > 0; --change) {
                 PerLevel<double>* fields[] = {&s.txtICC,   &s.txtTauSq, &s.txtQ,      &s.txtRsq,  &s.txtCostT,
                                               &s.txtCostB, &s.txtCostC, &s.txtMRange, &s.txtModel};
@@ -293,13 +293,22 @@ TEST(OptimalSearch, ExtremeStudiesEndSoon) {
                     extremes[random() % std::size(extremes)];
             }
             bench.refresh();
+        } catch (const ArithmeticFault&) {
+            continue;
+        }
+        const Study before = s;
+        try {
             ++endings[static_cast<int>(bench.search().ending)];
         } catch (const ArithmeticFault&) {
+            ++faults;
         }
+        for (int level = 1; level <= 4; ++level)
+            EXPECT_TRUE(s.txtNT(level) == before.txtNT(level) && s.txtNB(level) == before.txtNB(level)) << i;
     }
     for (const OptimalEnding ending : {OptimalEnding::found, OptimalEnding::notReady,
                                        OptimalEnding::noSolution, OptimalEnding::costOverflow})
         EXPECT_GT(endings[static_cast<int>(ending)], 0) << static_cast<int>(ending);
+    EXPECT_GT(faults, 0) << "a search that faults puts the study back too";
 }
 
 // Asks to stop at the first look.
