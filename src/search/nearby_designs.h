@@ -3,7 +3,7 @@
 
 #include <optional>
 
-#include "search/optimal_search.h"
+#include "search/optimal_types.h"
 #include "search/trial_bench.h"
 
 namespace lorvane {

@@ -7,7 +7,7 @@
 #pragma once
 
 #include "engine/study.h"
-#include "search/optimal_search.h"
+#include "search/optimal_types.h"
 
 namespace lorvane {
 

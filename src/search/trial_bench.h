@@ -4,7 +4,9 @@
 #include <cstdint>
 
 #include "engine/compute_display.h"
-#include "search/optimal_search.h"
+#include "engine/study.h"
+#include "platform/distribution_library.h"
+#include "search/optimal_types.h"
 
 namespace lorvane {
 

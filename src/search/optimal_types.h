@@ -1,0 +1,32 @@
+// What the parts of the search for the cheapest design speak of: its options, sizes of levels, a trial.
+#pragma once
+
+#include <cstdint>
+
+#include "engine/per_level.h"
+
+namespace lorvane {
+
+/// Levels whose size may be left to the search.
+inline constexpr int highestFreeLevel = 3;
+
+struct OptimalOptions {
+    IndexedArray<bool, 1, highestFreeLevel> manual;     ///< the level keeps the size below
+    IndexedArray<double, 1, highestFreeLevel> numReps;  ///< sizes set by hand, 1 or more
+    int iterations = 30;                                ///< larger top levels that are tried
+    double power = 0.8;                                 ///< required, between 0 and 1
+    bool allowLowCellCounts = false;                    ///< a binary study may have small cells
+};
+
+/// Sizes of the levels 1 to 4: units per unit of the level above, the same in both arms.
+using LevelSizes = IndexedArray<double, 1, 4>;
+
+/// One design that was tried.
+struct Trial {
+    LevelSizes sizes;
+    std::int32_t cost = 0;
+    double power = 0;
+    bool valid = false;
+};
+
+}  // namespace lorvane
