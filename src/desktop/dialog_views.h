@@ -6,7 +6,7 @@
 #include <string>
 #include <vector>
 
-#include "desktop/panels.h"
+#include "desktop/panel_view.h"
 
 class QLabel;
 

@@ -4,7 +4,7 @@
 #include <vector>
 
 #include "desktop/kit/value_cell.h"
-#include "desktop/panels.h"
+#include "desktop/panel_view.h"
 
 class QGridLayout;
 class QLabel;

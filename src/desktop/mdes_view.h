@@ -1,7 +1,7 @@
 // The panel of the smallest detectable effect.
 #pragma once
 
-#include "desktop/panels.h"
+#include "desktop/panel_view.h"
 
 class QLabel;
 

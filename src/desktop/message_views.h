@@ -3,7 +3,7 @@
 
 #include <vector>
 
-#include "desktop/panels.h"
+#include "desktop/panel_view.h"
 
 class QGridLayout;
 class QLabel;

@@ -4,7 +4,7 @@
 #include <map>
 #include <vector>
 
-#include "desktop/panels.h"
+#include "desktop/panel_view.h"
 
 class QLabel;
 class QRadioButton;

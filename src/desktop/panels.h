@@ -1,47 +1,15 @@
-// The floating windows of the study screen: each shows its models while its state in the registry is open.
+// All floating windows of the study screen: each shows its models while its state in the registry is open.
 #pragma once
 
 #include <memory>
 #include <vector>
 
-#include "desktop/desk.h"
-#include "desktop/kit/tool_panel.h"
+#include "desktop/panel_view.h"
 
 namespace lorvane::desktop {
 
 class MainWindow;
 
-/// One floating window and when it is open.
-class PanelView : public QObject {
-    Q_OBJECT
-
-public:
-    PanelView(Desk& desk, ToolPanel* panel, const std::string& name);
-
-    virtual bool isOpen() const = 0;
-    virtual void sync() = 0;
-
-    ToolPanel* panel() const { return panel_; }
-
-    /// Where it opens first, as shares of the screen from the left and from the top; below 0 in the middle.
-    void setFirstPlace(double x, double y);
-
-    /// Opens, closes and fills the window as the program stands.
-    void follow();
-
-protected:
-    /// What has to reach the program before the window asks to be closed.
-    virtual void prepareClose() {}
-
-    Desk& desk_;
-
-private:
-    ToolPanel* panel_;
-    double x_ = 0.5;
-    double y_ = 0.4;
-};
-
-/// All floating windows of the study screen.
 class Panels : public QObject {
     Q_OBJECT
 

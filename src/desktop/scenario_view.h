@@ -1,7 +1,7 @@
 // The window of scenarios: the list and its buttons.
 #pragma once
 
-#include "desktop/panels.h"
+#include "desktop/panel_view.h"
 
 class QLabel;
 

@@ -1,7 +1,7 @@
 // The start screen over the main window.
 #pragma once
 
-#include "desktop/panels.h"
+#include "desktop/panel_view.h"
 
 namespace lorvane::desktop {
 

@@ -3,7 +3,7 @@
 
 #include <functional>
 
-#include "desktop/panels.h"
+#include "desktop/panel_view.h"
 
 class QTableWidget;
 

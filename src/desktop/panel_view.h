@@ -1,0 +1,41 @@
+// The base of the floating windows: what every one does as it opens, closes and follows the program.
+#pragma once
+
+#include <string>
+
+#include "desktop/desk.h"
+#include "desktop/kit/tool_panel.h"
+
+namespace lorvane::desktop {
+
+/// One floating window and when it is open.
+class PanelView : public QObject {
+    Q_OBJECT
+
+public:
+    PanelView(Desk& desk, ToolPanel* panel, const std::string& name);
+
+    virtual bool isOpen() const = 0;
+    virtual void sync() = 0;
+
+    ToolPanel* panel() const { return panel_; }
+
+    /// Where it opens first, as shares of the screen from the left and from the top; below 0 in the middle.
+    void setFirstPlace(double x, double y);
+
+    /// Opens, closes and fills the window as the program stands.
+    void follow();
+
+protected:
+    /// What has to reach the program before the window asks to be closed.
+    virtual void prepareClose() {}
+
+    Desk& desk_;
+
+private:
+    ToolPanel* panel_;
+    double x_ = 0.5;
+    double y_ = 0.4;
+};
+
+}  // namespace lorvane::desktop
