@@ -9,7 +9,7 @@
 #include <QPainter>
 #include <QTimerEvent>
 
-#include "desktop/kit/accessible.h"
+#include "desktop/kit/accessible_field.h"
 #include "desktop/kit/icons.h"
 #include "desktop/kit/number_text.h"
 #include "desktop/kit/painting.h"
@@ -68,7 +68,7 @@ bool replaced(T& member, const T& value) {
 }  // namespace
 
 ValueCell::ValueCell(Kind kind, QWidget* parent) : QWidget(parent), kind_(kind) {
-    installAccessibility();
+    installAccessibleFields<ValueCell>();
     setFocusPolicy(traitsOf(kind).focus);
     setMouseTracking(true);
     setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
@@ -248,7 +248,7 @@ bool ValueCell::isLit() const { return isEnabled() && isChangeable() && underMou
 bool ValueCell::needsLine() const { return isChangeable() && Theme::current().isHighContrast(); }
 
 QColor ValueCell::plateColour() const {
-    if (problem_ != Problem::None)
+    if (hasProblem())
         return colour(Role::ProblemTint);
     if (hasFocus())
         return colour(Role::Card);
@@ -263,7 +263,7 @@ QColor ValueCell::textColour() const {
 
 void ValueCell::paintPlate(QPainter& painter) const {
     const QRectF bounds(rect());
-    if (isChangeable() || hasFocus() || problem_ != Problem::None)
+    if (isChangeable() || hasFocus() || hasProblem())
         fillPlate(painter, bounds.adjusted(0.5, 0.5, -0.5, -0.5), FieldRadius, plateColour());
     const bool outlined = problem_ == Problem::Outlined;
     if (outlined)

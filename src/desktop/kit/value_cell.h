@@ -40,7 +40,7 @@ public:
     const QString& text() const { return text_; }
 
     void setProblem(Problem problem);
-    Problem problem() const { return problem_; }
+    bool hasProblem() const { return problem_ != Problem::None; }
 
     /// The larger type of the effect size.
     void setLarge(bool large);

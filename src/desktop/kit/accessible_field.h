@@ -1,31 +1,30 @@
-// Accessible interfaces of cells and painted text.
-#include "desktop/kit/accessible.h"
+// What screen readers see of a field that paints itself. Knows no widget: the one that registers names
+// itself.
+#pragma once
 
 #include <QAccessibleWidget>
 
-#include "desktop/kit/painted_text.h"
-#include "desktop/kit/value_cell.h"
-
 namespace lorvane::desktop {
 
-namespace {
-
-/// A cell as a field whose text is read, stepped and opened, but not edited in place.
-class CellInterface : public QAccessibleWidget, public QAccessibleTextInterface {
+/// A widget as a field whose text is read, stepped and opened, but not edited in place. Field is the class of
+/// the widget, which tells accessibleRole(), text(), isChangeable() and hasProblem() and takes step() and
+/// activate().
+template <typename Field>
+class FieldInterface : public QAccessibleWidget, public QAccessibleTextInterface {
 public:
-    explicit CellInterface(ValueCell* cell) : QAccessibleWidget(cell, cell->accessibleRole()) {}
+    explicit FieldInterface(Field* field) : QAccessibleWidget(field, field->accessibleRole()) {}
 
-    QAccessible::Role role() const override { return cell()->accessibleRole(); }
+    QAccessible::Role role() const override { return field()->accessibleRole(); }
 
     QAccessible::State state() const override {
         QAccessible::State result = QAccessibleWidget::state();
-        result.readOnly = !cell()->isChangeable();
-        result.invalid = cell()->problem() != ValueCell::Problem::None;
+        result.readOnly = !field()->isChangeable();
+        result.invalid = field()->hasProblem();
         return result;
     }
 
     QString text(QAccessible::Text kind) const override {
-        return kind == QAccessible::Value ? cell()->text() : QAccessibleWidget::text(kind);
+        return kind == QAccessible::Value ? field()->text() : QAccessibleWidget::text(kind);
     }
 
     void* interface_cast(QAccessible::InterfaceType type) override {
@@ -36,18 +35,18 @@ public:
 
     QStringList actionNames() const override {
         QStringList names = {pressAction()};
-        if (cell()->isChangeable())
+        if (field()->isChangeable())
             names << increaseAction() << decreaseAction();
         return names + QAccessibleWidget::actionNames();
     }
 
     void doAction(const QString& name) override {
         if (name == pressAction())
-            cell()->activate();
+            field()->activate();
         else if (name == increaseAction())
-            cell()->step(1);
+            field()->step(1);
         else if (name == decreaseAction())
-            cell()->step(-1);
+            field()->step(-1);
         else
             QAccessibleWidget::doAction(name);
     }
@@ -59,8 +58,8 @@ public:
     void setSelection(int, int, int) override {}
     int cursorPosition() const override { return 0; }
     void setCursorPosition(int) override {}
-    QString text(int start, int end) const override { return cell()->text().mid(start, end - start); }
-    int characterCount() const override { return static_cast<int>(cell()->text().size()); }
+    QString text(int start, int end) const override { return field()->text().mid(start, end - start); }
+    int characterCount() const override { return static_cast<int>(field()->text().size()); }
     QRect characterRect(int) const override { return rect(); }
     int offsetAtPoint(const QPoint&) const override { return 0; }
     void scrollToSubstring(int, int) override {}
@@ -71,19 +70,16 @@ public:
     }
 
 private:
-    ValueCell* cell() const { return static_cast<ValueCell*>(widget()); }
+    Field* field() const { return static_cast<Field*>(widget()); }
 };
 
-QAccessibleInterface* createInterface(const QString&, QObject* object) {
-    if (auto* cell = qobject_cast<ValueCell*>(object))
-        return new CellInterface(cell);
-    if (auto* text = qobject_cast<PaintedText*>(object))
-        return new QAccessibleWidget(text, QAccessible::StaticText);
-    return nullptr;
+/// Makes the widgets of a class known as fields. Once is enough; more does no harm.
+template <typename Field>
+void installAccessibleFields() {
+    QAccessible::installFactory([](const QString&, QObject* object) -> QAccessibleInterface* {
+        auto* field = qobject_cast<Field*>(object);
+        return field ? new FieldInterface<Field>(field) : nullptr;
+    });
 }
-
-}  // namespace
-
-void installAccessibility() { QAccessible::installFactory(createInterface); }
 
 }  // namespace lorvane::desktop
