@@ -67,7 +67,7 @@ LevelRail::Stop stopOf(const Study& s, int level) {
     return s.isBlocked(level) ? LevelRail::Stop::Blocked : LevelRail::Stop::Nested;
 }
 
-// The level of a panel's name, the stem and the index apart.
+// A head stands on one line; its caption may have two.
 QString onOneLine(const std::string& heading) { return shownText(heading).replace('\n', ' ').trimmed(); }
 
 const std::string& headingOf(const MainScreen& screen, ColumnId first, ColumnId second, ColumnId third) {
