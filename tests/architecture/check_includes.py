@@ -1,7 +1,8 @@
 """Reads the includes of src/ and fails on any that breaks the order of the floors.
 
-A folder includes only what MAY_INCLUDE allows, no two files include each other, directly or round about, and
-below the edge nothing but the standard library comes from outside.
+A folder includes only what MAY_INCLUDE allows, the widgets include widgets alone, no two modules include each
+other, directly or round about, and below the edge nothing but the standard library comes from outside. A module is
+x.h together with x.cpp.
 """
 
 import re
@@ -11,7 +12,8 @@ from pathlib import Path
 GROUND = {"base", "platform"}
 ENGINE = GROUND | {"engine"}
 VALIDATION = ENGINE | {"validation"}
-SCREEN = VALIDATION | {"screen"}
+SESSION = VALIDATION | {"session"}
+SCREEN = SESSION | {"screen"}
 CORE = SCREEN | {"persistence", "guidance", "search"}
 
 MAY_INCLUDE = {
@@ -20,7 +22,8 @@ MAY_INCLUDE = {
     "numerics": {"platform"},
     "engine": GROUND,
     "validation": ENGINE,
-    "screen": VALIDATION,
+    "session": VALIDATION,
+    "screen": SESSION,
     "persistence": SCREEN,
     "guidance": SCREEN,
     "search": SCREEN,
@@ -32,6 +35,8 @@ MAY_INCLUDE = {
 }
 # The distribution functions see one header of the platform alone.
 NUMERICS_MAY_SEE = {"platform/distribution_library.h"}
+# The widgets know nothing of ours but each other.
+KIT = "desktop/kit/"
 
 FOREIGN = {
     "os": re.compile(r"sys/file\.h|fcntl\.h|unistd\.h|sys/stat\.h"),
@@ -50,7 +55,8 @@ def includes(path):
             yield number, found.group(1) == "<", found.group(2)
 
 
-def problem_with(folder, is_foreign, name):
+def problem_with(own, is_foreign, name):
+    folder = own.split("/")[0]
     if is_foreign:
         allowed = FOREIGN.get(folder)
         if STANDARD.match(name) or (allowed and allowed.match(name)):
@@ -59,9 +65,15 @@ def problem_with(folder, is_foreign, name):
     target = name.split("/")[0]
     if folder == "numerics" and target == "platform" and name not in NUMERICS_MAY_SEE:
         return f"numerics/ may not see {name}"
+    if own.startswith(KIT) and not name.startswith(KIT):
+        return f"{KIT} may not include {name}"
     if target != folder and target not in MAY_INCLUDE[folder]:
         return f"{folder}/ may not include {target}/"
     return None
+
+
+def module_of(name):
+    return name.rsplit(".", 1)[0]
 
 
 def find_cycle(graph):
@@ -73,7 +85,7 @@ def find_cycle(graph):
         if node in done:
             return None
         path.append(node)
-        for following in graph.get(node, ()):
+        for following in sorted(graph.get(node, ())):
             cycle = visit(following)
             if cycle:
                 return cycle
@@ -88,29 +100,37 @@ def find_cycle(graph):
     return None
 
 
+def check_file(root, own, graph):
+    problems, module = [], module_of(own)
+    following = graph.setdefault(module, set())
+    for number, is_foreign, name in includes(root / own):
+        problem = problem_with(own, is_foreign, name)
+        if problem:
+            problems.append(f"{own}:{number}: {problem}")
+        if is_foreign:
+            continue
+        following.update({module_of(name)} - {module})
+        if not (root / name).is_file():
+            problems.append(f"{own}:{number}: {name} does not exist")
+    return problems
+
+
 def check(root):
-    problems, graph = [], {}
+    problems, graph, files = [], {}, 0
     for path in sorted(root.rglob("*")):
         if path.suffix not in {".h", ".cpp"}:
             continue
         own = path.relative_to(root).as_posix()
         folder = own.split("/")[0]
-        if folder not in MAY_INCLUDE:
+        if folder in MAY_INCLUDE:
+            files += 1
+            problems += check_file(root, own, graph)
+        else:
             problems.append(f"{own}: the folder {folder}/ has no floor")
-            continue
-        graph[own] = []
-        for number, is_foreign, name in includes(path):
-            problem = problem_with(folder, is_foreign, name)
-            if problem:
-                problems.append(f"{own}:{number}: {problem}")
-            if not is_foreign:
-                graph[own].append(name)
-                if not (root / name).is_file():
-                    problems.append(f"{own}:{number}: {name} does not exist")
     cycle = find_cycle(graph)
     if cycle:
-        problems.append("files include each other: " + " -> ".join(cycle))
-    return problems, len(graph)
+        problems.append("modules include each other: " + " -> ".join(cycle))
+    return problems, files
 
 
 def main():
