@@ -55,7 +55,7 @@ constexpr int lowScreen = 750;
 constexpr int plotWidth = 337;
 constexpr int buttonsHeight = 32;
 constexpr int powerDecimals = 4;
-constexpr int reset = 1, compute = 2, paste = 3, close = 4;
+enum ButtonNumber { reset = 1, compute, paste, close };
 
 // A row under a line.
 class LineAbove : public QWidget {

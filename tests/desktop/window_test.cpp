@@ -14,7 +14,7 @@ using Floating = DesktopBench;
 
 TEST_F(Floating, FramesCloseInAnyOrderAndThePlaceStays) {
     openFourLevels();
-    const std::vector<const char*> names = {"frmDisplayICC", "frmDisplayTauSq"};
+    const char* const names[] = {"frmDisplayICC", "frmDisplayTauSq"};
     for (const int first : {0, 1}) {
         clickArrow("pnlMRange(3)", 1);
         clickArrow("pnlTauSq(3)", 1);

@@ -135,7 +135,9 @@ TEST(DispersionTables, Effect) {
          {std::tuple{"d=0.5", 0.5, "0.10 to 0.90"},
           {"DataType=2 OR=2", 2.0, "1.341 to 2.984"},
           {"DataType=2 BinaryType=3 RD=0.1", 0.1, "-0.300 to 0.500"}}) {
-        const auto limit = [&](double shift) { return centre == 2 ? 2 * std::exp(shift) : centre + shift; };
+        const auto limit = [middle = centre](double shift) {
+            return middle == 2 ? 2 * std::exp(shift) : middle + shift;
+        };
         const Grid table = tableAfter(study + effect, "frmSpreadTauSq.VS");
         const double both = 4 * std::sqrt(0.13);
         expectCells(table.rows.at(2), 1, {0.09, 1.2, limit(-0.6), limit(0.6)});
