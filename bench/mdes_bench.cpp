@@ -14,14 +14,14 @@ using namespace lorvane;
 
 struct Metric {
     const char* name;
-    int dataType;
-    int binaryType;
+    DataTypes dataType;
+    BinaryTypes binaryType;
     int direction;
     double units;  ///< of the top level; few units send the search through the whole range
 };
 
 constexpr Metric metrics[] = {
-    {"means", DataTypes::means, 1, 1, 20},
+    {"means", DataTypes::means, BinaryTypes::oddsRatio, 1, 20},
     {"odds_ratio_up", DataTypes::binary, BinaryTypes::oddsRatio, 1, 20},
     {"odds_ratio_down", DataTypes::binary, BinaryTypes::oddsRatio, -1, 20},
     {"risk_difference_up", DataTypes::binary, BinaryTypes::riskDifference, 1, 20},
@@ -48,13 +48,11 @@ void fill(Study& s, int levels, int randomized, const Metric& metric) {
 
 void search(benchmark::State& state, int levels, int randomized, const Metric& metric) {
     NumericDistributionLibrary library;
-    const FixedLocale locale;
-    ScriptedDialogs messages;
-    Design design(library, locale, messages);
-    fill(design.study(), levels, randomized, metric);
+    Study study;
+    fill(study, levels, randomized, metric);
     MdesResult result;
     for (auto _ : state)
-        result = FindMDES(design, design.study().ReqPower);
+        result = FindMDES({study, library}, study.ReqPower);
     if (result.outcome == MdesOutcome::problem)
         state.SkipWithError("the study gives no power");
     state.counters["runs"] = result.runs;

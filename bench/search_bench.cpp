@@ -5,7 +5,6 @@
 #include <string>
 
 #include "engine/design_routines.h"
-#include "screen/design.h"
 #include "search/optimal_search.h"
 #include "support/test_library.h"
 #include "support/usual_study.h"
@@ -15,7 +14,7 @@ namespace {
 using namespace lorvane;
 
 // Units are dearer the higher they stand.
-void fill(Study& s, int levels, int randomized, int dataType) {
+void fill(Study& s, int levels, int randomized, DataTypes dataType) {
     makeUsual(s, levels, randomized, dataType);
     s.PowerOption = PowerOptions::tDistribution;
     const double costs[] = {10, 150, 900, 4000};
@@ -24,23 +23,23 @@ void fill(Study& s, int levels, int randomized, int dataType) {
 }
 
 struct Bench {
-    Bench(int levels, int randomized, int dataType) {
-        fill(design.study(), levels, randomized, dataType);
-        design.DoRefresh(true);
+    Bench(int levels, int randomized, DataTypes dataType) {
+        fill(trial.study, levels, randomized, dataType);
+        trial.refresh();
     }
 
+    OptimalResult search() { return searchOptimalDesign(trial, OptimalOptions(), progress); }
+
     NumericDistributionLibrary library;
-    FixedLocale locale;
-    ScriptedDialogs dialogs;
     NoProgress progress;
-    Design design{library, locale, dialogs};
+    StudyTrial trial{Study(), library};
 };
 
-void optimal(benchmark::State& state, int levels, int randomized, int dataType) {
+void optimal(benchmark::State& state, int levels, int randomized, DataTypes dataType) {
     Bench bench(levels, randomized, dataType);
     OptimalResult result;
     for (auto _ : state)
-        result = searchOptimalDesign(bench.design.study(), bench.library, OptimalOptions(), bench.progress);
+        result = bench.search();
     state.counters["runs"] = static_cast<double>(result.runs);
     if (result.ending != OptimalEnding::found)
         state.SkipWithError("nothing was found");
@@ -49,14 +48,14 @@ void optimal(benchmark::State& state, int levels, int randomized, int dataType) 
 // A tiny effect needs a top level of millions.
 void optimalInTheMillions(benchmark::State& state) {
     Bench bench(2, 2, DataTypes::means);
-    Study& s = bench.design.study();
+    Study& s = bench.trial.study;
     s.txtd = 0.0011;
     for (int level = 1; level <= 2; ++level)
         s.txtCostT(level) = s.txtCostC(level) = 1;
-    bench.design.DoRefresh(true);
+    bench.trial.refresh();
     OptimalResult result;
     for (auto _ : state)
-        result = searchOptimalDesign(s, bench.library, OptimalOptions(), bench.progress);
+        result = bench.search();
     state.counters["runs"] = static_cast<double>(result.runs);
     state.counters["top"] = result.ending == OptimalEnding::found ? result.cheapest().sizes(2) : 0;
 }

@@ -2,6 +2,7 @@
 // leave the study as it was; and every scenario must restore or be refused.
 #include <algorithm>
 #include <charconv>
+#include <cmath>
 #include <cstdint>
 #include <cstdio>
 #include <cstdlib>
@@ -14,7 +15,7 @@
 #include "base/arithmetic_fault.h"
 #include "base/number_text.h"
 #include "persistence/csv.h"
-#include "persistence/scenario_cells.h"
+#include "session/field_book.h"
 #include "support/test_platform.h"
 
 namespace lorvane {
@@ -120,11 +121,48 @@ constexpr const char* numbers[] = {"0",     "1",      "2",      "3",          "4
                                    "1e6",   "1e9",    "1e15",   "1e300",      "-0",    "-1",   "-0.5",
                                    "-1e-9", "-1e300", "0.3333", "2147483647", "1.5"};
 
+// A cell of a block and what it takes.
+struct BlockCell {
+    std::size_t k;
+    std::size_t column;
+    FieldKind kind;
+    std::vector<double> choices;
+};
+
+void addCell(std::vector<BlockCell>& cells, const FilePlace& place, int index, FieldKind kind,
+             std::vector<double> choices) {
+    if (place.column > 0)
+        cells.push_back({static_cast<std::size_t>(place.row + index * place.rowsPerIndex),
+                         static_cast<std::size_t>(place.column + index * place.columnsPerIndex), kind,
+                         std::move(choices)});
+}
+
+std::vector<double> choicesOf(const Field& field) {
+    std::vector<double> choices(field.choices.begin(), field.choices.end());
+    for (double& choice : choices)
+        choice = field.isPercent ? std::round(choice * 100) : choice;
+    return choices;
+}
+
+// From the first row down, since an input tells a cell by its number.
+std::vector<BlockCell> blockCells() {
+    std::vector<BlockCell> cells;
+    forEachField([&](FieldRef ref) {
+        addCell(cells, ref->place, ref.index, ref->member.kind, choicesOf(*ref.field));
+    });
+    for (const Field& field : fieldBook())
+        addCell(cells, field.decimalsPlace, 0, FieldKind::whole, {0, 1, 2, 3, 4, 5});
+    std::sort(cells.begin(), cells.end(), [](const BlockCell& a, const BlockCell& b) {
+        return std::pair(a.k, a.column) < std::pair(b.k, b.column);
+    });
+    return cells;
+}
+
 // A text that the cell takes, told by one number.
-std::string textFor(const ScenarioCell& cell, std::size_t value) {
-    if (std::holds_alternative<bool*>(cell.target))
+std::string textFor(const BlockCell& cell, std::size_t value) {
+    if (cell.kind == FieldKind::flag)
         return value % 2 == 0 ? "True" : "False";
-    if (std::holds_alternative<std::string*>(cell.target))
+    if (cell.kind == FieldKind::text)
         return texts[value % std::size(texts)];
     if (!cell.choices.empty())
         return shortestText(cell.choices[value % cell.choices.size()]);
@@ -133,11 +171,9 @@ std::string textFor(const ScenarioCell& cell, std::size_t value) {
 
 // Two bytes an edit, a cell and its value: studies of every kind, most of which open.
 void applyValues(std::vector<CsvRow>& rows, std::string_view edits) {
-    static Study study;
-    static SessionSettings settings;
-    static const std::vector<ScenarioCell> cells = scenarioCells(study, settings);
+    static const std::vector<BlockCell> cells = blockCells();
     for (; edits.size() >= 2; edits.remove_prefix(2)) {
-        const ScenarioCell& cell = cells[static_cast<unsigned char>(edits[0]) % cells.size()];
+        const BlockCell& cell = cells[static_cast<unsigned char>(edits[0]) % cells.size()];
         const auto value = static_cast<unsigned char>(edits[1]);
         CsvRow& row = rows[cell.k + (value < 128 ? ScenarioGrid::blockRows : 0)];
         row.resize(std::max(row.size(), cell.column + 1));

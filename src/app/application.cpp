@@ -1,8 +1,6 @@
 // The program without a face.
 #include "app/application.h"
 
-#include <algorithm>
-#include <optional>
 #include <set>
 #include <utility>
 
@@ -10,70 +8,57 @@
 #include "base/names.h"
 #include "base/number_text.h"
 #include "base/utf8.h"
-#include "engine/effect_metrics.h"
-#include "persistence/scenario_cells.h"
-#include "screen/commands.h"
-#include "screen/whole_change.h"
 
 namespace lorvane {
 
-namespace {
-
-// The last value that is given for a name.
-const Assignment* findAssignment(std::span<const Assignment> values, std::string_view name) {
-    const auto found = std::find_if(values.rbegin(), values.rend(),
-                                    [&](const Assignment& value) { return value.name == name; });
-    return found == values.rend() ? nullptr : &*found;
-}
-
-int wholeOf(const Assignment& assignment) { return static_cast<int>(std::get<double>(assignment.value)); }
-
-std::optional<bool> readFlag(std::string_view text) {
-    const std::string lower = lowerCased(trimmed(text));
-    if (lower == "true" || lower == "1")
-        return true;
-    if (lower == "false" || lower == "0")
-        return false;
-    return std::nullopt;
-}
-
-}  // namespace
-
+// What the platform leaves out is done by parts of the program's own.
 Application::Application(const Platform& platform)
-    : platform_(platform), design_(platform.distributions, platform.locale, platform.messages),
-      dialogs_(design_), details_(design_), mdesWindow_(design_), scenarioWindow_(design_, scenarios_),
-      recent_(platform.settings), studyFiles_(design_, scenarios_, scenarioWindow_, recent_, platform.files,
-                                              platform.dialogs, platform.programFolder),
+    : platform_(platform), session_(platform.distributions, detectCurrency(platform.locale),
+                                    platform.clock == nullptr ? steadyClock_ : *platform.clock),
+      design_(session_, platform.messages), dialogs_(design_), details_(design_), mdesWindow_(design_),
+      scenarioWindow_(design_), recent_(platform.settings), store_(platform.files, platform.programFolder),
+      studyFiles_(design_, store_, recent_, platform.dialogs),
       startScreen_(design_, studyFiles_, recent_, platform.files),
-      optimalWindow_(design_, platform.distributions,
-                     platform.progress == nullptr ? noProgress_ : *platform.progress) {
+      optimalWindow_(design_, platform.progress == nullptr ? noProgress_ : *platform.progress),
+      commands_(commandRows({session_, design_, dialogs_, details_, mdesWindow_, optimalWindow_,
+                             scenarioWindow_, studyFiles_, startScreen_,
+                             platform.clipboard == nullptr ? noClipboard_ : *platform.clipboard}),
+                bandRows()) {
+    session_.follow([this](const Changed& changed) { follow(changed); });
+    registerNames();
+    dialogs_.registerEvents(events_);
+    details_.registerEvents(events_);
+    mdesWindow_.registerEvents(events_);
+    scenarioWindow_.registerEvents(events_);
+    startScreen_.registerEvents(events_);
+    optimalWindow_.registerEvents(events_);
+    registerPanels();
+    commands_.sync();
+}
+
+// The one order in which the parts of the program hear of a change.
+void Application::follow(const Changed& changed) {
+    design_.show(changed);
+    mdesWindow_.follow(changed);
+    optimalWindow_.follow(changed);
+    details_.follow();
+    scenarioWindow_.follow(changed);
+    commands_.sync();
+}
+
+void Application::registerNames() {
     design_.registerNames(names_);
+    commands_.registerNames(names_);
     dialogs_.registerNames(names_);
     details_.registerNames(names_);
     mdesWindow_.registerNames(names_);
     scenarioWindow_.registerNames(names_);
     startScreen_.registerNames(names_);
     optimalWindow_.registerNames(names_);
-    names_.addGrid("vsFile", scenarios_.grid());
+    names_.addGrid("vsFile", [this] { return session_.scenarios().grid(); });
     names_.addGrid("flexfiles", recent_.flexfiles());
-    registerCommands(events_, design_);
-    dialogs_.registerEvents(events_);
-    details_.registerEvents(events_);
-    mdesWindow_.registerEvents(events_);
-    scenarioWindow_.registerEvents(events_);
-    studyFiles_.registerEvents(events_);
-    startScreen_.registerEvents(events_);
-    optimalWindow_.registerEvents(events_);
-    registerPanels();
-    disableToolsWithoutSubject();
-}
-
-// A tool whose subject the program does not have is there, and cannot be used.
-void Application::disableToolsWithoutSubject() {
-    for (const Tool& tool : design_.tools().tools()) {
-        if (!events_.knowsTool(tool.Name))
-            design_.tools().setEnabled(tool.Name, false);
-    }
+    names_.add("Clipboard.Text", &noClipboard_.content().text);
+    names_.add("Clipboard.Html", &noClipboard_.content().html);
 }
 
 // A floating panel that is closed by its frame is withdrawn, since its flags take part in every computation.
@@ -87,42 +72,50 @@ void Application::registerPanels() {
         events_.onClose(
             name, [this, window = window] { design_.SynchForms(window, WindowAction::withdrawForGood); });
     events_.onClose("Design", [this] { design_.closeRequest(); });
+    for (int level = lowestLevel; level <= highestLevel; ++level)
+        events_.onClick(indexedName("chkMatch", level), [this, level] { toggleBlocked(session_, level); });
+}
+
+void Application::announce() {
+    commands_.sync();
+    events_.announceShown();
 }
 
 // Runs an event and tells the faces that everything is right again, also after a fault.
 template <typename Event>
 void Application::handle(Event event) {
-    struct Announce {
-        Application& application;
-        ~Announce() {
-            application.design_.showTools();
-            application.events_.announceShown();
-        }
-    } const announce{*this};
     design_.tellStatus("");
     try {
         event();
     } catch (const ArithmeticFault&) {
-        refreshOrShowFault(design_);
+        showAgain();
+        announce();
         throw;
+    } catch (...) {
+        announce();
+        throw;
+    }
+    announce();
+}
+
+// A search that could not go on leaves its window in the middle of its work.
+void Application::showAgain() {
+    try {
+        session_.refresh();
+    } catch (const ArithmeticFault&) {
+        // The screen asks for other data by now, and the fault that brought us here is on its way.
     }
 }
 
 void Application::tool(const std::string& name) {
-    const Tool* tool = design_.tools().find(name);
+    const Tool* tool = commands_.find(name);
     if (tool == nullptr)
-        throw UseProblem("There is no tool \"" + name + "\"; the nearest is \"" + nearestTool(name) + "\".");
+        throw UseProblem("There is no tool \"" + name + "\"; the nearest is \"" + commands_.nearest(name) +
+                         "\".");
     if (!tool->Enabled)
         throw UseProblem("The tool \"" + name + "\" is not on offer as the study stands (" +
                          tool->ToolTipText + ").");
-    handle([&] { events_.tool(name); });
-}
-
-std::string Application::nearestTool(const std::string& name) const {
-    std::vector<std::string> known;
-    for (const Tool& tool : design_.tools().tools())
-        known.push_back(tool.Name);
-    return nearestName(name, known);
+    handle([&] { commands_.run(name); });
 }
 
 void Application::click(const std::string& control) {
@@ -160,28 +153,19 @@ void Application::close(const std::string& window) {
     });
 }
 
-void Application::spin(const std::string& control, int direction, Design::SpinMode mode) {
+void Application::spin(const std::string& control, int direction, ArrowHold hold) {
     if (const auto* spun = events_.spin(control)) {
         handle([&] { (*spun)(direction); });
         return;
     }
-    const IndexedName name = splitName(control);
-    const bool ofLevel = name.index && *name.index >= lowestLevel && *name.index <= highestLevel;
-    const auto arrows = findSpin(control);
-    if (!arrows && !(ofLevel && (name.stem == "spnModel" || name.stem == "spnPop")))
+    const auto field = findArrows(control);
+    if (!field)
         throw UseProblem("There are no arrows \"" + control + "\".");
-    handle([&] {
-        if (arrows)
-            design_.Spin(*arrows, direction, mode);
-        else if (name.stem == "spnModel")
-            design_.spinModel(*name.index, direction);
-        else
-            design_.spinPop(*name.index, direction);
-    });
+    handle([&] { design_.Spin(*field, direction, hold); });
 }
 
 void Application::spinReleased() {
-    handle([&] { design_.DoRefresh(true); });
+    handle([&] { session_.refresh(); });
 }
 
 void Application::suspendForms() {
@@ -193,7 +177,10 @@ void Application::restoreForms() {
 }
 
 void Application::openValue(const std::string& field) {
-    handle([&] { dialogs_.openValue(field); });
+    handle([&] {
+        if (const auto found = findField(field))
+            dialogs_.activate(*found);
+    });
 }
 
 void Application::setNumber(const std::string& name, double value) {
@@ -206,88 +193,9 @@ void Application::setNumber(const std::string& name, double value) {
     handle([&] { number->write(value); });
 }
 
-const StudyField& Application::knownField(const std::string& name) const {
-    const StudyField* field = fields().find(name);
-    if (field == nullptr)
-        throw UseProblem("There is no field \"" + name + "\"; the nearest is \"" + fields().nearest(name) +
-                         "\".");
-    return *field;
-}
+void Application::load(std::span<const Assignment> values) { loadValues(session_, values); }
 
-Assignment Application::parse(const std::string& name, const std::string& text) const {
-    const StudyField& field = knownField(name);
-    if (std::holds_alternative<std::string*>(field.target))
-        return {name, text};
-    if (std::holds_alternative<bool*>(field.target)) {
-        if (const auto flag = readFlag(text))
-            return {name, *flag};
-        throw UseProblem(name + " takes true or false, not \"" + text + "\".");
-    }
-    if (const auto number = readNumber(text))
-        return {name, *number};
-    throw UseProblem(name + " takes a number, not \"" + text + "\".");
-}
-
-void Application::check(std::span<const Assignment> values, Kind kind, ValueSource source) const {
-    for (const Assignment& value : values) {
-        const StudyField& field = knownField(value.name);
-        if (field.isDesignChoice != (kind == Kind::choices))
-            continue;
-        const std::string why = refusal(fields(), field, value.value, source);
-        if (!why.empty())
-            throw UseProblem(why);
-    }
-}
-
-// The number of levels moves the randomization to the top; a level of randomization of its own comes after
-// it.
-void Application::applyChoices(std::span<const Assignment> values) {
-    const Study& study = design_.study();
-    for (const Assignment& value : values) {
-        const StudyField& field = knownField(value.name);
-        if (field.isDesignChoice && field.name != "NumLevels" && field.name != "RandomizedLevel")
-            writeField(field, value.value);
-    }
-    const Assignment* levels = findAssignment(values, "NumLevels");
-    if (levels != nullptr && wholeOf(*levels) != study.NumLevels)
-        design_.setNumLevels(wholeOf(*levels));
-    if (const Assignment* randomized = findAssignment(values, "RandomizedLevel")) {
-        if (wholeOf(*randomized) > study.NumLevels)
-            throw UseProblem("RandomizedLevel must lie from 1 to " + std::to_string(study.NumLevels) +
-                             ", the number of levels.");
-        design_.randomize(wholeOf(*randomized));
-    }
-}
-
-void Application::write(std::span<const Assignment> values) {
-    for (const Assignment& value : values) {
-        const StudyField& field = knownField(value.name);
-        if (!field.isDesignChoice)
-            writeField(field, value.value);
-    }
-    design_.applyChoices();
-}
-
-void Application::load(std::span<const Assignment> values) {
-    check(values, Kind::choices, ValueSource::file);
-    check(values, Kind::values, ValueSource::file);
-    changeOrUndo(design_, [&] {
-        design_.startAnew();
-        applyChoices(values);
-        write(values);
-        design_.settings().CurrentFile.clear();
-    });
-    studyFiles_.forgetScenarios();
-}
-
-void Application::set(std::span<const Assignment> values) {
-    check(values, Kind::choices, ValueSource::dialog);
-    changeOrUndo(design_, [&] {
-        applyChoices(values);
-        check(values, Kind::values, ValueSource::dialog);
-        write(values);
-    });
-}
+void Application::set(std::span<const Assignment> values) { setValues(session_, values); }
 
 void Application::start(const std::string& file) {
     handle([&] {
@@ -319,8 +227,6 @@ bool Application::offerLeftBehind() {
     return back;
 }
 
-std::optional<UnsavedStudy> Application::unsavedStudy() const { return studyFiles_.unsavedStudy(); }
-
 void Application::askAndOpen(const std::string& path) {
     handle([&] { studyFiles_.askAndOpen(path); });
 }
@@ -334,42 +240,7 @@ void Application::save(const std::string& path) {
 }
 
 void Application::restoreScenario(const std::string& name) {
-    if (!scenarios_.findBlock(name)) {
-        std::vector<std::string> known;
-        for (const ScenarioLine& line : scenarios())
-            known.push_back(line.name);
-        const std::string hint =
-            known.empty() ? "the study has none" : "the nearest is \"" + nearestName(name, known) + "\"";
-        throw UseProblem("There is no scenario \"" + name + "\"; " + hint + ".");
-    }
-    changeOrUndo(
-        design_,
-        [&] {
-            design_.startAnew();
-            RestoreScenario(scenarios_, design_, name);
-        },
-        IfFault::show);
-}
-
-bool Application::hasPower() const {
-    const Study& s = design_.study();
-    const bool tested =
-        s.isMeans() || s.BinaryType == BinaryTypes::oddsRatio || s.BinaryType == BinaryTypes::riskDifference;
-    return s.result.xValid == 1 && tested;
-}
-
-std::string Application::whyNoPower() const {
-    const Study& s = design_.study();
-    if (!design_.faultWords().empty())
-        return design_.faultWords();
-    if (s.result.xValid == 1)
-        return "The effect metric \"" + std::string(GetESName(s)) +
-               "\" has no test; state the effect as an odds ratio or a risk difference.";
-    const std::string& reason = s.result.ValidES == 0         ? design_.effectProblems().pnlErrES.Caption
-                                : s.outcome.ValidICC(0) == 0  ? design_.iccPanel().pnlMsgInner.Caption
-                                : s.effect.ValidTauSq(0) == 0 ? design_.tauSqPanel().pnlMsgInner.Caption
-                                                              : design_.problems().pnlErr.Caption;
-    return reason.empty() ? design_.screen().pnlPower.Caption : reason;
+    handle([&] { lorvane::restoreScenario(session_, name); });
 }
 
 }  // namespace lorvane

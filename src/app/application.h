@@ -1,20 +1,23 @@
-// Makes one of everything on given platform interfaces and wires it. The desktop, the command line and the
-// tests all act through it.
+// Makes one of everything on given platform interfaces and wires it. The desktop, the scripted sessions and
+// the tests all act through it.
 #pragma once
 
 #include <functional>
+#include <optional>
 #include <span>
-#include <stdexcept>
 #include <string>
 #include <string_view>
 #include <vector>
 
+#include "app/command_rows.h"
+#include "base/use_problem.h"
 #include "guidance/details.h"
-#include "persistence/scenario_grid.h"
 #include "persistence/scenario_list.h"
 #include "persistence/scenario_window.h"
 #include "persistence/start_screen.h"
 #include "persistence/study_files.h"
+#include "platform/clipboard.h"
+#include "platform/clock.h"
 #include "platform/control_registry.h"
 #include "platform/distribution_library.h"
 #include "platform/event_registry.h"
@@ -25,11 +28,14 @@
 #include "platform/settings_store.h"
 #include "platform/system_locale.h"
 #include "platform/unsaved_store.h"
+#include "screen/command_book.h"
 #include "screen/design.h"
 #include "screen/small_dialogs.h"
-#include "screen/study_fields.h"
 #include "search/mdes_window.h"
 #include "search/optimal_window.h"
+#include "session/answers.h"
+#include "session/assignments.h"
+#include "session/structure.h"
 
 namespace lorvane {
 
@@ -44,18 +50,8 @@ struct Platform {
     std::string programFolder;        ///< where the template of a new study lies
     UnsavedStore* unsaved = nullptr;  ///< none: a crash loses what was not saved
     Progress* progress = nullptr;     ///< none: nobody watches a search
-};
-
-/// A name or a value that the program does not take; one sentence that names it.
-class UseProblem : public std::runtime_error {
-public:
-    using std::runtime_error::runtime_error;
-};
-
-/// A field by name with its new value.
-struct Assignment {
-    std::string name;
-    FieldValue value;
+    Clipboard* clipboard = nullptr;   ///< none: what is copied can be read by name alone
+    const Clock* clock = nullptr;     ///< none: the clock of the machine
 };
 
 class Application {
@@ -69,21 +65,12 @@ public:
     void start(const std::string& file);
 
     /// The study as it would be saved now; nothing while it is as it was opened or saved.
-    std::optional<UnsavedStudy> unsavedStudy() const;
+    std::optional<UnsavedStudy> unsavedStudy() const { return studyFiles_.unsavedStudy(); }
 
-    /// Starts from a new study without scenarios and writes the values at once, as opening a file with them
-    /// would: what no dialog offers is taken. Then one refresh. Throws UseProblem or ArithmeticFault and
+    /// Values for the study by name, see loadValues and setValues. Throws UseProblem or ArithmeticFault and
     /// changes nothing then.
     void load(std::span<const Assignment> values);
-
-    /// Writes values into the study as dialogs would, within their limits; design choices first, whatever
-    /// their order, each by its operation; then one refresh. Throws UseProblem or ArithmeticFault and changes
-    /// nothing then.
     void set(std::span<const Assignment> values);
-
-    /// A field's value from its text, by the kind of the field. Throws UseProblem for an unknown field, with
-    /// the nearest known name, and for a text that does not spell a value.
-    Assignment parse(const std::string& name, const std::string& text) const;
 
     /// Asks whether unsaved work may go, then opens a file; the status line tells why it cannot be opened.
     void askAndOpen(const std::string& path);
@@ -95,22 +82,8 @@ public:
     /// Saves the study with its scenarios. Throws FileProblem; the file that was there stays then.
     void save(const std::string& path);
 
-    /// Puts a scenario of the study on the screen. Throws UseProblem when there is none of that name, with
-    /// the names that there are.
+    /// Puts a scenario of the study on the screen. Throws UseProblem when there is none of that name.
     void restoreScenario(const std::string& name);
-
-    std::vector<ScenarioLine> scenarios() const { return scenarioLines(scenarios_); }
-    const ScenarioGrid& scenarioGrid() const noexcept { return scenarios_; }
-
-    /// Whether the last refresh gave a power. A risk ratio and two risks have no test of their own.
-    bool hasPower() const;
-
-    /// Why the study gives no power, in the words of the window that tells it; needs a study without power.
-    std::string whyNoPower() const;
-
-    /// The smallest effect with which the study reaches a power; the study stays as it is. Throws
-    /// ArithmeticFault.
-    MdesResult findMDES(double requiredPower) { return FindMDES(design_, requiredPower); }
 
     /// What a person does on the screen, by the names of its controls. Each throws UseProblem for a name that
     /// is not known and ArithmeticFault when the computation cannot go on; the entered values stay then.
@@ -119,8 +92,10 @@ public:
     void type(const std::string& control, const std::string& text);
     void select(const std::string& grid, const std::vector<std::size_t>& rows);
     void close(const std::string& window);
-    void spin(const std::string& control, int direction, Design::SpinMode mode = Design::SpinMode::click);
+    void spin(const std::string& control, int direction, ArrowHold hold = ArrowHold::click);
     void spinReleased();
+
+    /// What a double click on the cell of a field does; nothing for a name without a field.
     void openValue(const std::string& field);
 
     /// A number of a window by its name, "frmOptimal.txtNumReps(1)", within its limits.
@@ -134,44 +109,45 @@ public:
     /// Runs after every event, when all display models are right again.
     void whenShown(std::function<void()> redraw) { events_.whenShown(std::move(redraw)); }
 
+    const Session& session() const noexcept { return session_; }
+    const Design& design() const noexcept { return design_; }
+    const CommandBook& commands() const noexcept { return commands_; }
+    const SmallDialogs& dialogs() const noexcept { return dialogs_; }
     const ScenarioWindow& scenarioWindow() const noexcept { return scenarioWindow_; }
     const OptimalWindow& optimalWindow() const noexcept { return optimalWindow_; }
-    OptimalWindow& optimalWindow() noexcept { return optimalWindow_; }
     const StartScreen& startScreen() const noexcept { return startScreen_; }
     const Details& details() const noexcept { return details_; }
     const MdesWindow& mdesWindow() const noexcept { return mdesWindow_; }
-    const SmallDialogs& dialogs() const noexcept { return dialogs_; }
 
     const ControlRegistry& names() const noexcept { return names_; }
-    const Grid* grid(std::string_view name) const { return names_.grid(name); }
-    const Design& design() const noexcept { return design_; }
-    const StudyFields& fields() const noexcept { return design_.fields(); }
+    std::vector<ScenarioLine> scenarios() const { return scenarioLines(session_.scenarios()); }
 
 private:
     bool offerLeftBehind();
+    void follow(const Changed& changed);
+    void registerNames();
     void registerPanels();
-    void disableToolsWithoutSubject();
-    std::string nearestTool(const std::string& name) const;
-    const StudyField& knownField(const std::string& name) const;
-    enum class Kind { choices, values };
-    void check(std::span<const Assignment> values, Kind kind, ValueSource source) const;
-    void applyChoices(std::span<const Assignment> values);
-    void write(std::span<const Assignment> values);
+    void announce();
+    void showAgain();
     template <typename Event>
     void handle(Event event);
 
+    NoProgress noProgress_;
+    MemoryClipboard noClipboard_;
+    SteadyClock steadyClock_;
     Platform platform_;
+    Session session_;
     Design design_;
     SmallDialogs dialogs_;
     Details details_;
     MdesWindow mdesWindow_;
-    ScenarioGrid scenarios_;
     ScenarioWindow scenarioWindow_;
     RecentFiles recent_;
+    StudyStore store_;
     StudyFiles studyFiles_;
     StartScreen startScreen_;
-    NoProgress noProgress_;
     OptimalWindow optimalWindow_;
+    CommandBook commands_;
     ControlRegistry names_;
     EventRegistry events_;
 };

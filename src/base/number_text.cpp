@@ -1,6 +1,7 @@
 // Numbers as text.
 #include "base/number_text.h"
 
+#include <array>
 #include <charconv>
 #include <cmath>
 #include <limits>
@@ -69,12 +70,6 @@ std::string fixedText(double value, int decimals) {
     if (value < 0 && !isZeroText(digits))
         digits.insert(digits.begin(), '-');
     return digits;
-}
-
-std::string formatNumber(double value, std::string_view format) {
-    const std::size_t point = format.find('.');
-    const std::size_t decimals = point == std::string_view::npos ? 0 : format.size() - point - 1;
-    return fixedText(value, static_cast<int>(decimals));
 }
 
 std::string groupedText(std::int64_t value) {

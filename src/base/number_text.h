@@ -2,17 +2,12 @@
 // Independent of the system's locale: the decimal sign is a point, thousands are parted by commas.
 #pragma once
 
-#include <array>
 #include <cstdint>
 #include <optional>
 #include <string>
 #include <string_view>
 
 namespace lorvane {
-
-/// Formats of a number with 0 to 5 decimals, indexed by a field's FmtDecDigits.
-inline constexpr std::array<std::string_view, 6> DecimalFormats = {"0",     "0.0",    "0.00",
-                                                                   "0.000", "0.0000", "0.00000"};
 
 /// The shortest decimal text, without exponent, that reads back as the same double ("0.1", "1000000").
 /// A zero has no sign. Infinities and NaN give "inf", "-inf", "nan".
@@ -21,9 +16,6 @@ std::string shortestText(double value);
 /// The value with a fixed number of decimals (0 or more), rounded half away from zero on its shortest
 /// decimal text, so that 0.125 gives "0.13" and 0.285 gives "0.29". A result of zero has no sign.
 std::string fixedText(double value, int decimals);
-
-/// The value in one of the formats "0", "0.0", "0.00", ...: fixedText with the decimals of the format.
-std::string formatNumber(double value, std::string_view format);
 
 /// A whole number with thousands parted by commas: the format "###,###,###,##0".
 std::string groupedText(std::int64_t value);

@@ -6,6 +6,7 @@
 #include <ostream>
 
 #include "base/number_text.h"
+#include "session/assignments.h"
 
 namespace lorvane {
 
@@ -13,23 +14,22 @@ namespace {
 
 constexpr std::size_t labelWidth = 20;
 
-std::vector<Assignment> assignments(const std::vector<std::string>& settings,
-                                    const Application& application) {
+std::vector<Assignment> assignments(const std::vector<std::string>& settings) {
     std::vector<Assignment> values;
     for (const std::string& setting : settings) {
         const std::size_t sign = setting.find('=');
         if (sign == std::string::npos)
             throw UseProblem("--set takes FIELD=VALUE, not \"" + setting + "\".");
-        values.push_back(application.parse(setting.substr(0, sign), setting.substr(sign + 1)));
+        values.push_back(parseAssignment(setting.substr(0, sign), setting.substr(sign + 1)));
     }
     return values;
 }
 
 }  // namespace
 
-void applySettings(const std::vector<std::string>& settings, Application& application) {
+void applySettings(const std::vector<std::string>& settings, Session& session) {
     if (!settings.empty())
-        application.set(assignments(settings, application));
+        setValues(session, assignments(settings));
 }
 
 std::string capitalised(std::string text) {

@@ -1,16 +1,35 @@
-// What the commands for people share: options that set fields, and lines of an answer.
+// What the commands for people share: the study that they work on, options that set fields, lines of an
+// answer.
 #pragma once
 
 #include <iosfwd>
 #include <string>
 #include <vector>
 
-#include "app/application.h"
+#include "persistence/study_store.h"
+#include "platform/file_store.h"
+#include "session/session.h"
 
 namespace lorvane {
 
+// Exit codes of the command line.
+namespace ExitCodes {
+inline constexpr int done = 0;
+inline constexpr int noAnswer = 1;
+inline constexpr int wrongUse = 2;
+inline constexpr int fileFailed = 3;
+}  // namespace ExitCodes
+
+/// A session without a screen, the files around it, and where answers go.
+struct CommandLine {
+    Session& session;
+    const StudyStore& store;
+    std::ostream& out;
+    std::ostream& errors;
+};
+
 /// Carries out "FIELD=VALUE" options. Throws UseProblem and changes nothing then.
-void applySettings(const std::vector<std::string>& settings, Application& application);
+void applySettings(const std::vector<std::string>& settings, Session& session);
 
 /// One line of an answer: a label, filled up with blanks, and a value.
 void printLine(std::ostream& out, std::string label, const std::string& value);

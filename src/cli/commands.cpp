@@ -7,9 +7,9 @@
 #include <ostream>
 
 #include "base/number_text.h"
-#include "cli/command_words.h"
 #include "cli/json_text.h"
-#include "engine/effect_metrics.h"
+#include "persistence/scenario_list.h"
+#include "session/answers.h"
 
 namespace lorvane {
 
@@ -17,59 +17,33 @@ namespace {
 
 using Json = nlohmann::ordered_json;
 
-struct Effect {
-    std::string name;
-    double value;
-};
-
-Effect effectOf(const Study& s) {
-    const std::string name(GetESName(s));
-    if (s.isMeans())
-        return {name + (s.DType == DTypes::within ? ", d (within)" : ", d (total)"), s.txtd};
-    switch (s.BinaryType) {
-    case BinaryTypes::oddsRatio:
-        return {name, s.txtOR};
-    case BinaryTypes::riskRatio:
-        return {name, s.txtRR};
-    case BinaryTypes::riskDifference:
-        return {name, s.txtRD};
-    default:
-        return {name, s.txtP2};
+void printPowerLines(const Session& session, std::ostream& out) {
+    const PowerResult& result = session.study().result;
+    const EffectAnswer effect = effectOf(session.study());
+    if (hasPower(session)) {
+        printLine(out, "Power", fixedText(result.txtPower, 4));
+        printLine(out, "Critical value", fixedText(result.txtCritT, 4));
+        printLine(out, "Degrees of freedom", shortestText(result.xdf));
+        printLine(out, "Lambda", fixedText(result.xLambda, 4));
     }
-}
-
-std::string costText(const Application& application) {
-    const std::int32_t cost = application.design().study().result.txtCost;
-    return cost < 1 ? "n/a" : ReFormatCurrency(cost, application.design().settings().currency);
-}
-
-void printPowerLines(const Application& application, std::ostream& out) {
-    const Study& s = application.design().study();
-    const Effect effect = effectOf(s);
-    if (application.hasPower()) {
-        printLine(out, "Power", fixedText(s.result.txtPower, 4));
-        printLine(out, "Critical value", fixedText(s.result.txtCritT, 4));
-        printLine(out, "Degrees of freedom", shortestText(s.result.xdf));
-        printLine(out, "Lambda", fixedText(s.result.xLambda, 4));
-    }
-    printLine(out, "Cost", costText(application));
+    printLine(out, "Cost", costText(result.txtCost, session.settings().currency));
     printLine(out, "Effect", capitalised(effect.name) + " " + shortestText(effect.value));
 }
 
-Json powerJson(const Application& application) {
-    const Study& s = application.design().study();
-    const bool valid = application.hasPower();
+Json powerJson(const Session& session) {
+    const PowerResult& result = session.study().result;
+    const bool valid = hasPower(session);
     const auto ifValid = [&](double value) { return valid ? Json(value) : Json(); };
-    const Effect effect = effectOf(s);
+    const EffectAnswer effect = effectOf(session.study());
     return {{"valid", valid},
-            {"power", ifValid(s.result.txtPower)},
-            {"criticalValue", ifValid(s.result.txtCritT)},
-            {"df", ifValid(s.result.xdf)},
-            {"lambda", ifValid(s.result.xLambda)},
-            {"cost", s.result.txtCost < 1 ? Json() : Json(s.result.txtCost)},
+            {"power", ifValid(result.txtPower)},
+            {"criticalValue", ifValid(result.txtCritT)},
+            {"df", ifValid(result.xdf)},
+            {"lambda", ifValid(result.xLambda)},
+            {"cost", result.txtCost < 1 ? Json() : Json(result.txtCost)},
             {"effectName", effect.name},
             {"effect", effect.value},
-            {"message", valid ? "" : application.whyNoPower()}};
+            {"message", valid ? "" : whyNoPower(session)}};
 }
 
 using Table = std::vector<std::array<std::string, 4>>;
@@ -99,46 +73,46 @@ void printTable(const Table& table, std::ostream& out) {
 
 }  // namespace
 
-int printPower(const PowerRequest& request, Application& application, std::ostream& out,
-               std::ostream& errors) {
-    application.open(request.study);
+int printPower(const PowerRequest& request, const CommandLine& line) {
+    Session& session = line.session;
+    line.store.open(session, request.study);
     if (!request.scenario.empty())
-        application.restoreScenario(request.scenario);
-    applySettings(request.settings, application);
+        restoreScenario(session, request.scenario);
+    applySettings(request.settings, session);
     if (request.json)
-        out << jsonText(powerJson(application)) << '\n';
+        line.out << jsonText(powerJson(session)) << '\n';
     else
-        printPowerLines(application, out);
-    if (application.hasPower())
+        printPowerLines(session, line.out);
+    if (hasPower(session))
         return ExitCodes::done;
-    errors << onOneLine(application.whyNoPower()) << '\n';
+    line.errors << onOneLine(whyNoPower(session)) << '\n';
     return ExitCodes::noAnswer;
 }
 
-int makeNew(const NewRequest& request, Application& application, std::ostream& out) {
-    applySettings(request.settings, application);
-    application.save(request.out);
-    out << "The file " << request.out << " has been saved.\n";
+int makeNew(const NewRequest& request, const CommandLine& line) {
+    applySettings(request.settings, line.session);
+    line.store.save(line.session, request.out);
+    line.out << "The file " << request.out << " has been saved.\n";
     return ExitCodes::done;
 }
 
-int printScenarios(const ScenariosRequest& request, Application& application, std::ostream& out) {
-    application.open(request.study);
-    const std::vector<ScenarioLine> lines = application.scenarios();
+int printScenarios(const ScenariosRequest& request, const CommandLine& line) {
+    line.store.open(line.session, request.study);
+    const std::vector<ScenarioLine> lines = scenarioLines(line.session.scenarios());
     if (request.json) {
         Json rows = Json::array();
-        for (const ScenarioLine& line : lines)
-            rows.push_back({{"name", line.name},
-                            {"description", line.description},
-                            {"power", line.power},
-                            {"cost", line.cost}});
-        out << jsonText({{"scenarios", std::move(rows)}}) << '\n';
+        for (const ScenarioLine& scenario : lines)
+            rows.push_back({{"name", scenario.name},
+                            {"description", scenario.description},
+                            {"power", scenario.power},
+                            {"cost", scenario.cost}});
+        line.out << jsonText({{"scenarios", std::move(rows)}}) << '\n';
         return ExitCodes::done;
     }
     Table table = {{"Name", "Description", "Power", "Cost"}};
-    for (const ScenarioLine& line : lines)
-        table.push_back({line.name, line.description, line.power, line.cost});
-    printTable(table, out);
+    for (const ScenarioLine& scenario : lines)
+        table.push_back({scenario.name, scenario.description, scenario.power, scenario.cost});
+    printTable(table, line.out);
     return ExitCodes::done;
 }
 

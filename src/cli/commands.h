@@ -1,21 +1,12 @@
 // The commands for people: what they print, and nothing of how options are read.
 #pragma once
 
-#include <iosfwd>
 #include <string>
 #include <vector>
 
-#include "app/application.h"
+#include "cli/command_words.h"
 
 namespace lorvane {
-
-// Exit codes of the command line.
-namespace ExitCodes {
-inline constexpr int done = 0;
-inline constexpr int noAnswer = 1;
-inline constexpr int wrongUse = 2;
-inline constexpr int fileFailed = 3;
-}  // namespace ExitCodes
 
 struct PowerRequest {
     std::string study;
@@ -35,9 +26,8 @@ struct ScenariosRequest {
 };
 
 /// Each prints its answer and returns the exit code. Throws UseProblem, FileProblem and ArithmeticFault.
-int printPower(const PowerRequest& request, Application& application, std::ostream& out,
-               std::ostream& errors);
-int makeNew(const NewRequest& request, Application& application, std::ostream& out);
-int printScenarios(const ScenariosRequest& request, Application& application, std::ostream& out);
+int printPower(const PowerRequest& request, const CommandLine& line);
+int makeNew(const NewRequest& request, const CommandLine& line);
+int printScenarios(const ScenariosRequest& request, const CommandLine& line);
 
 }  // namespace lorvane

@@ -60,7 +60,7 @@ Json set(Session& session, ScriptWords& words) {
         session.application.setNumber(name, numberOf(name, text));
         return done();
     }
-    const std::array values = {session.application.parse(name, text)};
+    const std::array values = {parseAssignment(name, text)};
     session.application.set(values);
     return done();
 }
@@ -214,7 +214,7 @@ Json spin(Session& session, ScriptWords& words) {
 Json grid(Session& session, ScriptWords& words) {
     const std::string name = words.need("The name of a grid");
     const ControlRegistry& registry = session.application.names();
-    if (const Grid* table = registry.grid(name))
+    if (const auto table = registry.grid(name))
         return jsonOf(*table);
     throw UseProblem("There is no grid \"" + name + "\"; the nearest is \"" +
                      nearestName(name, registry.gridNames()) + "\".");

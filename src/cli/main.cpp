@@ -94,30 +94,39 @@ void addDrive(CLI::App& cli, std::string& study) {
     command->footer("Example:\n  echo 'get txtPower' | lorvane-cli drive schools.Lorvane");
 }
 
+int runDrive(const std::string& study, DistributionLibrary& distributions, const SystemLocale& locale,
+             FileStore& files) {
+    ScriptedDialogs messages;
+    MemorySettings settings;
+    Application application({distributions, locale, files, messages, messages, settings, programFolder()});
+    if (study.empty())
+        application.start("");
+    else
+        application.open(study);
+    DriveSession session{application, distributions, messages};
+    drive(std::cin, std::cout, session);
+    return ExitCodes::done;
+}
+
 int runChosen(const CLI::App& cli, const Requests& requests) {
     NumericDistributionLibrary distributions;
     const EnvironmentLocale locale;
     DiskFileStore files;
-    ScriptedDialogs messages;
-    MemorySettings settings;
-    Application application({distributions, locale, files, messages, messages, settings, programFolder()});
+    if (cli.got_subcommand("drive"))
+        return runDrive(requests.driven, distributions, locale, files);
+    const SteadyClock clock;
+    Session session(distributions, detectCurrency(locale), clock);
+    const StudyStore store(files, programFolder());
+    const CommandLine line{session, store, std::cout, std::cerr};
     if (cli.got_subcommand("power"))
-        return printPower(requests.power, application, std::cout, std::cerr);
+        return printPower(requests.power, line);
     if (cli.got_subcommand("optimal"))
-        return printOptimal(requests.optimal, application, std::cout, std::cerr);
+        return printOptimal(requests.optimal, line);
     if (cli.got_subcommand("mdes"))
-        return printMdes(requests.mdes, application, std::cout, std::cerr);
+        return printMdes(requests.mdes, line);
     if (cli.got_subcommand("new"))
-        return makeNew(requests.fresh, application, std::cout);
-    if (cli.got_subcommand("scenarios"))
-        return printScenarios(requests.scenarios, application, std::cout);
-    if (requests.driven.empty())
-        application.start("");
-    else
-        application.open(requests.driven);
-    DriveSession session{application, distributions, messages};
-    drive(std::cin, std::cout, session);
-    return ExitCodes::done;
+        return makeNew(requests.fresh, line);
+    return printScenarios(requests.scenarios, line);
 }
 
 int failed(int code, const std::exception& problem) {

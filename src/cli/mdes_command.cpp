@@ -5,11 +5,11 @@
 #include <ostream>
 
 #include "base/number_text.h"
-#include "cli/command_words.h"
-#include "cli/commands.h"
+#include "base/use_problem.h"
 #include "cli/json_text.h"
 #include "engine/effect_metrics.h"
 #include "search/mdes_texts.h"
+#include "session/answers.h"
 
 namespace lorvane {
 
@@ -20,8 +20,8 @@ using Json = nlohmann::ordered_json;
 constexpr double lowestPower = 0.01;
 constexpr double highestPower = 0.999;
 
-double requiredPower(const MdesRequest& request, const Application& application) {
-    const double power = request.power.value_or(application.design().study().ReqPower);
+double requiredPower(const MdesRequest& request, const Study& study) {
+    const double power = request.power.value_or(study.ReqPower);
     if (request.power && !(power >= lowestPower && power <= highestPower))
         throw UseProblem("--power takes a power from 0.01 to 0.999, not " + shortestText(power) + ".");
     return power;
@@ -33,10 +33,10 @@ std::string words(const Study& s, const MdesResult& result) {
 }
 
 // Why there is no effect; empty when there is one.
-std::string whyNothing(const Application& application, const MdesResult& result) {
-    if (result.outcome == MdesOutcome::problem && !application.hasPower())
-        return onOneLine(application.whyNoPower());
-    return result.outcome == MdesOutcome::found ? "" : onOneLine(words(application.design().study(), result));
+std::string whyNothing(const Session& session, const MdesResult& result) {
+    if (result.outcome == MdesOutcome::problem && !hasPower(session))
+        return onOneLine(whyNoPower(session));
+    return result.outcome == MdesOutcome::found ? "" : onOneLine(words(session.study(), result));
 }
 
 void printFound(const Study& s, double required, const MdesResult& result, std::ostream& out) {
@@ -69,20 +69,21 @@ Json mdesJson(const Study& s, double required, const MdesResult& result, const s
 
 }  // namespace
 
-int printMdes(const MdesRequest& request, Application& application, std::ostream& out, std::ostream& errors) {
-    application.open(request.study);
-    applySettings(request.settings, application);
-    const double required = requiredPower(request, application);
-    const MdesResult result = application.findMDES(required);
-    const Study& study = application.design().study();
-    const std::string why = whyNothing(application, result);
+int printMdes(const MdesRequest& request, const CommandLine& line) {
+    Session& session = line.session;
+    line.store.open(session, request.study);
+    applySettings(request.settings, session);
+    const Study& study = session.study();
+    const double required = requiredPower(request, study);
+    const MdesResult result = FindMDES(session.trial(), required);
+    const std::string why = whyNothing(session, result);
     if (request.json)
-        out << jsonText(mdesJson(study, required, result, why)) << '\n';
+        line.out << jsonText(mdesJson(study, required, result, why)) << '\n';
     else if (result.outcome == MdesOutcome::found)
-        printFound(study, required, result, out);
+        printFound(study, required, result, line.out);
     if (result.outcome == MdesOutcome::found)
         return ExitCodes::done;
-    errors << why << '\n';
+    line.errors << why << '\n';
     return ExitCodes::noAnswer;
 }
 

@@ -1,12 +1,11 @@
 // The command for the smallest detectable effect.
 #pragma once
 
-#include <iosfwd>
 #include <optional>
 #include <string>
 #include <vector>
 
-#include "app/application.h"
+#include "cli/command_words.h"
 
 namespace lorvane {
 
@@ -19,6 +18,6 @@ struct MdesRequest {
 
 /// Prints the effect in numbers and words and returns the exit code. Throws UseProblem, FileProblem and
 /// ArithmeticFault.
-int printMdes(const MdesRequest& request, Application& application, std::ostream& out, std::ostream& errors);
+int printMdes(const MdesRequest& request, const CommandLine& line);
 
 }  // namespace lorvane

@@ -6,9 +6,12 @@
 #include <ostream>
 
 #include "base/number_text.h"
-#include "cli/command_words.h"
-#include "cli/commands.h"
+#include "base/use_problem.h"
 #include "cli/json_text.h"
+#include "search/optimal_texts.h"
+#include "session/answers.h"
+#include "session/assignments.h"
+#include "session/structure.h"
 
 namespace lorvane {
 
@@ -17,30 +20,64 @@ namespace {
 using Json = nlohmann::ordered_json;
 
 // "2=5": level 2 gets 5 units per unit above.
-void fix(const std::string& text, Application& application) {
+void fix(const std::string& text, int top, OptimalOptions& options) {
     const std::size_t sign = text.find('=');
     const auto level = readNumber(text.substr(0, sign));
     const auto size = sign == std::string::npos ? std::nullopt : readNumber(text.substr(sign + 1));
-    const int top = application.design().study().NumLevels;
     const auto isWhole = [](double value) { return value == std::floor(value); };
     if (!level || !size || !isWhole(*level) || !isWhole(*size) || *level < 1 || *level >= top || *size < 1 ||
         *size > 1000000)
         throw UseProblem("--fix takes LEVEL=N with a level below the top, 1 to " + std::to_string(top - 1) +
                          ", and a whole number of units from 1 to 1000000, not \"" + text + "\".");
-    application.optimalWindow().setByHand(static_cast<int>(*level), *size);
+    options.manual(static_cast<int>(*level)) = true;
+    options.numReps(static_cast<int>(*level)) = *size;
 }
 
-void search(const OptimalRequest& request, Application& application) {
-    OptimalWindow& wizard = application.optimalWindow();
+OptimalOptions optionsOf(const OptimalRequest& request, const Session& session) {
     if (request.power && !(*request.power > 0 && *request.power < 1))
         throw UseProblem("--power takes a power above 0 and below 1, not " + shortestText(*request.power) +
                          ".");
-    wizard.DisplayOptimalOptions();
-    if (request.power)
-        wizard.requirePower(*request.power);
+    OptimalOptions options;
+    options.numReps.fill(1);
+    options.iterations = session.settings().IterationsForOptimal;
+    options.power = request.power.value_or(session.study().ReqPower);
+    options.allowLowCellCounts = session.settings().AllowLowCellCounts;
     for (const std::string& text : request.fixes)
-        fix(text, application);
-    wizard.ComputeOptimalDesign();
+        fix(text, session.study().NumLevels, options);
+    return options;
+}
+
+/// The search for one request, and what it tells.
+struct Answer {
+    OptimalResult result;
+    std::string cost;
+    std::string notes;
+    std::string why;  ///< why nothing was found; empty when something was
+    bool found() const { return why.empty(); }
+};
+
+Answer search(const OptimalRequest& request, Session& session) {
+    Answer answer;
+    if (!hasPower(session)) {
+        answer.why = onOneLine(whyNoPower(session));
+        return answer;
+    }
+    const OptimalOptions options = optionsOf(request, session);
+    NoProgress unwatched;
+    answer.result = searchOptimalDesign(session.trial(), options, unwatched);
+    session.keepSearchOutcome(answer.result.flags);
+    if (answer.result.ending != OptimalEnding::found) {
+        const OptimalFailure failure =
+            optimalFailure(answer.result.ending, readinessProblems(session.study()));
+        const std::string title = onOneLine(failure.title);
+        answer.why = title + (title.empty() ? "" : ". ") + onOneLine(failure.text);
+        return answer;
+    }
+    const Currency& currency = session.settings().currency;
+    answer.cost = optimalCostText(answer.result, currency);
+    for (const std::string& note : optimalNotes(session.study(), answer.result, options, currency))
+        answer.notes += (answer.notes.empty() ? "" : "\n\n") + note;
+    return answer;
 }
 
 std::string sizeWords(const Study& s, int level, double size) {
@@ -52,69 +89,52 @@ std::string sizeWords(const Study& s, int level, double size) {
     return words;
 }
 
-void printFound(const Application& application, const OptimalResult& result, std::ostream& out) {
-    const Study& s = application.design().study();
-    const Trial& best = result.cheapest();
-    printLine(out, "Cost", application.optimalWindow().costFigure());
+void printFound(const Study& s, const Answer& answer, std::ostream& out) {
+    const Trial& best = answer.result.cheapest();
+    printLine(out, "Cost", answer.cost);
     printLine(out, "Power", fixedText(best.power, 4));
     for (int level = s.NumLevels; level >= 1; --level)
         printLine(out, s.txtName(level), sizeWords(s, level, best.sizes(level)));
-    const std::string& notes = application.optimalWindow().pnlAdjustInner().Caption;
-    if (!notes.empty())
-        out << '\n' << notes << '\n';
+    if (!answer.notes.empty())
+        out << '\n' << answer.notes << '\n';
 }
 
-Json optimalJson(const Application& application, const OptimalResult* result, const std::string& why) {
-    const Study& s = application.design().study();
+Json optimalJson(const Study& s, const Answer& answer) {
     Json sizes = Json::array();
-    for (int level = 1; result != nullptr && level <= s.NumLevels; ++level)
+    for (int level = 1; answer.found() && level <= s.NumLevels; ++level)
         sizes.push_back({{"level", level},
                          {"name", s.txtName(level)},
                          {"blocked", s.isBlocked(level)},
-                         {"size", result->cheapest().sizes(level)}});
-    return {{"found", result != nullptr},
-            {"cost", result == nullptr ? Json() : Json(result->cheapest().cost)},
-            {"power", result == nullptr ? Json() : Json(result->cheapest().power)},
+                         {"size", answer.result.cheapest().sizes(level)}});
+    return {{"found", answer.found()},
+            {"cost", answer.found() ? Json(answer.result.cheapest().cost) : Json()},
+            {"power", answer.found() ? Json(answer.result.cheapest().power) : Json()},
             {"sizes", std::move(sizes)},
-            {"notes", result == nullptr ? "" : application.optimalWindow().pnlAdjustInner().Caption},
-            {"message", why}};
-}
-
-// Why nothing was found: the wizard's title and text.
-std::string whyNothing(const Application& application) {
-    const OptimalWindow& wizard = application.optimalWindow();
-    std::string why = onOneLine(wizard.pnlOptimalTitle().Caption);
-    why += why.empty() ? "" : ". ";
-    return why + onOneLine(wizard.pnlOptimalInner().Caption);
+            {"notes", answer.notes},
+            {"message", answer.why}};
 }
 
 }  // namespace
 
-int printOptimal(const OptimalRequest& request, Application& application, std::ostream& out,
-                 std::ostream& errors) {
-    application.open(request.study);
-    applySettings(request.settings, application);
+int printOptimal(const OptimalRequest& request, const CommandLine& line) {
+    Session& session = line.session;
+    line.store.open(session, request.study);
+    applySettings(request.settings, session);
     if (request.iterations)
-        application.set(
-            std::vector<Assignment>{{"IterationsForOptimal", static_cast<double>(*request.iterations)}});
-    const bool computable = application.hasPower();
-    if (computable)
-        search(request, application);
-    const OptimalResult* result = computable ? application.optimalWindow().result() : nullptr;
-    const std::string why = result != nullptr ? ""
-                            : computable      ? whyNothing(application)
-                                              : onOneLine(application.whyNoPower());
+        setValues(session, std::vector<Assignment>{
+                               {"IterationsForOptimal", static_cast<double>(*request.iterations)}});
+    const Answer answer = search(request, session);
     if (request.json)
-        out << jsonText(optimalJson(application, result, why)) << '\n';
-    else if (result != nullptr)
-        printFound(application, *result, out);
-    if (result == nullptr) {
-        errors << why << '\n';
+        line.out << jsonText(optimalJson(session.study(), answer)) << '\n';
+    else if (answer.found())
+        printFound(session.study(), answer, line.out);
+    if (!answer.found()) {
+        line.errors << answer.why << '\n';
         return ExitCodes::noAnswer;
     }
     if (!request.out.empty()) {
-        application.optimalWindow().paste();
-        application.save(request.out);
+        pasteSizes(session, answer.result.cheapest().sizes);
+        line.store.save(session, request.out);
     }
     return ExitCodes::done;
 }

@@ -1,12 +1,11 @@
 // The command for the cheapest design.
 #pragma once
 
-#include <iosfwd>
 #include <optional>
 #include <string>
 #include <vector>
 
-#include "app/application.h"
+#include "cli/command_words.h"
 
 namespace lorvane {
 
@@ -22,7 +21,6 @@ struct OptimalRequest {
 
 /// Prints the sizes, the cost, the power and the notes, and returns the exit code. Throws UseProblem,
 /// FileProblem and ArithmeticFault.
-int printOptimal(const OptimalRequest& request, Application& application, std::ostream& out,
-                 std::ostream& errors);
+int printOptimal(const OptimalRequest& request, const CommandLine& line);
 
 }  // namespace lorvane

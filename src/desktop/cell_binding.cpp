@@ -1,60 +1,71 @@
 // Ties a cell on the screen to its model.
 #include "desktop/cell_binding.h"
 
-#include <utility>
-
+#include "base/names.h"
 #include "desktop/menus.h"
-#include "screen/field_words.h"
 
 namespace lorvane::desktop {
 
-CellBinding::CellBinding(Desk& desk, Menus& menus, CellNames names, const Cell& model,
-                         ValueCell::Kind changeable, ValueCell* widget)
-    : desk_(desk), names_(std::move(names)), model_(model), changeable_(changeable), widget_(widget) {
-    connectEvents(menus);
+namespace {
+
+std::string nameOf(std::string_view stem, FieldRef field) {
+    return field->index == FieldIndex::none ? std::string(stem) : indexedName(stem, field.index);
 }
 
-// A cell without arrows is the second of a linked pair where it belongs to an arm, and fixed otherwise.
-ValueCell::Kind CellBinding::kind() const {
-    if (model_.spinVisible)
-        return changeable_;
-    if (changeable_ == ValueCell::Kind::Choice)
-        return ValueCell::Kind::FixedChoice;
-    return model_.arm.empty() ? ValueCell::Kind::ReadOnly : ValueCell::Kind::Linked;
+// The band of a right click; a pattern has the level in it.
+std::string menuOf(FieldRef field) {
+    std::string menu(field->cell.menu);
+    const std::size_t level = menu.find("{}");
+    return level == std::string::npos ? menu : menu.replace(level, 2, std::to_string(field.index));
+}
+
+// The look of a state. A choice of words stands at the left.
+ValueCell::Kind kindOf(FieldRef field, CellState state) {
+    const bool choice = field->cell.form == CellForm::model;
+    switch (state) {
+    case CellState::changeable:
+        return choice ? ValueCell::Kind::Choice : ValueCell::Kind::Spin;
+    case CellState::linked:
+        return ValueCell::Kind::Linked;
+    case CellState::fixed:
+        break;
+    }
+    return choice ? ValueCell::Kind::FixedChoice : ValueCell::Kind::ReadOnly;
+}
+
+}  // namespace
+
+CellBinding::CellBinding(Desk& desk, Menus& menus, FieldRef field, const Cell& model, ValueCell* widget)
+    : desk_(desk), field_(field), panel_(nameOf(field->cell.stem, field)), model_(model), widget_(widget) {
+    connectEvents(menus);
 }
 
 void CellBinding::sync() {
     widget_->setVisible(model_.Visible);
     if (!model_.Visible)
         return;
-    widget_->setKind(kind());
+    widget_->setKind(kindOf(field_, model_.state));
     widget_->setText(shownText(model_.number));
-    const QString words = shownText(fieldWords(desk_.study(), names_.field));
+    const QString words = shownText(model_.words);
     if (widget_->accessibleName() != words)
         widget_->setAccessibleName(words);
 }
 
 void CellBinding::connectEvents(Menus& menus) {
+    const std::string spin = nameOf(field_->spin, field_);
     QObject::connect(widget_, &ValueCell::stepped, &desk_,
-                     [this](int direction) { desk_.spin(names_.spin, direction, Design::SpinMode::tick); });
+                     [this, spin](int direction) { desk_.spin(spin, direction, ArrowHold::tick); });
     QObject::connect(widget_, &ValueCell::stepFinished, &desk_, [this] { desk_.spinReleased(); });
-    QObject::connect(widget_, &ValueCell::activated, &desk_, [this] { activate(); });
-    QObject::connect(widget_, &ValueCell::contextMenuRequested, &desk_,
-                     [this, &menus](const QPoint& place) { menus.popup(names_.popup, place); });
+    QObject::connect(widget_, &ValueCell::activated, &desk_, [this] { desk_.openValue(field_.name()); });
+    QObject::connect(
+        widget_, &ValueCell::contextMenuRequested, &desk_,
+        [this, &menus, menu = menuOf(field_)](const QPoint& place) { menus.popup(menu, place); });
     QObject::connect(widget_, &ValueCell::focused, &desk_, [this] {
-        const QString hint = desk_.hintOf(names_.field);
+        const QString hint = desk_.hintOf(field_);
         widget_->setAccessibleDescription(hint);
         emit desk_.hinted(hint);
-        desk_.click(names_.panel);
+        desk_.click(panel_);
     });
-}
-
-// A choice of two goes over to the other one; a number opens for typing.
-void CellBinding::activate() {
-    if (changeable_ == ValueCell::Kind::Choice)
-        desk_.spin(names_.spin, model_.number == "Fixed" ? -1 : 1);
-    else
-        desk_.openValue(names_.field);
 }
 
 }  // namespace lorvane::desktop

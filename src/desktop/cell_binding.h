@@ -10,34 +10,27 @@ namespace lorvane::desktop {
 
 class Menus;
 
-/// The names that belong to one cell.
-struct CellNames {
-    std::string panel;  ///< clicked for details
-    std::string spin;   ///< its arrows
-    std::string field;  ///< its value dialog
-    std::string popup;  ///< band of its right click; empty for none
-};
-
 class CellBinding {
 public:
-    CellBinding(Desk& desk, Menus& menus, CellNames names, const Cell& model, ValueCell::Kind changeable,
-                ValueCell* widget);
+    /// The cell of a field on the study screen.
+    CellBinding(Desk& desk, Menus& menus, FieldRef field, const Cell& model, ValueCell* widget);
 
     /// Copies what has changed from the model.
     void sync();
 
     ValueCell* widget() const { return widget_; }
-    const CellNames& names() const { return names_; }
+    FieldRef field() const { return field_; }
+
+    /// Name of the panel, "pnlNT(2)", which is clicked for details.
+    const std::string& panel() const { return panel_; }
 
 private:
-    ValueCell::Kind kind() const;
     void connectEvents(Menus& menus);
-    void activate();
 
     Desk& desk_;
-    CellNames names_;
+    FieldRef field_;
+    std::string panel_;
     const Cell& model_;
-    ValueCell::Kind changeable_;
     ValueCell* widget_;
 };
 

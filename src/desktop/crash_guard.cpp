@@ -15,7 +15,7 @@ CrashGuard::CrashGuard(Desk& desk, UnsavedStore& store, int interval) : desk_(de
 
 // A saved study needs no picture; a changed one gets one when the time has come.
 void CrashGuard::follow() {
-    if (desk_.design().isAsSaved())
+    if (desk_.session().isAsSaved())
         forget();
     else if (!timer_.isActive())
         timer_.start();

@@ -4,7 +4,7 @@
 #include <QFile>
 
 #include "base/arithmetic_fault.h"
-#include "screen/field_words.h"
+#include "session/field_words.h"
 
 namespace lorvane::desktop {
 
@@ -40,8 +40,8 @@ void Desk::close(const std::string& window) {
     act([&] { application_.close(window); });
 }
 
-void Desk::spin(const std::string& control, int direction, Design::SpinMode mode) {
-    act([&] { application_.spin(control, direction, mode); });
+void Desk::spin(const std::string& control, int direction, ArrowHold hold) {
+    act([&] { application_.spin(control, direction, hold); });
 }
 
 void Desk::spinReleased() {
@@ -68,11 +68,7 @@ void Desk::askAndOpen(const QString& path) {
     act([&] { application_.askAndOpen(QFile::encodeName(path).toStdString()); });
 }
 
-QString Desk::hintOf(const std::string& field) const {
-    const StudyField* found = design().fields().find(field);
-    const int decimals = found == nullptr || found->FmtDecDigits == nullptr ? 0 : *found->FmtDecDigits;
-    return shownText(fieldHint(study(), design().settings(), field, decimals));
-}
+QString Desk::hintOf(FieldRef field) const { return shownText(fieldHint(session().state(), field)); }
 
 void Desk::suspend() { application_.suspendForms(); }
 

@@ -17,13 +17,14 @@ public:
 
     const Application& application() const { return application_; }
     const Design& design() const { return application_.design(); }
-    const Study& study() const { return design().study(); }
+    const Session& session() const { return application_.session(); }
+    const Study& study() const { return session().study(); }
 
     void tool(const std::string& name);
     void click(const std::string& control);
     void type(const std::string& control, const QString& text);
     void close(const std::string& window);
-    void spin(const std::string& control, int direction, Design::SpinMode mode = Design::SpinMode::click);
+    void spin(const std::string& control, int direction, ArrowHold hold = ArrowHold::click);
     void spinReleased();
     void openValue(const std::string& field);
     void setNumber(const std::string& name, double value);
@@ -42,7 +43,7 @@ public:
     void restore();
 
     /// What a field is and which keys change it.
-    QString hintOf(const std::string& field) const;
+    QString hintOf(FieldRef field) const;
 
 signals:
     /// All models are right again; windows copy what has changed.

@@ -1,5 +1,4 @@
-// The small dialogs: a heading, a line of sense, the fields, their limits, the buttons. One class serves all;
-// what differs stands in a table.
+// The small dialogs: a heading, a line of sense, the fields, their limits, the buttons. One class serves all.
 #pragma once
 
 #include <functional>
@@ -7,6 +6,7 @@
 #include <vector>
 
 #include "desktop/panel_view.h"
+#include "screen/dialog.h"
 
 class QLabel;
 
@@ -15,38 +15,13 @@ namespace lorvane::desktop {
 class PushButton;
 class TextField;
 
-struct DialogField {
-    std::string control;  ///< "frmAlpha.txtAlpha"
-    const TextBox* box;
-    std::function<std::string()> label;
-};
-
-struct DialogButton {
-    std::string control;
-    const char* caption;
-    bool primary;
-};
-
-struct DialogModel {
-    std::string name;  ///< "frmAlpha"
-    std::function<bool()> isOpen;
-    std::function<std::string()> title;
-    std::function<std::string()> sense;
-    std::function<std::string()> limits;
-    std::vector<DialogField> fields;
-    std::vector<DialogButton> buttons;
-};
-
-/// The dialogs of the study screen.
-std::vector<DialogModel> dialogModels(const Desk& desk);
-
 class DialogView final : public PanelView {
     Q_OBJECT
 
 public:
-    DialogView(Desk& desk, ToolPanel* panel, DialogModel model);
+    DialogView(Desk& desk, ToolPanel* panel, const Dialog& model, std::function<bool()> isOpen);
 
-    bool isOpen() const override { return model_.isOpen(); }
+    bool isOpen() const override { return isOpen_(); }
     void sync() override;
 
 private:
@@ -57,11 +32,14 @@ private:
         TextField* field;
         std::string shown;  ///< text of the model that the field shows
     };
-    void addField();
+    void addField(const DialogField& model);
     void addButtons();
     void press(const DialogButton& button);
+    void syncField(std::size_t number, bool opened);
+    void focusFirst();
 
-    DialogModel model_;
+    const Dialog& model_;
+    std::function<bool()> isOpen_;
     QLabel* heading_;
     QLabel* sense_;
     QLabel* limits_;

@@ -13,7 +13,7 @@
 #include "desktop/kit/span_plot.h"
 #include "desktop/kit/text_style.h"
 #include "desktop/menus.h"
-#include "screen/field_words.h"
+#include "session/field_words.h"
 
 namespace lorvane::desktop {
 
@@ -81,9 +81,9 @@ ValueCell* DispersionView::addCell(const PanelColumn& column, int level) {
     const std::string spin = indexedName(column.spin, level);
     const std::string field = indexedName(column.field, level);
     connect(cell, &ValueCell::stepped, this,
-            [this, spin](int direction) { desk_.spin(spin, direction, Design::SpinMode::tick); });
+            [this, spin](int direction) { desk_.spin(spin, direction, ArrowHold::tick); });
     connect(cell, &ValueCell::focused, this,
-            [this, cell, field] { cell->setAccessibleDescription(desk_.hintOf(field)); });
+            [this, cell, field] { cell->setAccessibleDescription(desk_.hintOf(*findField(field))); });
     connect(cell, &ValueCell::stepFinished, this, [this] { desk_.spinReleased(); });
     connect(cell, &ValueCell::activated, this, [this, field] { desk_.openValue(field); });
     const std::string popup = column.popup;
@@ -110,7 +110,7 @@ void DispersionView::addButton(const Button& model, const std::string& control) 
     buttons_.emplace_back(button, &model);
 }
 
-bool DispersionView::isOpen() const { return desk_.design().windows().state(window_) == WindowStates::open; }
+bool DispersionView::isOpen() const { return desk_.design().isOpen(window_); }
 
 void DispersionView::syncRow(const Row& row) {
     const Panel& unit = (*model_.units)(row.level);
@@ -131,7 +131,7 @@ void DispersionView::syncRow(const Row& row) {
                                             shownText(column.heading->Caption));
         else
             row.cells[i]->setAccessibleName(
-                shownText(fieldWords(desk_.study(), indexedName(column.field, row.level))));
+                shownText(fieldWords(desk_.study(), {&fieldOf(column.field), row.level})));
     }
 }
 

@@ -4,6 +4,7 @@
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QVBoxLayout>
+#include <algorithm>
 
 #include "desktop/kit/menu_button.h"
 #include "desktop/kit/number_label.h"
@@ -16,52 +17,31 @@ namespace {
 
 struct CellRow {
     const char* panel;
-    const char* caption;  ///< empty: the study words it
     bool large;
     int width;
 };
 
-constexpr CellRow cellRows[] = {{"pnlPrev", "", false, 94},
-                                {"pnlD", "", true, 112},
-                                {"pnlOR", "Odds ratio", true, 112},
-                                {"pnlRR", "Risk ratio", true, 112},
-                                {"pnlRD", "Risk difference", true, 112},
-                                {"pnlP2", "", true, 112},
-                                {"pnlMean", "Mean", false, 94},
-                                {"pnlSD", "SD", false, 88}};
+constexpr CellRow cellRows[] = {{"pnlPrev", false, 94}, {"pnlD", true, 112},  {"pnlOR", true, 112},
+                                {"pnlRR", true, 112},   {"pnlRD", true, 112}, {"pnlP2", true, 112},
+                                {"pnlMean", false, 94}, {"pnlSD", false, 88}};
 
-const StripCellName& namesOf(std::string_view panel) {
-    for (const StripCellName& name : stripCells) {
-        if (name.panel == panel)
-            return name;
-    }
-    return stripCells[0];
-}
-
-// The heading that follows the study, for the cells that have one.
-const Panel* headingOf(const MainScreen& screen, const std::string& panel) {
-    if (panel == "pnlD")
-        return &screen.lblD;
-    if (panel == "pnlPrev")
-        return &screen.lblPrev;
-    return panel == "pnlP2" ? &screen.lblP2 : nullptr;
-}
-
-// The cells in which the effect is stated, the others being what it refers to.
-bool statesEffect(std::string_view panel) {
-    return panel != "pnlMean" && panel != "pnlSD" && panel != "pnlPrev";
-}
-
-bool isMarked(const MainScreen& screen, std::string_view field) {
+bool isMarked(const MainScreen& screen, const std::string& panel) {
     for (int number = 1; number <= screen.outlines.last; ++number) {
-        if (screen.outlines(number).Visible && screen.outlines(number).from == field)
+        const std::vector<std::string>& around = screen.outlines(number).around;
+        if (screen.outlines(number).Visible && std::find(around.begin(), around.end(), panel) != around.end())
             return true;
     }
     return false;
 }
 
-QLabel* captionLabel(const QString& text, QWidget* parent) {
-    auto* label = new QLabel(text, parent);
+const lorvane::Field& fieldOfCell(const MainScreen& screen, std::string_view panel) {
+    const auto found = std::find_if(screen.fields.begin(), screen.fields.end(),
+                                    [&](const FieldCells& cells) { return cells.field->cell.stem == panel; });
+    return *found->field;
+}
+
+QLabel* captionLabel(QWidget* parent) {
+    auto* label = new QLabel(parent);
     label->setFont(textFont(TextStyle::Caption));
     label->setProperty("second", true);
     return label;
@@ -84,7 +64,7 @@ EffectStrip::EffectStrip(Desk& desk, Menus& menus, QWidget* parent)
     row->setSpacing(22);
     cells_.reserve(std::size(cellRows));
     for (const CellRow& cell : cellRows)
-        addCell(row, cell.panel, QString::fromUtf8(cell.caption), cell.large, cell.width);
+        addCell(row, cell.panel, cell.large, cell.width);
     addOtherForm(row);
     row->addStretch(1);
     row->addWidget(separator(this));
@@ -92,75 +72,72 @@ EffectStrip::EffectStrip(Desk& desk, Menus& menus, QWidget* parent)
     sync();
 }
 
-EffectStrip::Field EffectStrip::addField(QHBoxLayout* row, const QString& caption, QWidget* widget) {
+EffectStrip::Field EffectStrip::addField(QHBoxLayout* row, QWidget* widget) {
     auto* box = new QWidget(this);
     auto* column = new QVBoxLayout(box);
     column->setContentsMargins(0, 0, 0, 0);
     column->setSpacing(4);
-    auto* label = captionLabel(caption, box);
+    auto* label = captionLabel(box);
     column->addWidget(label);
     column->addWidget(widget, 0, Qt::AlignLeft);
     row->addWidget(box);
     return {box, label};
 }
 
-void EffectStrip::addCell(QHBoxLayout* row, const std::string& panel, const QString& caption, bool large,
-                          int width) {
-    const StripCellName& names = namesOf(panel);
+void EffectStrip::addCell(QHBoxLayout* row, const std::string& panel, bool large, int width) {
+    const MainScreen& screen = desk_.design().screen();
     auto* widget = new ValueCell(ValueCell::Kind::Spin, this);
     widget->setLarge(large);
     widget->setFixedSize(width, 30);
-    const Field field = addField(row, caption, widget);
+    const lorvane::Field& names = fieldOfCell(screen, panel);
+    const Field field = addField(row, widget);
     cells_.emplace_back(
-        std::make_unique<CellBinding>(
-            desk_, menus_,
-            CellNames{panel, std::string(names.spin), std::string(names.field), std::string(names.popup)},
-            desk_.design().screen().*names.cell, ValueCell::Kind::Spin, widget),
-        field);
+        std::make_unique<CellBinding>(desk_, menus_, FieldRef{&names, 0}, screen.cell(panel), widget), field);
 }
 
 void EffectStrip::addOtherForm(QHBoxLayout* row) {
-    otherFormValue_ = new NumberLabel(Qt::AlignLeft, this);
-    otherFormValue_->setTextRole(Role::SecondText);
-    otherFormValue_->setFixedHeight(30);
-    otherForm_ = addField(row, QString(), otherFormValue_);
-    derivedValue_ = new NumberLabel(Qt::AlignLeft, this);
-    derivedValue_->setTextRole(Role::SecondText);
-    derivedValue_->setFixedHeight(30);
-    derived_ = addField(row, QString(), derivedValue_);
+    otherFormValue_ = makeNumber();
+    otherForm_ = addField(row, otherFormValue_);
+    derivedValue_ = makeNumber();
+    derived_ = addField(row, derivedValue_);
+}
+
+NumberLabel* EffectStrip::makeNumber() {
+    auto* label = new NumberLabel(Qt::AlignLeft, this);
+    label->setTextRole(Role::SecondText);
+    label->setFixedHeight(30);
+    return label;
 }
 
 void EffectStrip::addAlpha(QHBoxLayout* row, Menus& menus) {
     alpha_ = new MenuButton(QString(), this);
     alpha_->setMenu(menus.menu("popAlpha"));
-    alpha_->setAccessibleName(tr("Alpha and tails"));
-    addField(row, tr("Alpha and tails"), alpha_);
+    alphaField_ = addField(row, alpha_);
 }
 
 void EffectStrip::sync() {
     const MainScreen& screen = desk_.design().screen();
-    const bool effectIsMarked = isMarked(screen, "pnlEffectSize");
     for (auto& [cell, field] : cells_) {
-        const StripCellName& names = namesOf(cell->names().panel);
-        field.box->setVisible((screen.*names.cell).Visible);
-        if (const Panel* heading = headingOf(screen, cell->names().panel))
-            field.caption->setText(shownText(heading->Caption));
+        const Cell& model = screen.cell(cell->panel());
+        field.box->setVisible(model.Visible);
+        field.caption->setText(shownText(model.heading));
         cell->sync();
-        const bool marked = effectIsMarked && statesEffect(cell->names().panel);
-        cell->widget()->setProblem(marked ? ValueCell::Problem::Outlined : ValueCell::Problem::None);
+        cell->widget()->setProblem(isMarked(screen, cell->panel()) ? ValueCell::Problem::Outlined
+                                                                   : ValueCell::Problem::None);
     }
-    const bool within = screen.pnldW.Visible;
-    otherForm_.box->setVisible(within || screen.pnldT.Visible);
-    otherForm_.caption->setText(within ? tr("d (within)") : tr("d (total)"));
-    otherFormValue_->setText(shownText(within ? screen.pnldW.Caption : screen.pnldT.Caption));
+    otherForm_.box->setVisible(screen.lblOther.Visible);
+    otherForm_.caption->setText(shownText(screen.lblOther.Caption));
+    otherFormValue_->setText(shownText(screen.pnlOther.Caption));
     derived_.box->setVisible(screen.SSPanel10.Visible);
     derivedValue_->setText(shownText(screen.SSPanel10.Caption));
+    alphaField_.caption->setText(shownText(screen.lblAlpha.Caption));
+    alpha_->setAccessibleName(alphaField_.caption->text());
     alpha_->setText(shownText(screen.pnlAlphaTails.Caption));
 }
 
 ValueCell* EffectStrip::cell(const std::string& panel) const {
     for (const auto& [cell, field] : cells_) {
-        if (cell->names().panel == panel)
+        if (cell->panel() == panel)
             return cell->widget();
     }
     return nullptr;

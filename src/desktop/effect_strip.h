@@ -32,8 +32,9 @@ private:
         QWidget* box;
         QLabel* caption;
     };
-    Field addField(QHBoxLayout* row, const QString& caption, QWidget* widget);
-    void addCell(QHBoxLayout* row, const std::string& panel, const QString& caption, bool large, int width);
+    Field addField(QHBoxLayout* row, QWidget* widget);
+    void addCell(QHBoxLayout* row, const std::string& panel, bool large, int width);
+    NumberLabel* makeNumber();
     void addOtherForm(QHBoxLayout* row);
     void addAlpha(QHBoxLayout* row, Menus& menus);
 
@@ -44,6 +45,7 @@ private:
     NumberLabel* otherFormValue_ = nullptr;
     Field derived_{};
     NumberLabel* derivedValue_ = nullptr;
+    Field alphaField_{};
     MenuButton* alpha_ = nullptr;
 };
 

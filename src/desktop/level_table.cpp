@@ -11,8 +11,6 @@
 #include "desktop/kit/text_style.h"
 #include "desktop/kit/theme.h"
 #include "desktop/menus.h"
-#include "desktop/role_word.h"
-#include "screen/tool_table.h"
 
 namespace lorvane::desktop {
 
@@ -31,51 +29,16 @@ constexpr int nameWidth = 150;
 constexpr int smallestGap = 18;
 constexpr int pairGap = 14;  // between covariates and R-sq
 
-enum Head {
-    levelHead,
-    unitsHead,
-    dispersionHead,
-    effectHead,
-    modelHead,
-    covariatesHead,
-    rsqHead,
-    costsHead,
-    headCount
-};
-
-// The cells that an outline goes around, by the kind of cell that it starts at.
-struct OutlinedCells {
-    std::string_view from;
-    std::array<const char*, 5> cells;
-};
-constexpr OutlinedCells outlinedCells[] = {{"pnlLevel", {"pnlQ", "pnlRsq", "pnlNT", "pnlNC", "pnlNB"}},
-                                           {"pnlQ", {"pnlQ", "pnlRsq"}},
-                                           {"pnlModel", {"pnlModel"}},
-                                           {"pnlICC", {"pnlICC", "pnlMRange"}},
-                                           {"pnlTauSq", {"pnlTauSq", "pnlDRange", "pnlOmega"}},
-                                           {"pnlCostT", {"pnlCostT", "pnlCostC", "pnlCostB"}}};
-
-std::string popupOf(std::string_view pattern, int level) {
-    if (pattern.find("{}") == std::string_view::npos)
-        return std::string(pattern);
-    return levelTool(pattern, level);
-}
-
-LevelRail::Stop stopOf(const Study& s, int level) {
-    if (level == s.RandomizedLevel)
+LevelRail::Stop stopOf(LevelRole role) {
+    switch (role) {
+    case LevelRole::randomized:
         return LevelRail::Stop::Randomized;
-    return s.isBlocked(level) ? LevelRail::Stop::Blocked : LevelRail::Stop::Nested;
-}
-
-// A head stands on one line; its caption may have two.
-QString onOneLine(const std::string& heading) { return shownText(heading).replace('\n', ' ').trimmed(); }
-
-const std::string& headingOf(const MainScreen& screen, ColumnId first, ColumnId second, ColumnId third) {
-    for (const ColumnId id : {first, second}) {
-        if (screen.column(id).heading.Visible)
-            return screen.column(id).heading.Caption;
+    case LevelRole::blocked:
+        return LevelRail::Stop::Blocked;
+    case LevelRole::nested:
+        break;
     }
-    return screen.column(third).heading.Caption;
+    return LevelRail::Stop::Nested;
 }
 
 }  // namespace
@@ -92,7 +55,7 @@ LevelTable::LevelTable(Desk& desk, Menus& menus, QWidget* parent)
 }
 
 void LevelTable::addHeads() {
-    for (int head = 0; head < headCount; ++head) {
+    for (std::size_t head = 0; head < headCount; ++head) {
         auto* label = new QLabel(this);
         label->setFont(textFont(TextStyle::CaptionStrong));
         label->setProperty("second", true);
@@ -101,40 +64,16 @@ void LevelTable::addHeads() {
     }
 }
 
-// The column that a head stands for, as the study shows it.
-std::string LevelTable::columnOf(int head) const {
-    const MainScreen& screen = desk_.design().screen();
-    const auto shown = [&](ColumnId id) { return screen.column(id).heading.Visible; };
-    switch (head) {
-    case levelHead:
-        return "colLevels";
-    case unitsHead:
-        return "colUnits";
-    case dispersionHead:
-        return shown(ColumnId::icc) ? "colICC" : "colMSpan";
-    case effectHead:
-        return shown(ColumnId::tauSq) ? "colTauSq" : shown(ColumnId::dSpan) ? "colDSpan" : "colOmega";
-    case modelHead:
-        return "colModel";
-    case costsHead:
-        return "colCost";
-    default:
-        return "colRsq";
-    }
-}
-
-// A click on a head asks for its details, a right click opens the menu of its dispersion.
+// A click on a head asks for the details of its column, a right click opens its menu.
 bool LevelTable::eventFilter(QObject* watched, QEvent* event) {
     const auto head = std::find(heads_.begin(), heads_.end(), watched);
     if (head == heads_.end())
         return Card::eventFilter(watched, event);
-    const int number = static_cast<int>(head - heads_.begin());
+    const Head& model = desk_.design().screen().heads[static_cast<std::size_t>(head - heads_.begin())];
     if (event->type() == QEvent::MouseButtonPress)
-        desk_.click(columnOf(number));
-    if (event->type() == QEvent::ContextMenu && number == dispersionHead)
-        menus_.popup("popICCView", static_cast<QContextMenuEvent*>(event)->globalPos());
-    if (event->type() == QEvent::ContextMenu && number == effectHead)
-        menus_.popup("popTauSqView", static_cast<QContextMenuEvent*>(event)->globalPos());
+        desk_.click(model.column);
+    if (event->type() == QEvent::ContextMenu)
+        menus_.popup(model.menu, static_cast<QContextMenuEvent*>(event)->globalPos());
     return false;
 }
 
@@ -145,15 +84,12 @@ void LevelTable::addLevel(Menus& menus, int level) {
             [this, &menus, level](const QPoint& at) {
                 menus.popup("popRandomize", names_(level)->mapToGlobal(at));
             });
-    for (const LevelCellName& name : levelCells) {
-        const bool choice = name.panel == "pnlModel";
-        auto* widget = new ValueCell(choice ? ValueCell::Kind::Choice : ValueCell::Kind::Spin, this);
-        cells_.push_back(std::make_unique<CellBinding>(
-            desk_, menus,
-            CellNames{indexedName(name.panel, level), indexedName(name.spin, level),
-                      indexedName(name.field, level), popupOf(name.popup, level)},
-            (desk_.design().screen().*name.cells)(level),
-            choice ? ValueCell::Kind::Choice : ValueCell::Kind::Spin, widget));
+    for (const FieldCells& cells : desk_.design().screen().fields) {
+        if (cells.field->index != FieldIndex::level)
+            continue;
+        auto* widget = new ValueCell(ValueCell::Kind::Spin, this);
+        cells_.push_back(
+            std::make_unique<CellBinding>(desk_, menus, FieldRef{cells.field, level}, cells(level), widget));
     }
     for (int arm = 0; arm < 2; ++arm) {
         unitArms_[arm](level) = new ArmLabel(this);
@@ -164,7 +100,7 @@ void LevelTable::addLevel(Menus& menus, int level) {
 CellBinding* LevelTable::binding(std::string_view stem, int level) const {
     const std::string name = indexedName(stem, level);
     for (const auto& cell : cells_) {
-        if (cell->names().panel == name)
+        if (cell->panel() == name)
             return cell.get();
     }
     return nullptr;
@@ -194,14 +130,16 @@ QSize LevelTable::minimumSizeHint() const {
     return {widths.fixed + widths.gaps * smallestGap, heightOf(compact_)};
 }
 
-// The columns that every study shows, and that of the effect where there are blocks.
+// The columns that every study shows, and that of the effect where it is shown.
 LevelTable::Widths LevelTable::widths() const {
-    const int effect = desk_.study().isHierarchical() ? 0 : effectWidth;
+    const int effect = hasEffect() ? effectWidth : 0;
     return {leftMargin + railWidth + nameWidth + 2 * (armGap + armWidth) + pairGap + rightMargin +
                 unitsWidth + dispersionWidth() + effect + modelWidth + covariatesWidth + rsqWidth +
                 costsWidth,
             effect > 0 ? 6 : 5};
 }
+
+bool LevelTable::hasEffect() const { return desk_.design().screen().head(HeadId::effect).Visible; }
 
 // A span takes more digits than an ICC.
 int LevelTable::dispersionWidth() const {
@@ -218,7 +156,7 @@ LevelTable::Places LevelTable::places() const {
     Places p;
     p.units = {0, unitsWidth, true};
     p.dispersion = {0, dispersionWidth(), true};
-    p.effect = {0, effectWidth, !desk_.study().isHierarchical()};
+    p.effect = {0, effectWidth, hasEffect()};
     p.model = {0, modelWidth, true};
     p.covariates = {0, covariatesWidth, true};
     p.rsq = {0, rsqWidth, true};
@@ -262,7 +200,7 @@ void LevelTable::placeRow(int level) {
     const Places p = places();
     const Metrics m = metrics(compact_);
     const int middle = rowTop(level) + m.row / 2;
-    const bool blocked = desk_.study().isBlocked(level);
+    const bool blocked = desk_.design().screen().roles(level) == LevelRole::blocked;
     names_(level)->setGeometry(p.name, middle - m.row / 2 + 1, p.units.left - p.name - 8, m.row - 2);
     placePair(binding("pnlNT", level), binding("pnlNC", level), binding("pnlNB", level), p.units.left,
               p.units.width, middle);
@@ -288,7 +226,7 @@ void LevelTable::placeRail() {
     QList<LevelRail::Stop> stops;
     QList<int> centres;
     for (int level = rowCount(); level >= 1; --level) {
-        stops.append(stopOf(desk_.study(), level));
+        stops.append(stopOf(desk_.design().screen().roles(level)));
         centres.append(rowTop(level) + m.row / 2);
     }
     rail_->setGeometry(leftMargin, 0, railWidth, height());
@@ -299,8 +237,8 @@ void LevelTable::placeAll() {
     const Places p = places();
     const int lefts[headCount] = {p.name,       p.units.left,      p.dispersion.left, p.effect.left,
                                   p.model.left, p.covariates.left, p.rsq.left,        p.costs.left};
-    for (int head = 0; head < headCount; ++head)
-        heads_[static_cast<std::size_t>(head)]->setGeometry(lefts[head], 1, 150, metrics(compact_).head - 1);
+    for (std::size_t head = 0; head < headCount; ++head)
+        heads_[head]->setGeometry(lefts[head], 1, 150, metrics(compact_).head - 1);
     for (int level = lowestLevel; level <= rowCount(); ++level)
         placeRow(level);
     placeRail();
@@ -309,75 +247,56 @@ void LevelTable::placeAll() {
 
 void LevelTable::sync() {
     const MainScreen& screen = desk_.design().screen();
-    const QString texts[headCount] = {
-        shownText(screen.column(ColumnId::levels).heading.Caption),
-        shownText(screen.column(ColumnId::units).heading.Caption),
-        onOneLine(headingOf(screen, ColumnId::icc, ColumnId::mSpan, ColumnId::mSpan)),
-        onOneLine(headingOf(screen, ColumnId::tauSq, ColumnId::dSpan, ColumnId::omega)),
-        shownText(screen.column(ColumnId::model).heading.Caption),
-        tr("# Covariates"),
-        tr("R-sq"),
-        shownText(screen.column(ColumnId::cost).heading.Caption)};
-    for (int head = 0; head < headCount; ++head)
-        heads_[static_cast<std::size_t>(head)]->setText(texts[head]);
-    heads_[effectHead]->setVisible(!desk_.study().isHierarchical());
+    for (std::size_t head = 0; head < headCount; ++head) {
+        heads_[head]->setText(shownText(screen.heads[head].Caption));
+        heads_[head]->setVisible(screen.heads[head].Visible);
+    }
     for (const auto& cell : cells_)
         cell->sync();
     for (int level = lowestLevel; level <= highestLevel; ++level) {
         const bool used = screen.BpnlLevel(level).Visible;
-        const bool blocked = desk_.study().isBlocked(level);
+        const bool blocked = screen.roles(level) == LevelRole::blocked;
         names_(level)->setVisible(used);
         names_(level)->setLevel(shownText(screen.pnlName(level).Caption),
-                                roleWord(screen.pnlLevel(level).Caption),
-                                level == desk_.study().RandomizedLevel);
+                                QString::fromLatin1(roleWord(screen.roles(level))),
+                                screen.roles(level) == LevelRole::randomized);
         const auto armOf = [&](const Cell& cell, ArmLabel* label, ArmLabel::Dot dot) {
             label->setVisible(used && cell.Visible);
             label->setArm(dot, shownText(cell.arm));
         };
         using Dot = ArmLabel::Dot;
-        armOf(blocked ? screen.pnlNB(level) : screen.pnlNT(level), unitArms_[0](level),
+        armOf(screen.cell(blocked ? "pnlNB" : "pnlNT", level), unitArms_[0](level),
               blocked ? Dot::None : Dot::Treated);
-        armOf(screen.pnlNC(level), unitArms_[1](level), Dot::Control);
-        armOf(blocked ? screen.pnlCostB(level) : screen.pnlCostT(level), costArms_[0](level),
+        armOf(screen.cell("pnlNC", level), unitArms_[1](level), Dot::Control);
+        armOf(screen.cell(blocked ? "pnlCostB" : "pnlCostT", level), costArms_[0](level),
               blocked ? Dot::None : Dot::Treated);
-        armOf(screen.pnlCostC(level), costArms_[1](level), Dot::Control);
+        armOf(screen.cell("pnlCostC", level), costArms_[1](level), Dot::Control);
     }
     updateGeometry();
     placeAll();
 }
 
-// The shown cells of an outline that starts at a kind of cell, over some levels.
-QList<QWidget*> LevelTable::tint(std::string_view from, int lowest, int highest) {
+// The shown cells that an outline goes around.
+QList<QWidget*> LevelTable::tint(const std::vector<std::string>& panels) {
     QList<QWidget*> around;
-    for (const OutlinedCells& row : outlinedCells) {
-        if (row.from != from)
+    for (const std::string& panel : panels) {
+        ValueCell* found = cell(panel);
+        if (found == nullptr || found->isHidden())
             continue;
-        for (int level = lowest; level <= std::min(highest, rowCount()); ++level) {
-            for (const char* stem : row.cells) {
-                ValueCell* cell = stem == nullptr ? nullptr : binding(stem, level)->widget();
-                if (cell == nullptr || cell->isHidden())
-                    continue;
-                cell->setProblem(ValueCell::Problem::Tinted);
-                around.append(cell);
-            }
-        }
+        found->setProblem(ValueCell::Problem::Tinted);
+        around.append(found);
     }
     return around;
 }
 
-// The model names the controls between which an outline runs; the cells between them are tinted.
 void LevelTable::syncOutlines() {
     QList<Outline> outlines;
     for (const auto& cell : cells_)
         cell->widget()->setProblem(ValueCell::Problem::None);
     const auto& models = desk_.design().screen().outlines;
     for (int number = 1; number <= models.last; ++number) {
-        const lorvane::Outline& model = models(number);
-        const IndexedName from = splitName(model.from);
-        const int to = splitName(model.to).index.value_or(0);
-        if (!model.Visible || !from.index)
-            continue;
-        const QList<QWidget*> around = tint(from.stem, std::min(*from.index, to), std::max(*from.index, to));
+        const QList<QWidget*> around =
+            models(number).Visible ? tint(models(number).around) : QList<QWidget*>();
         if (!around.isEmpty())
             outlines.append({overlay_->rectangleAround(around), 5});
     }

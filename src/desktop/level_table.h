@@ -54,7 +54,7 @@ private:
                    int middle);
     void placeSingle(CellBinding* cell, int left, int width, int middle);
     void placeRail();
-    QList<QWidget*> tint(std::string_view from, int lowest, int highest);
+    QList<QWidget*> tint(const std::vector<std::string>& panels);
     void syncOutlines();
     CellBinding* binding(std::string_view stem, int level) const;
 
@@ -77,8 +77,7 @@ private:
     };
     Widths widths() const;
     int dispersionWidth() const;
-
-    std::string columnOf(int head) const;
+    bool hasEffect() const;
 
     Desk& desk_;
     Menus& menus_;

@@ -15,6 +15,7 @@
 #include "os/disk_file_store.h"
 #include "os/program_folder.h"
 #include "os/unsaved_folder.h"
+#include "qt/qt_clipboard.h"
 #include "qt/qt_file_dialogs.h"
 #include "qt/qt_locale.h"
 #include "qt/qt_message_boxes.h"
@@ -37,8 +38,9 @@ int main(int argc, char** argv) {
     QtSettingsStore settings;
     UnsavedFolder unsaved(userStateFolder());
     desktop::DeskProgress progress;
-    Application application(
-        {distributions, locale, files, messages, dialogs, settings, programFolder(), &unsaved, &progress});
+    QtClipboard clipboard;
+    Application application({distributions, locale, files, messages, dialogs, settings, programFolder(),
+                             &unsaved, &progress, &clipboard});
     desktop::Desk desk(application, messages);
     desktop::MainWindow window(desk);
     desktop::Panels panels(desk, window);

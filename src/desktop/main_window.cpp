@@ -53,14 +53,6 @@ QLabel* textLabel(TextStyle style) {
     return label;
 }
 
-// The words before a figure: what stands in the caption before the number.
-QString wordsBefore(const Cell& cell) {
-    return shownText(cell.Caption.substr(0, cell.Caption.size() - cell.number.size()));
-}
-
-// "Power = " without its sign.
-QString nameOf(const Cell& cell) { return wordsBefore(cell).section(QLatin1Char('='), 0, 0).trimmed(); }
-
 // The path of the one study file that is dragged; empty for anything else.
 QString studyOf(const QMimeData* dragged) {
     const QList<QUrl> urls = dragged->urls();
@@ -159,32 +151,38 @@ QWidget* MainWindow::makeContent() {
 
 void MainWindow::syncPower() {
     const MainScreen& screen = desk_.design().screen();
-    const Cell& power = screen.pnlPower;
+    const lorvane::Figure& power = screen.pnlPower;
     const QString note = shownText(screen.pnlPowerNote.Caption);
-    if (power.Align == Alignment::centred)
+    switch (power.state) {
+    case FigureState::request:
         power_->setContent(FigureTrouble{shownText(power.Caption), note});
-    else if (screen.pnlPowerOuter.Visible)
+        break;
+    case FigureState::bar:
         power_->setContent(
-            FigureBar{nameOf(power), shownText(power.number), screen.pnlPowerBar.Flood / 100,
-                      QStringLiteral("0"), QStringLiteral("1"),
+            FigureBar{shownText(power.name), shownText(power.number), screen.pnlPowerBar.Flood / 100,
+                      shownText(power.low), shownText(power.high),
                       FigureTick{screen.pnlPowerTick.Flood / 100, shownText(screen.pnlPowerTick.Caption)}});
-    else
-        power_->setContent(Figure{wordsBefore(power), shownText(power.number), note, screen.powerIsReached});
+        break;
+    case FigureState::digits:
+        power_->setContent(
+            Figure{shownText(power.words()), shownText(power.number), note, screen.powerIsReached});
+        break;
+    }
 }
 
 void MainWindow::syncCost() {
     const MainScreen& screen = desk_.design().screen();
-    const Cell& cost = screen.pnlCost;
-    if (screen.pnlCostOuter.Visible)
-        cost_->setContent(FigureBar{nameOf(cost),
+    const lorvane::Figure& cost = screen.pnlCost;
+    if (cost.state == FigureState::bar)
+        cost_->setContent(FigureBar{shownText(cost.name),
                                     shownText(cost.number),
                                     screen.pnlCostBar.Flood / 100,
-                                    QStringLiteral("0"),
-                                    shownText(screen.pnlMaxCost.Caption),
+                                    shownText(cost.low),
+                                    shownText(cost.high),
                                     {}});
     else
-        cost_->setContent(
-            Figure{wordsBefore(cost), shownText(cost.number), shownText(screen.pnlCostNote.Caption), false});
+        cost_->setContent(Figure{shownText(cost.words()), shownText(cost.number),
+                                 shownText(screen.pnlCostNote.Caption), false});
 }
 
 void MainWindow::sync() {

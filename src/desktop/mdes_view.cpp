@@ -10,6 +10,7 @@
 #include <QVBoxLayout>
 
 #include "desktop/kit/card.h"
+#include "desktop/kit/copy_key.h"
 #include "desktop/kit/number_label.h"
 #include "desktop/kit/push_button.h"
 #include "desktop/kit/text_style.h"
@@ -54,7 +55,8 @@ QLabel* line() {
 // Word-wrapped labels ask for too little height when a window is fitted to them.
 void setLine(QLabel* label, const std::string& text) {
     label->setText(shownText(text));
-    label->setFixedHeight(label->heightForWidth(lineWidth));
+    if (!text.empty())
+        label->setFixedHeight(label->heightForWidth(lineWidth));
     label->setVisible(!text.empty());
 }
 
@@ -71,7 +73,7 @@ MdesView::MdesView(Desk& desk, ToolPanel* panel)
     : PanelView(desk, panel, "frmMDES"), prompt_(new QLabel), band_(new Card(CardTone::Accent)),
       figure_(new QWidget), figureName_(new NumberLabel(Qt::AlignLeft)),
       figureNumber_(new NumberLabel(Qt::AlignLeft)), first_(line()), second_(line()) {
-    panel->setWindowTitle(tr("Minimum detectable effect size"));
+    panel->setWindowTitle(shownText(windowTitle(WindowId::frmMDES)));
     panel->setAttribute(Qt::WA_ShowWithoutActivating, false);
     panel->content()->setContentsMargins(padding, 26, padding, 18);
     prompt_->setFont(textFont(TextStyle::PanelHeading));
@@ -125,7 +127,7 @@ void MdesView::addShortcuts() {
     for (const Qt::Key key : {Qt::Key_Return, Qt::Key_Enter})
         press(key, [this] { desk_.click(computeButton); });
     press(Qt::Key_Escape, [this] { desk_.click(closeButton); });
-    press(QKeySequence::Copy, [this] { copy(); });
+    new CopyKey(panel(), [this] { copy(); });
 }
 
 void MdesView::copy() const {
@@ -133,9 +135,7 @@ void MdesView::copy() const {
     QGuiApplication::clipboard()->setText(lines.join(QLatin1Char('\n')).trimmed());
 }
 
-bool MdesView::isOpen() const {
-    return desk_.design().windows().state(WindowId::frmMDES) == WindowStates::open;
-}
+bool MdesView::isOpen() const { return desk_.design().isOpen(WindowId::frmMDES); }
 
 void MdesView::sync() {
     const MdesWindow& model = desk_.application().mdesWindow();
@@ -143,11 +143,10 @@ void MdesView::sync() {
     prompt_->setText(shownText(model.prompt().Caption));
     band_->setTone(look.tone);
     band_->setVisible(model.state() != MdesWindow::State::resting);
-    figureName_->setText(shownText(model.figureName().Caption) + QStringLiteral(" = "));
+    figureName_->setText(shownText(model.figureWords()));
     figureNumber_->setText(shownText(model.figureNumber().Caption));
-    const bool hasFigure = !model.figureNumber().Caption.empty();
-    figure_->setVisible(hasFigure);
-    const int above = hasFigure ? spaceOverFigure : spaceOverLines;
+    figure_->setVisible(model.hasFigure());
+    const int above = model.hasFigure() ? spaceOverFigure : spaceOverLines;
     band_->layout()->setContentsMargins(bandPadding, above, bandPadding, above);
     first_->setFont(textFont(look.firstLine));
     setLine(first_, model.firstLine().Caption);

@@ -7,7 +7,7 @@
 #include "desktop/kit/icons.h"
 #include "desktop/kit/menu_button.h"
 #include "desktop/kit/tool_button.h"
-#include "screen/tool_book.h"
+#include "screen/command_book.h"
 
 namespace lorvane::desktop {
 
@@ -17,44 +17,45 @@ constexpr const char* mainBar = "Band1";
 constexpr const char* powerTool = "Set power";
 constexpr const char* powerBand = "popSetPower";
 
-struct Shortcut {
-    std::string_view tool;
-    QKeySequence keys;
-};
-
-const Shortcut shortcuts[] = {{"Clear", Qt::CTRL | Qt::Key_N}, {"Open", Qt::CTRL | Qt::Key_O},
-                              {"Save", Qt::CTRL | Qt::Key_S},  {"SaveAs", Qt::CTRL | Qt::SHIFT | Qt::Key_S},
-                              {"Exit", Qt::CTRL | Qt::Key_Q},  {"gfrmTips", Qt::Key_F1}};
-
-struct Sign {
-    std::string_view tool;
+struct SignIcon {
+    Sign sign;
     Icon icon;
-    bool withWord;  ///< the tool bar shows its caption beside the sign
 };
 
-constexpr Sign signs[] = {{"Open", Icon::Open, false},
-                          {"Clear", Icon::New, false},
-                          {"Save", Icon::Save, false},
-                          {"Show power using digits", Icon::PowerDigits, false},
-                          {"Show power using graph", Icon::PowerBar, false},
-                          {"Show cost using digits", Icon::CostDigits, false},
-                          {"Show cost using graph", Icon::CostBar, false},
-                          {"Set maximum cost", Icon::MaxCost, false},
-                          {"gfrmOptimal", Icon::Optimal, true},
-                          {"gfrmMDES", Icon::Mdes, true},
-                          {"gfrmScenarios", Icon::Scenarios, true},
-                          {"Add scenario", Icon::AddScenario, false},
-                          {"gfrmPrint", Icon::Report, true},
-                          {"Graph", Icon::Graph, true},
-                          {"gfrmTips", Icon::Guide, true},
-                          {"gfrmDetails", Icon::Details, true}};
+constexpr SignIcon signIcons[] = {{Sign::open, Icon::Open},
+                                  {Sign::fresh, Icon::New},
+                                  {Sign::save, Icon::Save},
+                                  {Sign::powerDigits, Icon::PowerDigits},
+                                  {Sign::powerBar, Icon::PowerBar},
+                                  {Sign::costDigits, Icon::CostDigits},
+                                  {Sign::costBar, Icon::CostBar},
+                                  {Sign::maximumCost, Icon::MaxCost},
+                                  {Sign::requiredPower, Icon::Target},
+                                  {Sign::optimal, Icon::Optimal},
+                                  {Sign::mdes, Icon::Mdes},
+                                  {Sign::scenarios, Icon::Scenarios},
+                                  {Sign::addScenario, Icon::AddScenario},
+                                  {Sign::report, Icon::Report},
+                                  {Sign::graph, Icon::Graph},
+                                  {Sign::guide, Icon::Guide},
+                                  {Sign::details, Icon::Details},
+                                  {Sign::undo, Icon::Undo},
+                                  {Sign::redo, Icon::Redo},
+                                  {Sign::copy, Icon::Copy}};
 
-const Sign* signOf(const std::string& tool) {
-    for (const Sign& sign : signs) {
-        if (sign.tool == tool)
-            return &sign;
+QIcon iconOf(Sign sign) {
+    for (const SignIcon& row : signIcons) {
+        if (row.sign == sign)
+            return icon(row.icon);
     }
-    return nullptr;
+    return {};
+}
+
+QList<QKeySequence> keysOf(const Tool& tool) {
+    QList<QKeySequence> keys;
+    for (const QString& key : shownText(tool.shortcut).split(QLatin1Char(' '), Qt::SkipEmptyParts))
+        keys.append(QKeySequence(key));
+    return keys;
 }
 
 bool isCheckable(const Tool& tool) {
@@ -83,19 +84,16 @@ QAction* Menus::action(const std::string& name) {
     if (found != actions_.end())
         return found->second;
     auto* action = new QAction(window_);
-    const Tool& tool = *desk_.design().tools().find(name);
+    const Tool& tool = *desk_.application().commands().find(name);
     action->setCheckable(isCheckable(tool));
     action->setObjectName(QString::fromStdString(name));
-    if (const Sign* sign = signOf(name))
-        action->setIcon(icon(sign->icon));
-    for (const Shortcut& shortcut : shortcuts) {
-        if (shortcut.tool == name)
-            action->setShortcut(shortcut.keys);
-    }
+    if (tool.sign != Sign::none)
+        action->setIcon(iconOf(tool.sign));
+    action->setShortcuts(keysOf(tool));
     // The tool decides what is checked, so a click that changes nothing leaves the check as it was.
     connect(action, &QAction::triggered, this, [this, name] {
         desk_.tool(name);
-        sync(actions_.at(name), *desk_.design().tools().find(name));
+        sync(actions_.at(name), *desk_.application().commands().find(name));
     });
     actions_.emplace(name, action);
     sync(action, tool);
@@ -114,9 +112,9 @@ void Menus::sync(QAction* action, const Tool& tool) {
 
 void Menus::sync() {
     for (const auto& [name, action] : actions_)
-        sync(action, *desk_.design().tools().find(name));
+        sync(action, *desk_.application().commands().find(name));
     if (power_ != nullptr)
-        power_->setText(shownText(desk_.design().tools().find(powerTool)->Caption));
+        power_->setText(shownText(desk_.application().commands().find(powerTool)->Caption));
 }
 
 void Menus::addEntries(QMenu* menu, const Band& band) {
@@ -134,7 +132,7 @@ QMenu* Menus::menu(const std::string& name) {
     const auto found = menus_.find(name);
     if (found != menus_.end())
         return found->second;
-    const Band* band = desk_.design().tools().band(name);
+    const Band* band = desk_.application().commands().band(name);
     if (band == nullptr)
         return nullptr;
     auto* menu = new QMenu(shownText(band->Caption), window_);
@@ -146,24 +144,23 @@ QMenu* Menus::menu(const std::string& name) {
 }
 
 void Menus::fill(QMenuBar* bar) {
-    for (const Band& band : desk_.design().tools().bands()) {
+    for (const Band& band : desk_.application().commands().bands()) {
         if (band.kind == BandKind::menu)
             bar->addMenu(menu(band.Name));
     }
 }
 
 void Menus::addPowerButton(QToolBar* bar) {
-    power_ = new MenuButton(shownText(desk_.design().tools().find(powerTool)->Caption), bar);
+    power_ = new MenuButton(shownText(desk_.application().commands().find(powerTool)->Caption), bar);
     power_->setSign(Icon::Target);
     power_->setMenu(menu(powerBand));
     power_->setAccessibleName(tr("Required power"));
-    power_->setToolTip(shownText(desk_.design().tools().find(powerTool)->ToolTipText));
+    power_->setToolTip(shownText(desk_.application().commands().find(powerTool)->ToolTipText));
     bar->addWidget(power_);
 }
 
 void Menus::addButton(QToolBar* bar, const std::string& tool) {
-    const Sign* sign = signOf(tool);
-    const bool withWord = sign != nullptr && sign->withWord;
+    const bool withWord = desk_.application().commands().find(tool)->withWord;
     QAction* action = this->action(tool);
     auto* button =
         new ToolButton(action, withWord ? ToolButton::Words::Beside : ToolButton::Words::None, bar);
@@ -182,7 +179,7 @@ void Menus::setWordsShown(bool shown) {
 
 void Menus::fill(QToolBar* bar) {
     addSpace(bar);
-    for (const BandEntry& entry : desk_.design().tools().band(mainBar)->entries) {
+    for (const BandEntry& entry : desk_.application().commands().band(mainBar)->entries) {
         if (entry.kind == BandEntry::Kind::line)
             bar->addSeparator();
         else if (entry.kind == BandEntry::Kind::stretch)

@@ -17,8 +17,6 @@ namespace {
 
 constexpr int problemWidth = 336;
 constexpr int detailsWidth = 340;
-constexpr int fullDetail = 3;
-constexpr int moderateDetail = 2;
 
 QLabel* styled(TextStyle style, int width = 0) {
     auto* label = new QLabel;
@@ -35,83 +33,79 @@ void paintText(QLabel* label, Role role) {
     label->setPalette(palette);
 }
 
+// What tells of a problem stands out; the rest has the colour of its window.
+void showTrouble(QLabel* label, bool trouble) {
+    if (trouble)
+        paintText(label, Role::ProblemText);
+    else
+        label->setPalette(QPalette());
+}
+
 }  // namespace
 
 ProblemView::ProblemView(Desk& desk, ToolPanel* panel, const std::string& name, WindowId window,
                          const Panel& title, const Panel& text)
     : PanelView(desk, panel, name), window_(window), titleModel_(title), textModel_(text),
       title_(styled(TextStyle::PanelHeading, problemWidth)), text_(styled(TextStyle::Body, problemWidth)) {
+    panel->setWindowTitle(shownText(windowTitle(window)));
     panel->content()->setSpacing(10);
     panel->content()->addWidget(title_);
     panel->content()->addWidget(text_);
 }
 
-bool ProblemView::isOpen() const { return desk_.design().windows().state(window_) == WindowStates::open; }
+bool ProblemView::isOpen() const { return desk_.design().isOpen(window_); }
 
 void ProblemView::sync() {
-    panel()->setWindowTitle(tr("Problem"));
     paintText(title_, Role::ProblemText);
     title_->setText(shownText(titleModel_.Caption));
     title_->setVisible(!titleModel_.Caption.empty());
     text_->setText(shownText(textModel_.Caption).trimmed());
 }
 
-CountsView::CountsView(Desk& desk, ToolPanel* panel)
-    : PanelView(desk, panel, "frmCounts"), verdict_(styled(TextStyle::PanelHeading)) {
+CountsView::CountsView(Desk& desk, ToolPanel* panel) : PanelView(desk, panel, "frmCounts") {
+    const CellCountsPanel& model = desk.design().countsPanel();
+    panel->setWindowTitle(shownText(windowTitle(WindowId::frmCounts)));
     panel->content()->setSpacing(10);
-    panel->content()->addWidget(verdict_);
+    panel->content()->addWidget(addText(model.pnlTitle, TextStyle::PanelHeading));
     auto* grid = new QGridLayout;
     grid->setHorizontalSpacing(20);
     grid->setVerticalSpacing(6);
-    addLine(grid, QString(), 4, moderateDetail);
-    addLine(grid, tr("Individuals in a cluster"), 4, fullDetail);
-    addLine(grid, tr("Rate"), 4, fullDetail);
-    addLine(grid, tr("Expected count"), 4, fullDetail);
-    addLine(grid, tr("Share with a count under 3.5"), 4, moderateDetail);
+    int line = 0;
+    for (const Panel* head : {&model.lblN, &model.lblRate, &model.lblMean, &model.lblPctBad})
+        grid->addWidget(addText(*head, TextStyle::Caption), ++line, 0);
+    for (int cell = 1; cell <= model.lblGroup.last; ++cell)
+        addCell(grid, cell);
     panel->content()->addLayout(grid);
 }
 
-void CountsView::addLine(QGridLayout* grid, const QString& head, int cells, int detail) {
-    const int line = static_cast<int>(lines_.size());
-    Line row{styled(TextStyle::Caption), {}, detail};
-    row.head->setText(head);
-    grid->addWidget(row.head, line, 0);
-    for (int cell = 0; cell < cells; ++cell) {
-        row.cells.push_back(styled(line == 0 ? TextStyle::CaptionStrong : TextStyle::Value));
-        row.cells.back()->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
-        row.cells.back()->setMargin(3);
-        grid->addWidget(row.cells.back(), line, cell + 1);
-    }
-    lines_.push_back(std::move(row));
+QLabel* CountsView::addText(const Panel& model, TextStyle style) {
+    texts_.push_back({styled(style), &model});
+    return texts_.back().label;
 }
 
-bool CountsView::isOpen() const {
-    return desk_.design().windows().state(WindowId::frmCounts) == WindowStates::open;
+// A cell is a column, its head in the first line.
+void CountsView::addCell(QGridLayout* grid, int cell) {
+    const CellCountsPanel& model = desk_.design().countsPanel();
+    const Panel* const numbers[] = {&model.pnlN(CellCountsPanel::armOf(cell)), &model.pnlRate(cell),
+                                    &model.pnlMean(cell), &model.pnlPctBad(cell)};
+    int line = 0;
+    const auto add = [&](QLabel* label) {
+        label->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
+        label->setMargin(3);
+        grid->addWidget(label, line++, cell);
+    };
+    add(addText(model.lblGroup(cell), TextStyle::CaptionStrong));
+    for (const Panel* number : numbers)
+        add(addText(*number, TextStyle::Value));
 }
+
+bool CountsView::isOpen() const { return desk_.design().isOpen(WindowId::frmCounts); }
 
 void CountsView::sync() {
-    const CellCountsPanel& model = desk_.design().countsPanel();
-    const Study& study = desk_.study();
-    panel()->setWindowTitle(tr("Cell counts"));
-    verdict_->setText(shownText(model.pnlTitle.Caption));
-    paintText(verdict_, model.pnlTitle.BackColor == problemColour ? Role::ProblemText : Role::Text);
-    for (const Line& line : lines_) {
-        const bool shown = desk_.design().settings().CellCountDetail >= line.detail;
-        line.head->setVisible(shown);
-        for (QLabel* cell : line.cells)
-            cell->setVisible(shown);
-    }
-    for (int cell = 1; cell <= 4; ++cell) {
-        const int arm = (cell + 1) / 2;
-        const auto at = static_cast<std::size_t>(cell - 1);
-        const QString group = shownText(arm == 1 ? study.controlName() : study.treatedName());
-        lines_[0].cells[at]->setText(group + (cell % 2 == 1 ? tr(", events") : tr(", non-events")));
-        lines_[1].cells[at]->setText(shownText(model.pnlN(arm).Caption));
-        lines_[2].cells[at]->setText(shownText(model.pnlRate(cell).Caption));
-        lines_[3].cells[at]->setText(shownText(model.pnlMean(cell).Caption));
-        lines_[4].cells[at]->setText(shownText(model.pnlPctBad(cell).Caption));
-        paintText(lines_[4].cells[at],
-                  model.pnlPctBad(cell).BackColor == problemColour ? Role::ProblemText : Role::Text);
+    for (const auto& [label, model] : texts_) {
+        label->setText(shownText(model->Caption));
+        label->setVisible(model->Visible);
+        showTrouble(label, model->trouble);
     }
 }
 
@@ -119,6 +113,7 @@ DetailsView::DetailsView(Desk& desk, ToolPanel* panel)
     : PanelView(desk, panel, "frmDetails"), tabs_(new QTabBar),
       title_(styled(TextStyle::Heading, detailsWidth)), text_(styled(TextStyle::Body, detailsWidth)),
       rest_(styled(TextStyle::Body, detailsWidth)) {
+    panel->setWindowTitle(shownText(windowTitle(WindowId::frmDetails)));
     tabs_->setDrawBase(false);
     tabs_->setExpanding(false);
     text_->setTextInteractionFlags(Qt::TextSelectableByMouse);
@@ -130,32 +125,35 @@ DetailsView::DetailsView(Desk& desk, ToolPanel* panel)
     panel->content()->setSpacing(10);
     connect(tabs_, &QTabBar::tabBarClicked, this, [this](int tab) {
         if (tab >= 0)
-            desk_.click(indexedName("frmDetails.tabDetails", desk_.study().NumLevels - tab));
+            desk_.click(indexedName("frmDetails.tabDetails", levels_[static_cast<std::size_t>(tab)]));
     });
 }
 
-bool DetailsView::isOpen() const {
-    return desk_.design().windows().state(WindowId::frmDetails) == WindowStates::open;
-}
+bool DetailsView::isOpen() const { return desk_.design().isOpen(WindowId::frmDetails); }
 
 void DetailsView::syncTabs() {
-    const std::vector<std::string>& names = desk_.application().details().tabs();
-    while (tabs_->count() > static_cast<int>(names.size()))
-        tabs_->removeTab(tabs_->count() - 1);
-    for (std::size_t i = 0; i < names.size(); ++i) {
-        const int tab = static_cast<int>(i);
+    const Details& details = desk_.application().details();
+    levels_.clear();
+    int current = -1;
+    for (int level = highestLevel; level >= lowestLevel; --level) {
+        const Option& model = details.tab(level);
+        if (!model.Visible)
+            continue;
+        const int tab = static_cast<int>(levels_.size());
         if (tab >= tabs_->count())
-            tabs_->addTab(shownText(names[i]));
-        tabs_->setTabText(tab, shownText(names[i]));
+            tabs_->addTab(QString());
+        tabs_->setTabText(tab, shownText(model.Caption));
+        current = model.Value ? tab : current;
+        levels_.push_back(level);
     }
-    const int row = desk_.application().details().currentTab();
-    tabs_->setCurrentIndex(row == 0 ? -1 : desk_.study().NumLevels - row);
-    tabs_->setVisible(!names.empty());
+    while (tabs_->count() > static_cast<int>(levels_.size()))
+        tabs_->removeTab(tabs_->count() - 1);
+    tabs_->setCurrentIndex(current);
+    tabs_->setVisible(!levels_.empty());
 }
 
 void DetailsView::sync() {
     const Details& details = desk_.application().details();
-    panel()->setWindowTitle(tr("Details"));
     syncTabs();
     title_->setText(shownText(details.title().Caption));
     text_->setText(shownText(details.text().Caption));

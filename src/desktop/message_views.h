@@ -3,6 +3,7 @@
 
 #include <vector>
 
+#include "desktop/kit/text_style.h"
 #include "desktop/panel_view.h"
 
 class QGridLayout;
@@ -41,15 +42,14 @@ public:
     void sync() override;
 
 private:
-    struct Line {
-        QLabel* head;
-        std::vector<QLabel*> cells;
-        int detail;  ///< least level of detail that shows the line
+    struct Text {
+        QLabel* label;
+        const Panel* model;
     };
-    void addLine(QGridLayout* grid, const QString& head, int cells, int detail);
+    QLabel* addText(const Panel& model, TextStyle style);
+    void addCell(QGridLayout* grid, int cell);
 
-    QLabel* verdict_;
-    std::vector<Line> lines_;
+    std::vector<Text> texts_;
 };
 
 /// What the clicked item means.
@@ -66,6 +66,7 @@ private:
     void syncTabs();
 
     QTabBar* tabs_;
+    std::vector<int> levels_;  ///< of the tabs
     QLabel* title_;
     QLabel* text_;
     QLabel* rest_;

@@ -26,7 +26,6 @@
 #include "desktop/kit/trial_plot.h"
 #include "desktop/kit/trial_table.h"
 #include "desktop/menus.h"
-#include "desktop/role_word.h"
 
 namespace lorvane::desktop {
 
@@ -54,7 +53,6 @@ constexpr int lowScreen = 750;
 
 constexpr int plotWidth = 337;
 constexpr int buttonsHeight = 32;
-constexpr int powerDecimals = 4;
 enum ButtonNumber { reset = 1, compute, paste, close };
 
 // A row under a line.
@@ -79,18 +77,11 @@ QLabel* secondLabel(TextStyle style, const QString& text) {
 
 QString captionOf(const Panel& panel) { return shownText(panel.Caption).trimmed(); }
 
-QStringList headsOf(const OptimalWindow& model, int levels) {
-    QStringList heads;
-    for (int level = levels; level >= lowestLevel; --level)
-        heads << captionOf(model.row(level).optPanelName);
-    return heads << OptimalView::tr("Cost") << OptimalView::tr("Power");
-}
-
-QStringList textsOf(const Trial& trial, int levels) {
+QStringList textsOf(const Grid::Row& cells) {
     QStringList texts;
-    for (int level = levels; level >= lowestLevel; --level)
-        texts << shownText(shortestText(trial.sizes(level)));
-    return texts << shownText(groupedText(trial.cost)) << shownText(fixedText(trial.power, powerDecimals));
+    for (const std::string& cell : cells)
+        texts << shownText(cell);
+    return texts;
 }
 
 QStringList together(const QStringList& heads, const QStringList& texts) {
@@ -100,18 +91,12 @@ QStringList together(const QStringList& heads, const QStringList& texts) {
     return pairs;
 }
 
-// A name inside a sentence; one that is all capitals stays.
-QString inSentence(const QString& name) {
-    const bool word = name.size() > 1 && name[1].isLower();
-    return word ? name.left(1).toLower() + name.mid(1) : name;
-}
-
 }  // namespace
 
 OptimalView::OptimalView(Desk& desk, ToolPanel* panel, Menus& menus)
     : PanelView(desk, panel, "frmOptimal"), menus_(menus), title_(new QLabel), band_(new ResultBand),
       trials_(makeTrials()), notes_(nullptr) {
-    panel->setWindowTitle(tr("Optimal design wizard"));
+    panel->setWindowTitle(shownText(windowTitle(WindowId::frmOptimal)));
     panel->setAttribute(Qt::WA_ShowWithoutActivating, false);
     panel->installEventFilter(this);
     title_->setFont(textFont(TextStyle::PanelHeading));
@@ -146,7 +131,7 @@ QWidget* OptimalView::makeHeads() {
     auto* line = new QWidget;
     line->setFixedHeight(headHeight);
     QHBoxLayout* row = rowOf(line, armGap);
-    row->addWidget(secondLabel(TextStyle::CaptionStrong, tr("Level")), 1);
+    row->addWidget(secondLabel(TextStyle::CaptionStrong, captionOf(model().lblLevel())), 1);
     for (const int arm : {0, 1}) {
         heads_[arm] = makeCell(0, headWidths[arm]);
         heads_[arm]->setTextStyle(TextStyle::CaptionStrong);
@@ -170,11 +155,8 @@ EntryCell* OptimalView::makeSize(int level) {
     const std::string number = indexedName("frmOptimal.txtNumReps", level);
     cell->setObjectName(QString::fromStdString(number));
     cell->setFixedSize(sizeWidth, 28);
-    connect(cell, &EntryCell::stepped, this, [this, level](int direction) {
-        const char* stem =
-            model().row(level).OptimalspnNB ? "frmOptimal.OptimalspnNB" : "frmOptimal.OptimalspnNT";
-        desk_.spin(indexedName(stem, level), direction);
-    });
+    connect(cell, &EntryCell::stepped, this,
+            [this, level](int direction) { desk_.spin(model().row(level).arrows, direction); });
     connect(cell, &EntryCell::entered, this, [this, number](const QString& text) {
         if (const auto value = readNumber(text.toStdString()))
             desk_.setNumber(number, *value);
@@ -198,7 +180,7 @@ QWidget* OptimalView::makeRow(int level) {
     Row row{level,
             new LineAbove,
             new LevelName,
-            secondLabel(TextStyle::Body, tr("The number that is searched for")),
+            secondLabel(TextStyle::Body, captionOf(model().row(level).pnlSearched)),
             makeOption("frmOptimal.optAuto", level),
             makeOption("frmOptimal.optManual", level),
             makeSize(level),
@@ -291,26 +273,23 @@ bool OptimalView::eventFilter(QObject* watched, QEvent* event) {
 // What the program shows
 // -------------------------------------------------------------------------------------
 
-bool OptimalView::isOpen() const {
-    return desk_.design().windows().state(WindowId::frmOptimal) == WindowStates::open;
-}
+bool OptimalView::isOpen() const { return desk_.design().isOpen(WindowId::frmOptimal); }
 
 void OptimalView::syncSize(const Row& row) {
     const OptimalWindow::LevelRow& level = model().row(row.level);
-    const bool byHand = level.OptimalspnNT || level.OptimalspnNB;
-    row.size->setVisible(byHand && model().result() == nullptr);
-    row.size->setText(shownText(shortestText(level.txtNumReps)));
+    row.size->setVisible(level.size.Visible);
+    row.size->setText(shownText(level.size.Text));
     row.size->setAccessibleName(captionOf(level.optPanelName) + QStringLiteral(", ") +
                                 shownText(level.optManual.Caption));
 }
 
 void OptimalView::syncRow(const Row& row) {
     const OptimalWindow::LevelRow& level = model().row(row.level);
-    const bool found = model().result() != nullptr;
-    const bool randomized = desk_.study().RandomizedLevel == row.level;
+    const bool found = model().state() == OptimalWindow::State::result;
     row.line->setVisible(level.Visible);
-    row.name->setLevel(captionOf(level.optPanelName), roleWord(level.pnlRole.Caption), randomized);
-    row.searched->setVisible(level.isTop && !found);
+    row.name->setLevel(captionOf(level.optPanelName), QString::fromLatin1(roleWord(level.role)),
+                       level.role == LevelRole::randomized);
+    row.searched->setVisible(level.pnlSearched.Visible);
     const std::pair<QRadioButton*, const Option*> options[] = {{row.automatic, &level.optAuto},
                                                                {row.manual, &level.optManual}};
     for (const auto& [button, option] : options) {
@@ -334,16 +313,18 @@ void OptimalView::syncRow(const Row& row) {
 
 void OptimalView::syncBand() {
     const OptimalWindow& m = model();
-    const QString& figure = shownText(m.costFigure());
-    const QString cost = captionOf(m.pnlOptimalCost());
-    const QString title = captionOf(m.pnlOptimalTitle());
-    if (m.result() != nullptr)
-        band_->setContent(
-            BandFigure{cost.left(cost.size() - figure.size()), figure, captionOf(m.pnlOptimalNote())});
-    else if (const QString& problem = title.isEmpty() ? cost : title; !problem.isEmpty())
-        band_->setContent(BandProblem{problem, captionOf(m.pnlOptimalInner())});
-    else
+    switch (m.state()) {
+    case OptimalWindow::State::result:
+        band_->setContent(BandFigure{shownText(m.pnlCostWords().Caption), captionOf(m.pnlCostNumber()),
+                                     captionOf(m.pnlOptimalNote())});
+        break;
+    case OptimalWindow::State::problem:
+        band_->setContent(BandProblem{captionOf(m.pnlProblem()), captionOf(m.pnlOptimalInner())});
+        break;
+    case OptimalWindow::State::message:
         band_->setContent(BandText{captionOf(m.pnlOptimalInner())});
+        break;
+    }
 }
 
 void OptimalView::syncTrials() {
@@ -351,19 +332,17 @@ void OptimalView::syncTrials() {
     trials_->setVisible(result != nullptr);
     if (result == nullptr)
         return;
-    const int levels = desk_.study().NumLevels;
-    const QStringList heads = headsOf(model(), levels);
-    const bool armed = model().row(levels).OptimalpnlNT.Visible;
-    const QString units = inSentence(heads.front());
-    TrialPlotContent content{tr("Cost of each trial"),
-                             armed ? tr("Number of %1 per group").arg(units) : tr("Number of %1").arg(units),
-                             tr("lowest cost"),
+    const std::vector<Grid::Row>& table = model().vsTrials().rows;
+    const QStringList heads = textsOf(table.front());
+    TrialPlotContent content{captionOf(model().lblPlot()),
+                             captionOf(model().lblPlotSize()),
+                             captionOf(model().lblPlotBest()),
                              {},
                              static_cast<int>(result->best)};
     std::vector<QStringList> rows;
     for (const Trial& trial : result->trials) {
-        rows.push_back(textsOf(trial, levels));
-        content.points << TrialPoint{trial.sizes(levels), static_cast<double>(trial.cost),
+        rows.push_back(textsOf(table[rows.size() + 1]));
+        content.points << TrialPoint{trial.sizes(desk_.study().NumLevels), static_cast<double>(trial.cost),
                                      together(heads, rows.back())};
     }
     plot_->setContent(content);
@@ -394,7 +373,7 @@ void OptimalView::sync() {
     title_->setText(captionOf(model().pnlFindPower()));
     const QFontMetricsF metrics(textFont(TextStyle::CaptionStrong));
     for (const int arm : {0, 1}) {
-        const QString name = shownText(desk_.study().txtGroupName(arm + 1));
+        const QString name = shownText(model().lblGroup(arm + 1).Caption);
         heads_[arm]->setText(metrics.elidedText(name, Qt::ElideRight, headWidths[arm]));
         heads_[arm]->setToolTip(name);
     }

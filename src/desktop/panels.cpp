@@ -38,16 +38,17 @@ Panels::Panels(Desk& desk, MainWindow& window) : desk_(desk), window_(window) {
     add<CountsView>(0.3, 0.5);
     add<DetailsView>(0.7, 0.15);
     const SmallDialogs& dialogs = desk.application().dialogs();
-    add<TableView>(0.2, 0.3, "frmSpreadICC", "Table of the ICC", design.spreadICC(),
-                   [&dialogs] { return dialogs.spreadICCIsOpen(); });
-    add<TableView>(0.2, 0.4, "frmSpreadTauSq", "Table of the effects", design.spreadTauSq(),
-                   [&dialogs] { return dialogs.spreadTauSqIsOpen(); });
+    add<TableView>(0.2, 0.3, dialogs.spreadICC(), design.spreadICC());
+    add<TableView>(0.2, 0.4, dialogs.spreadTauSq(), design.spreadTauSq());
     add<ScenarioView>(0.5, 0.45);
     add<MdesView>(centred, centred);
     add<StartView>(centred, centred);
     add<OptimalView>(centred, 0.15, window_.menus());
-    for (DialogModel& model : dialogModels(desk))
-        add<DialogView>(centred, centred, std::move(model));
+    for (const Dialog* dialog : dialogs.all())
+        add<DialogView>(centred, centred, *dialog, [&dialogs, dialog] { return dialogs.isOpen(*dialog); });
+    const ScenarioWindow& scenarios = desk.application().scenarioWindow();
+    add<DialogView>(centred, centred, scenarios.nameDialog(),
+                    [&scenarios] { return scenarios.nameIsOpen(); });
     connect(&desk_, &Desk::shown, this, &Panels::follow);
     follow();
 }

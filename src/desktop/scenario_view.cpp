@@ -50,7 +50,7 @@ std::vector<RecordColumn> scenarioColumns(const Grid& list) {
 
 ScenarioView::ScenarioView(Desk& desk, ToolPanel* panel)
     : PanelView(desk, panel, "frmScenarios"), table_(new RecordTable), count_(new QLabel) {
-    panel->setWindowTitle(tr("Scenarios"));
+    panel->setWindowTitle(shownText(windowTitle(WindowId::frmScenarios)));
     panel->setAttribute(Qt::WA_ShowWithoutActivating, false);
     panel->content()->setSizeConstraint(QLayout::SetDefaultConstraint);
     panel->content()->setContentsMargins(0, 8, 0, 0);
@@ -84,29 +84,27 @@ QWidget* ScenarioView::makeFooter() {
     auto* row = new QHBoxLayout(footer);
     row->setContentsMargins(17, 12, 17, 13);
     row->setSpacing(8);
-    const auto addButton = [&](int number, const QString& words, PushButton* button) {
+    const ScenarioWindow& model = desk_.application().scenarioWindow();
+    const auto addButton = [&](int number, PushButton* button) {
         button->setObjectName(QString::fromStdString(indexedName("frmScenarios.cmdScenarios", number)));
         button->setMinimumWidth(84);
         connect(button, &PushButton::clicked, this, [this, number] { press(number); });
-        button->setText(words);
+        button->setText(shownText(model.cmdScenarios(number).Caption));
         row->addWidget(button);
     };
-    addButton(add, tr("Add"), primaryButton(tr("Add")));
-    addButton(restore, tr("Restore"), plainButton(tr("Restore")));
-    addButton(edit, tr("Edit"), plainButton(tr("Edit")));
-    addButton(remove, tr("Delete"), plainButton(tr("Delete")));
+    addButton(add, primaryButton(QString()));
+    for (const int number : {restore, edit, remove})
+        addButton(number, plainButton(QString()));
     row->addStretch(1);
     count_->setFont(textFont(TextStyle::Caption));
     count_->setProperty("second", true);
     row->addWidget(count_);
     row->addSpacing(8);
-    addButton(close, tr("Close"), plainButton(tr("Close")));
+    addButton(close, plainButton(QString()));
     return footer;
 }
 
-bool ScenarioView::isOpen() const {
-    return desk_.design().windows().state(WindowId::frmScenarios) == WindowStates::open;
-}
+bool ScenarioView::isOpen() const { return desk_.design().isOpen(WindowId::frmScenarios); }
 
 void ScenarioView::sync() {
     const ScenarioWindow& model = desk_.application().scenarioWindow();
@@ -115,8 +113,7 @@ void ScenarioView::sync() {
     for (const std::size_t row : model.vsNames().selected)
         selected += static_cast<int>(row) - heads;
     table_->setSelectedRows(selected);
-    const std::size_t scenarios = model.vsNames().rows.size() - heads;
-    count_->setText(scenarios == 1 ? tr("1 scenario") : tr("%1 scenarios").arg(scenarios));
+    count_->setText(shownText(model.pnlCount().Caption));
     const ProgressFlight& progress = model.progress();
     if (flights_ == progress.count)
         return;

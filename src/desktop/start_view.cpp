@@ -12,9 +12,9 @@ namespace lorvane::desktop {
 namespace {
 
 constexpr const char* listName = "frmStart.flex";
-constexpr std::size_t moreRow = 1;  // row of the program's list that stands for other files
+constexpr std::size_t firstFile = StartScreen::moreRow + 1;
 
-std::size_t rowOf(int file) { return moreRow + 1 + static_cast<std::size_t>(file); }
+std::size_t rowOf(int file) { return firstFile + static_cast<std::size_t>(file); }
 
 // The user's own folder is written short.
 QString shortPath(const QString& path) {
@@ -24,7 +24,7 @@ QString shortPath(const QString& path) {
 
 std::vector<FileEntry> filesOf(const StartScreen& model) {
     std::vector<FileEntry> files;
-    for (std::size_t row = moreRow + 1; row < model.flex().rows.size(); ++row) {
+    for (std::size_t row = firstFile; row < model.flex().rows.size(); ++row) {
         const Grid::Row& cells = model.flex().rows[row];
         files.push_back({shownText(cells[StartScreen::textColumn]),
                          shortPath(shownText(cells[StartScreen::pathColumn])), model.isMissing(row)});
@@ -36,32 +36,40 @@ std::vector<FileEntry> filesOf(const StartScreen& model) {
 
 StartView::StartView(Desk& desk, ToolPanel* panel)
     : PanelView(desk, panel, "frmStart"), page_(new StartPage) {
-    panel->setWindowTitle(QStringLiteral("Lorvane"));
+    panel->setWindowTitle(shownText(windowTitle(WindowId::frmStart)));
     panel->setAttribute(Qt::WA_ShowWithoutActivating, false);
     panel->content()->setContentsMargins(0, 0, 0, 0);
     panel->content()->addWidget(page_);
-    page_->setTitle(panel->windowTitle(), tr("Planning of cluster-randomized trials"));
-    page_->setQuestion(tr("What would you like to do?"));
-    page_->setChoices({Icon::New, tr("Start a new project"), tr("Two levels, ready to edit")},
-                      {Icon::Open, tr("Open an existing file"), tr("A recent study or another file")});
-    page_->setButtons(tr("OK"), tr("Cancel"));
+    addTexts();
     connect(page_, &StartPage::choiceChosen, this,
             [this](int choice) { desk_.click(indexedName("frmStart.optStart", choice)); });
-    connect(page_, &StartPage::fileChosen, this,
-            [this](int file) { desk_.select(listName, {file == FileList::More ? moreRow : rowOf(file)}); });
+    connect(page_, &StartPage::fileChosen, this, [this](int file) {
+        desk_.select(listName, {file == FileList::More ? StartScreen::moreRow : rowOf(file)});
+    });
     connect(page_, &StartPage::accepted, this, [this] { desk_.click("frmStart.cmdOK(0)"); });
     connect(page_, &StartPage::cancelled, this, [this] { desk_.click("frmStart.cmdOK(1)"); });
 }
 
-bool StartView::isOpen() const {
-    return desk_.design().windows().state(WindowId::frmStart) == WindowStates::open;
+void StartView::addTexts() {
+    const StartScreen& model = desk_.application().startScreen();
+    const auto choice = [&](Icon icon, int number) {
+        return Choice{icon, shownText(model.optStart(number).Caption),
+                      shownText(model.pnlChoice(number).Caption)};
+    };
+    page_->setTitle(shownText(model.pnlName().Caption), shownText(model.pnlSense().Caption));
+    page_->setQuestion(shownText(model.pnlQuestion().Caption));
+    page_->setChoices(choice(Icon::New, StartChoices::newProject),
+                      choice(Icon::Open, StartChoices::existingFile));
+    page_->setButtons(shownText(model.cmdOK(0).Caption), shownText(model.cmdOK(1).Caption));
 }
+
+bool StartView::isOpen() const { return desk_.design().isOpen(WindowId::frmStart); }
 
 void StartView::sync() {
     const StartScreen& model = desk_.application().startScreen();
     const Grid& flex = model.flex();
-    page_->setFiles(tr("Recent files"), shownText(flex.rows[moreRow][StartScreen::textColumn]),
-                    filesOf(model));
+    page_->setFiles(shownText(model.pnlFiles().Caption),
+                    shownText(flex.rows[StartScreen::moreRow][StartScreen::textColumn]), filesOf(model));
     page_->setChoice(model.StartChoice());
     if (!flex.selected.empty())
         page_->setCurrentFile(static_cast<int>(flex.selected.front()) - static_cast<int>(rowOf(0)));

@@ -17,6 +17,8 @@ public:
     void sync() override;
 
 private:
+    void addTexts();
+
     StartPage* page_;
     bool wasOpen_ = false;
 };

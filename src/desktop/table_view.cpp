@@ -4,14 +4,12 @@
 #include <QHeaderView>
 #include <QTableWidget>
 #include <QVBoxLayout>
-#include <utility>
 
 namespace lorvane::desktop {
 
-TableView::TableView(Desk& desk, ToolPanel* panel, const std::string& name, const char* title,
-                     const Grid& grid, std::function<bool()> isOpen)
-    : PanelView(desk, panel, name), grid_(grid), isOpen_(std::move(isOpen)), table_(new QTableWidget) {
-    panel->setWindowTitle(QString::fromUtf8(title));
+TableView::TableView(Desk& desk, ToolPanel* panel, const SmallDialogs::RawTable& model, const Grid& grid)
+    : PanelView(desk, panel, model.name), model_(model), grid_(grid), table_(new QTableWidget) {
+    panel->setWindowTitle(QString::fromUtf8(model.title));
     table_->setAccessibleName(panel->windowTitle());
     table_->setEditTriggers(QAbstractItemView::NoEditTriggers);
     table_->setFrameShape(QFrame::NoFrame);

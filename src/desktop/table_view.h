@@ -1,8 +1,6 @@
 // A raw table of the program, only to be read.
 #pragma once
 
-#include <functional>
-
 #include "desktop/panel_view.h"
 
 class QTableWidget;
@@ -13,15 +11,14 @@ class TableView final : public PanelView {
     Q_OBJECT
 
 public:
-    TableView(Desk& desk, ToolPanel* panel, const std::string& name, const char* title, const Grid& grid,
-              std::function<bool()> isOpen);
+    TableView(Desk& desk, ToolPanel* panel, const SmallDialogs::RawTable& model, const Grid& grid);
 
-    bool isOpen() const override { return isOpen_(); }
+    bool isOpen() const override { return model_.open; }
     void sync() override;
 
 private:
+    const SmallDialogs::RawTable& model_;
     const Grid& grid_;
-    std::function<bool()> isOpen_;
     QTableWidget* table_;
 };
 

@@ -27,13 +27,11 @@ double sumOfTauSquared(const Study& s) {
 
 }  // namespace
 
-void GetProbs(DistributionLibrary& library, int arm, double k, double n, double r, double V, double T,
-              double& A, double& B) {
-    A = 1;
-    B = 1;
+SmallCounts GetProbs(DistributionLibrary& library, ScreenedArm arm, double k, double n, double r, double V,
+                     double T) {
     if (n <= k)
-        return;
-    const double W = arm == treatedArm ? V + T : V;
+        return {1, 1};
+    const double W = arm == ScreenedArm::treated ? V + T : V;
     const double Lr = Logit(r);
     const double La = Logit(k / n);
     const double Lb = Logit(1 - k / n);
@@ -41,23 +39,25 @@ void GetProbs(DistributionLibrary& library, int arm, double k, double n, double 
     const double a = (La - Lr) / s;
     const double b = (Lb - Lr) / s;
     requireFinite("GetProbs", {Lr, s, a, b});
-    A = NormalCDF(library, a);
-    B = 1 - NormalCDF(library, b);
+    return {NormalCDF(library, a), 1 - NormalCDF(library, b)};
 }
 
 void AAAComputeTwoLevelHDEvents(Study& study, DistributionLibrary& library) {
     CellCounts& counts = study.counts;
     const double V = sumOfLogitVariances(study);
     const double T = sumOfTauSquared(study);
-    GetProbs(library, controlArm, smallCellCount, study.txtNC(1), study.txtPrev, V, T, counts.share(1),
-             counts.share(2));
-    GetProbs(library, treatedArm, smallCellCount, study.txtNT(1), study.txtEvent2, V, T, counts.share(3),
-             counts.share(4));
-    counts.anyLow = 0;
+    const SmallCounts control =
+        GetProbs(library, ScreenedArm::control, smallCellCount, study.txtNC(1), study.txtPrev, V, T);
+    const SmallCounts treated =
+        GetProbs(library, ScreenedArm::treated, smallCellCount, study.txtNT(1), study.txtEvent2, V, T);
+    counts.share(1) = control.A;
+    counts.share(2) = control.B;
+    counts.share(3) = treated.A;
+    counts.share(4) = treated.B;
+    counts.anyLow = false;
     for (int cell = 1; cell <= 4; ++cell) {
-        counts.low(cell) = counts.share(cell) >= lowShare ? 1 : 0;
-        if (counts.low(cell) == 1)
-            counts.anyLow = 1;
+        counts.low(cell) = counts.share(cell) >= lowShare;
+        counts.anyLow = counts.anyLow || counts.low(cell);
     }
 }
 

@@ -1,5 +1,5 @@
 // Total cost of the nine designs: for every level the number of units in the whole study times the cost of
-// one, rounded to a whole number a product, summed in 32 bits.
+// one. Each product is rounded to a whole number, and the sum has 32 bits.
 #include "base/money.h"
 #include "engine/design_routines.h"
 
@@ -32,7 +32,7 @@ void writeCost(Study& s, int NumLevels, int RandomizedLevel) {
         s.result.txtCost = totalCost(s, NumLevels, RandomizedLevel);
     } catch (const MoneyOverflow&) {
         s.result.txtCost = 0;
-        s.result.txtCostProblem = 1;
+        s.result.txtCostProblem = true;
     }
 }
 

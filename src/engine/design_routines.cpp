@@ -8,7 +8,7 @@ namespace lorvane {
 
 namespace {
 
-// A row a number of levels from 2, a column a randomized level from 1.
+// Each row is a number of levels, from 2. Each column is a randomized level, from 1.
 constexpr DesignRoutines designs[3][4] = {
     {{"TwoLevelRBStudents", ComputeTwoLevelRBStudentsMeans, ComputeTwoLevelRBStudentsBinary,
       ComputeTwoLevelRBStudentsCost},

@@ -34,7 +34,8 @@ void ComputeThreeLevelRBClassesBinary(Study& study, DistributionLibrary& library
 void ComputeFourLevelRBClassesBinary(Study& study, DistributionLibrary& library);
 void ComputeFourLevelRBTeachersBinary(Study& study, DistributionLibrary& library);
 
-// Cost: each writes txtCost; an amount beyond 32 bits gives a cost of 0 and sets txtCostProblem.
+// Cost: each writes txtCost, the sum over levels of the units in the whole study times the cost of one. An
+// amount beyond 32 bits gives a cost of 0 and sets txtCostProblem.
 void ComputeTwoLevelHDCost(Study& study);
 void ComputeThreeLevelHDCost(Study& study);
 void ComputeFourLevelHDCost(Study& study);
@@ -45,14 +46,16 @@ void ComputeThreeLevelRBClassesCost(Study& study);
 void ComputeFourLevelRBClassesCost(Study& study);
 void ComputeFourLevelRBTeachersCost(Study& study);
 
+/// The three routines of one design.
 struct DesignRoutines {
-    std::string_view name;
-    void (*means)(Study&);
-    void (*binary)(Study&, DistributionLibrary&);
-    void (*cost)(Study&);
+    std::string_view name;  ///< such as "TwoLevelHD", which the names of its routines hold
+    void (*means)(Study&);  ///< for means
+    void (*binary)(Study&, DistributionLibrary&);  ///< for binary outcomes
+    void (*cost)(Study&);                          ///< for both
 };
 
-/// The routines of a design; NumLevels is 2 to 4 and RandomizedLevel 1 to NumLevels.
+/// The routines of a design; NumLevels is 2 to 4 and RandomizedLevel 1 to NumLevels. The table lasts as long
+/// as the program.
 const DesignRoutines& routinesOf(int NumLevels, int RandomizedLevel);
 
 }  // namespace lorvane

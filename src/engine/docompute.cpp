@@ -11,12 +11,6 @@ namespace lorvane {
 
 namespace {
 
-// The message of the problem window and its title.
-struct Problem {
-    std::string_view message;
-    std::string_view title;
-};
-
 constexpr Problem noProblem{"Valid", ""};
 constexpr Problem untold{"", ""};
 constexpr Problem effectProblem{"Please modify the effect size", "Problem with the effect size"};
@@ -45,21 +39,20 @@ std::string_view tauSqRequest(const Study& s) {
         return "Please modify span of effects";
     case TauSqMetrics::omega:
         return "Please modify omega";
-    default:
-        return "Please modify Tau-squared";
     }
+    return "";
 }
 
 void resetFlags(PowerResult& result) {
-    result.xValidDF.fill(1);
-    result.xValidQ.fill(1);
-    result.xValidTestdf = 1;
+    result.xValidDF.fill(true);
+    result.xValidQ.fill(true);
+    result.xValidTestdf = true;
     // Not valid until the power stands, so that a fault on the way leaves no earlier power as if it were
     // good.
-    result.xValid = 0;
+    result.xValid = false;
 }
 
-// Any model but 0 and 1 leaves the number used in formulas as it was.
+// A model other than 0 and 1, as a file can hold, leaves txtPop as it was.
 void applyModels(Study& s) {
     for (int level = 1; level <= s.NumLevels; ++level) {
         if (s.txtModel(level) == SamplingModels::fixed)
@@ -79,8 +72,8 @@ void runDesign(Study& s, DistributionLibrary& library) {
 
 void summarise(LevelFlags& flags) {
     for (int level = 1; level <= highestLevel; ++level) {
-        if (flags(level) == 0)
-            flags(0) = 0;
+        if (!flags(level))
+            flags(0) = false;
     }
 }
 
@@ -88,93 +81,60 @@ bool collectFlags(Study& s) {
     PowerResult& result = s.result;
     summarise(result.xValidDF);
     summarise(result.xValidQ);
-    return result.xValidDF(0) == 1 && result.xValidQ(0) == 1 && result.xValidTestdf == 1 &&
-           s.outcome.ValidICC(0) != 0 && s.effect.ValidTauSq(0) != 0;
+    return result.xValidDF(0) && result.xValidQ(0) && result.xValidTestdf && s.outcome.ValidICC(0) &&
+           s.effect.ValidTauSq(0);
 }
 
-Problem tellInvalid(const PowerResult& result, ComputeDisplay& display) {
-    Problem problem = untold;
-    if (result.xValidTestdf == 0 || result.xValidDF(0) == 0)
-        problem = dfProblem;
-    if (result.xValidQ(0) == 0)
-        problem = covariateProblem;
-    for (int level = 1; level <= highestLevel; ++level) {
-        if (result.xValidQ(level) == 0)
-            display.outlineCovariates(level);
-        if (result.xValidDF(level) == 0)
-            display.outlineLevel(level);
+// Of several problems the message tells the last one only, but the cells of all are marked.
+ComputeOutcome tellInvalid(const PowerResult& result) {
+    ComputeOutcome outcome{Obstacle::data, "Please modify data", untold, {}, {}};
+    if (!result.xValidTestdf || !result.xValidDF(0))
+        outcome.problem = dfProblem;
+    if (!result.xValidQ(0))
+        outcome.problem = covariateProblem;
+    if (!result.xValidTotICC)
+        outcome.problem = totalIccProblem;
+    for (int level = lowestLevel; level <= highestLevel; ++level) {
+        outcome.covariatesAtFault(level) = !result.xValidQ(level);
+        outcome.levelAtFault(level) = !result.xValidDF(level);
     }
-    if (result.xValidTotICC == 0)
-        problem = totalIccProblem;
-    return problem;
+    return outcome;
 }
 
-Problem computeValidPower(Study& s, DistributionLibrary& library, ComputeDisplay& display) {
-    s.result.xLambda = std::fabs(s.result.xLambda);
-    ComputePower(s, library);
-    s.result.xValid = 1;
-    display.showPower();
-    display.withdrawWindow(WindowId::frmProblems);
-    return noProblem;
-}
-
-Problem computePowerPath(Study& s, DistributionLibrary& library, ComputeDisplay& display) {
+ComputeOutcome computePower(Study& s, DistributionLibrary& library) {
     resetFlags(s.result);
-    display.restoreCovariateColours();
     applyModels(s);
     runDesign(s, library);
-    const bool good = collectFlags(s);
-    display.clearOutlines();
-    if (good)
-        return computeValidPower(s, library, display);
-    display.askForData("Please modify data");
-    const Problem problem = tellInvalid(s.result, display);
-    display.openProblemWindow();
-    return problem;
+    if (!collectFlags(s))
+        return tellInvalid(s.result);
+    s.result.xLambda = std::fabs(s.result.xLambda);
+    ComputePower(s, library);
+    s.result.xValid = true;
+    return {Obstacle::none, "", noProblem, {}, {}};
 }
 
-Problem stopAtGate(Study& s, ComputeDisplay& display, std::string_view request, WindowId window,
-                   const Problem& problem) {
-    s.result.xValid = 0;
-    display.askForData(request);
-    display.openWindow(window);
-    return problem;
+ComputeOutcome stopAtGate(Study& s, Obstacle obstacle, std::string_view request, const Problem& problem) {
+    s.result.xValid = false;
+    return {obstacle, request, problem, {}, {}};
 }
 
-Problem gatedPower(Study& s, DistributionLibrary& library, ComputeDisplay& display) {
-    if (s.result.ValidES == 0)
-        return stopAtGate(s, display, "Please modify effect size data", WindowId::frmProblemES,
-                          effectProblem);
-    if (s.outcome.ValidICC(0) != 1)
-        return stopAtGate(s, display, iccRequest(s), WindowId::frmDisplayICC, untold);
-    if (s.effect.ValidTauSq(0) == 0)
-        return stopAtGate(s, display, tauSqRequest(s), WindowId::frmDisplayTauSq, untold);
-    return computePowerPath(s, library, display);
-}
-
-// Writes the cost when it goes out of scope, so that the cost is right even where the power cannot be told.
-class CostInEveryCase {
-public:
-    explicit CostInEveryCase(Study& study) : study_(study) {}
-    ~CostInEveryCase() { routinesOf(study_.NumLevels, study_.RandomizedLevel).cost(study_); }
-    CostInEveryCase(const CostInEveryCase&) = delete;
-    CostInEveryCase& operator=(const CostInEveryCase&) = delete;
-
-private:
-    Study& study_;
-};
-
-void computePower(Study& s, DistributionLibrary& library, ComputeDisplay& display) {
-    const CostInEveryCase cost(s);
-    const Problem problem = gatedPower(s, library, display);
-    display.tellProblem(problem.message, problem.title);
+ComputeOutcome computeBehindGates(Study& s, DistributionLibrary& library) {
+    if (!s.result.ValidES)
+        return stopAtGate(s, Obstacle::effect, "Please modify effect size data", effectProblem);
+    if (!s.outcome.ValidICC(0))
+        return stopAtGate(s, Obstacle::icc, iccRequest(s), untold);
+    if (!s.effect.ValidTauSq(0))
+        return stopAtGate(s, Obstacle::tauSq, tauSqRequest(s), untold);
+    return computePower(s, library);
 }
 
 }  // namespace
 
-void docompute(Study& study, DistributionLibrary& library, ComputeDisplay& display) {
-    computePower(study, library, display);
-    display.showCost();
+// The cost hangs on sizes and unit costs alone. It comes first, so that it is right even where the power
+// cannot be told.
+ComputeOutcome docompute(Study& study, DistributionLibrary& library) {
+    routinesOf(study.NumLevels, study.RandomizedLevel).cost(study);
+    return computeBehindGates(study, library);
 }
 
 }  // namespace lorvane

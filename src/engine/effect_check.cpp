@@ -62,23 +62,17 @@ std::string limitClause(const Study& study, double rate) {
 
 }  // namespace
 
-void ComputeES(Study& study, ComputeDisplay& display) {
-    study.result.ValidES = 1;
+void ComputeES(Study& study) {
+    study.result.ValidES = true;
     if (study.isMeans())
         return;
     const double p = study.txtPrev;
     const double q = treatedRate(study);
     requireFinite("ComputeES", {q});
     study.txtEvent2 = q;
-    if (admissible(study, q) && admissible(study, p)) {
+    study.result.ValidES = admissible(study, q) && admissible(study, p);
+    if (study.result.ValidES)
         study.ComputedOR = withoutRounding(oddsRatioOfRates(p, q));
-        display.withdrawWindow(WindowId::frmProblemES);
-        display.showEffect();
-    } else {
-        study.result.ValidES = 0;
-        display.openWindow(WindowId::frmProblemES);
-        display.showEffectProblem();
-    }
 }
 
 std::string derivedEffectText(const Study& study) {

@@ -3,19 +3,21 @@
 
 #include <string>
 
-#include "engine/compute_display.h"
 #include "engine/study.h"
 
 namespace lorvane {
 
-/// Checks the effect and derives ComputedOR and txtEvent2; the outcome stands in ValidES. An effect of
-/// means is always valid. A rate exactly on a limit passes.
-void ComputeES(Study& study, ComputeDisplay& display);
+/// Checks the effect, writes ValidES, and derives txtEvent2 and ComputedOR. Rates outside the limits leave
+/// ComputedOR as it was; a rate exactly on a limit passes. An effect of means is always valid and derives
+/// nothing. Throws ArithmeticFault when the treated rate is not finite.
+void ComputeES(Study& study);
 
-/// The derived metric beside the effect: the treated group's event rate, or for two risks the odds ratio.
+/// The sentence beside a binary effect that tells what it implies: the treated group's event rate, or for two
+/// risks the odds ratio.
 std::string derivedEffectText(const Study& study);
 
-/// Title and text for an effect whose rates lie outside the limits.
+/// Title and text for an effect whose rates lie outside the limits. When both rates do, the text asks for
+/// another treated rate.
 std::string effectProblemTitle(const Study& study);
 std::string effectProblemText(const Study& study);
 

@@ -4,6 +4,7 @@
 #include <cmath>
 
 #include "base/arithmetic_fault.h"
+#include "base/leaps.h"
 
 namespace lorvane {
 
@@ -14,29 +15,21 @@ constexpr double highestRate = 0.999;
 
 bool withinFixedLimits(double rate) { return rate >= lowestRate && rate <= highestRate; }
 
-void oddsRatioWithinFixedLimits(double controlRate, double treatedRate, bool& valid, double& oddsRatio) {
-    valid = withinFixedLimits(treatedRate) && withinFixedLimits(controlRate);
-    if (valid)
-        oddsRatio = oddsRatioOfRates(controlRate, treatedRate);
+std::optional<double> oddsRatioWithinFixedLimits(double controlRate, double treatedRate) {
+    if (!withinFixedLimits(treatedRate) || !withinFixedLimits(controlRate))
+        return std::nullopt;
+    return oddsRatioOfRates(controlRate, treatedRate);
 }
 
-constexpr double longestLeap = 1e15;
+constexpr long long longestWalk = 1'000'000'000'000'000;
 
-// Walks while the rate of the next value is admissible, and leaves the last value that was met before. The
-// rate goes one way, so the walk may leap: an odds ratio near a rate of 1 lies millions of steps away.
+// Walks while the rate of the next value is admissible, and returns the last value it came to. The rate only
+// rises or only falls along the way, so the walk may leap. It has to: the odds ratio of a rate near 1 lies
+// millions of steps away.
 template <typename RateOf, typename Admissible>
 double walk(double start, double step, int direction, RateOf rateOf, Admissible admissible) {
-    const auto value = [&](double steps) { return start + steps * step * direction; };
-    const auto goesOn = [&](double steps) { return admissible(rateOf(value(steps))); };
-    double walked = 0;
-    double leap = 1;
-    for (; leap < longestLeap && goesOn(walked + leap); leap *= 2)
-        walked += leap;
-    for (leap /= 2; leap >= 1; leap /= 2) {
-        if (goesOn(walked + leap))
-            walked += leap;
-    }
-    return value(walked);
+    const auto value = [&](long long steps) { return start + static_cast<double>(steps) * step * direction; };
+    return value(stepsWhile(longestWalk, [&](long long steps) { return admissible(rateOf(value(steps))); }));
 }
 
 }  // namespace
@@ -98,13 +91,12 @@ std::string_view GetESName(const Study& study) {
     }
 }
 
-void SetDefaultDirection(const Study& study, int& direction) {
+int SetDefaultDirection(const Study& study) {
     if (study.isMeans())
-        direction = study.txtd < 0 ? -1 : 1;
-    else if (study.BinaryType == BinaryTypes::oddsRatio && study.txtOR != 1)
-        direction = study.txtOR < 1 ? -1 : 1;
-    else if (study.BinaryType == BinaryTypes::riskDifference && study.txtRD != 0)
-        direction = study.txtRD < 0 ? -1 : 1;
+        return study.txtd < 0 ? -1 : 1;
+    if (study.BinaryType == BinaryTypes::oddsRatio)
+        return study.txtOR < 1 ? -1 : 1;
+    return study.BinaryType == BinaryTypes::riskDifference && study.txtRD < 0 ? -1 : 1;
 }
 
 double Logit(double p) { return std::log(p / (1 - p)); }
@@ -117,36 +109,31 @@ double oddsRatioOfRates(double controlRate, double treatedRate) {
     return (1 - controlRate) * treatedRate / ((1 - treatedRate) * controlRate);
 }
 
-void GetORfromRR(double riskRatio, double controlRate, bool& valid, double& oddsRatio) {
-    oddsRatioWithinFixedLimits(controlRate, riskRatio * controlRate, valid, oddsRatio);
+std::optional<double> GetORfromRR(double riskRatio, double controlRate) {
+    return oddsRatioWithinFixedLimits(controlRate, riskRatio * controlRate);
 }
 
-void GetORfromRD(double riskDifference, double controlRate, bool& valid, double& oddsRatio) {
-    oddsRatioWithinFixedLimits(controlRate, controlRate + riskDifference, valid, oddsRatio);
+std::optional<double> GetORfromRD(double riskDifference, double controlRate) {
+    return oddsRatioWithinFixedLimits(controlRate, controlRate + riskDifference);
 }
 
-void GetRangeOR(const Study& study, double& limit, double start, double step, int direction) {
+double GetRangeOR(const Study& study, double start, double step, int direction) {
     const double delta = study.limits.txtDelta;
-    limit = walk(
+    return walk(
         start, step, direction, [&](double value) { return treatedRateOfOddsRatio(study.txtPrev, value); },
         [&](double rate) { return rate >= delta && rate <= 1 - delta; });
 }
 
-void GetRangeRR(const Study& study, double& limit, double start, double step, int direction) {
-    limit = walk(
+double GetRangeRR(const Study& study, double start, double step, int direction) {
+    return walk(
         start, step, direction, [&](double value) { return study.txtPrev * value; }, withinFixedLimits);
 }
 
-void GetRangeRD(const Study& study, double& limit, double start, double step, int direction) {
-    limit = walk(
+double GetRangeRD(const Study& study, double start, double step, int direction) {
+    return walk(
         start, step, direction, [&](double value) { return study.txtPrev + value; }, withinFixedLimits);
 }
 
-void GetRangeP2(double& lower, double& upper, double limit, int direction) {
-    if (direction == -1)
-        lower = limit;
-    if (direction == 1)
-        upper = 1 - limit;
-}
+double GetRangeP2(double limit, int direction) { return direction == -1 ? limit : 1 - limit; }
 
 }  // namespace lorvane

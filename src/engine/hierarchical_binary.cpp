@@ -23,8 +23,9 @@ double designEffectThreeLevelHD(const Study& s, const ArmSizes& n, const ScaledI
            (n.n1 * n.n2 - 1) * (1 - s.txtRsq(3)) * icc.i3 + 1;
 }
 
-// The model factors sit one level off from the ICC that they multiply: that of level 3 with level 4, that of
-// level 2 with level 3, none with level 2. Deliberate; the odds ratio has them at their own levels.
+// Each model factor multiplies the ICC of the level above its own: that of level 3 the ICC of level 4, that
+// of level 2 the ICC of level 3, and none the ICC of level 2. This is deliberate. In the log odds ratio each
+// factor stands with its own level.
 double designEffectFourLevelHD(const Study& s, const ArmSizes& n, const ScaledIcc& icc) {
     const double f3 = s.txtPop(3), f2 = s.txtPop(2);
     return (n.n2 * n.n3 * n.n1 - 1) * (1 - s.txtRsq(4)) * (1 - f3) * icc.i4 + 1 +

@@ -7,16 +7,20 @@
 
 namespace lorvane {
 
-/// Values at the indices First to Last, read and written as values(index).
+/// Values at the indices First to Last, read and written as values(index). They start as 0, false or empty.
+/// The caller sees to it that an index lies within them; only a debug build checks.
 template <typename T, int First, int Last>
 class IndexedArray {
 public:
+    /// The ends, for loops over all values.
     static constexpr int first = First;
     static constexpr int last = Last;
 
+    /// The value at an index, to read or to write.
     T& operator()(int index) { return values_[position(index)]; }
     const T& operator()(int index) const { return values_[position(index)]; }
 
+    /// Gives every index the same value, the summary at index 0 of a LevelFlags too.
     void fill(const T& value) { values_.fill(value); }
 
 private:
@@ -31,11 +35,11 @@ private:
 inline constexpr int lowestLevel = 1;
 inline constexpr int highestLevel = 4;
 
-/// One value a level: txtNT(2) is that of level 2.
+/// One value for each level: txtNT(2) is that of level 2.
 template <typename T>
 using PerLevel = IndexedArray<T, lowestLevel, highestLevel>;
 
-/// One flag a level, 1 good and 0 a problem, with the summary of all levels at index 0.
-using LevelFlags = IndexedArray<int, 0, highestLevel>;
+/// One flag for each level, and the summary of all levels at index 0. False tells of a problem.
+using LevelFlags = IndexedArray<bool, 0, highestLevel>;
 
 }  // namespace lorvane

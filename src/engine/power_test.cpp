@@ -9,7 +9,7 @@ namespace lorvane {
 
 namespace {
 
-constexpr int normalCriticalValue = 2;
+double alphaOfOneTail(double alpha, Tails tails) { return tails == Tails::one ? alpha : alpha / 2; }
 
 }  // namespace
 
@@ -33,57 +33,49 @@ double NormInv(DistributionLibrary& library, double p) {
 
 double SmallerOf(double a, double b) { return a <= b ? a : b; }
 
-void GetPowerT(DistributionLibrary& library, double t, double df, double lambda, double& result) {
+double GetPowerT(DistributionLibrary& library, double t, double df, double lambda) {
     double below = 0;
     library.VBDTNDF(t, df, lambda, below);
-    result = 1 - below;
+    return 1 - below;
 }
 
-void GetPowerTDist(DistributionLibrary& library, double alpha, int tails, double df, double lambda,
-                   double& crit, double& power) {
-    const double p = alpha / tails;
-    crit = TInv(library, p, df);
+TestPower GetPowerTDist(DistributionLibrary& library, double alpha, Tails tails, double df, double lambda) {
+    const double p = alphaOfOneTail(alpha, tails);
+    const double crit = TInv(library, p, df);
     requireFinite("GetPowerTDist", {p, crit, lambda});
-    if (tails == 1) {
-        GetPowerT(library, crit, df, lambda, power);
-    } else if (tails == 2) {
-        double above = 0;
-        double below = 0;
-        library.NoncentralTTails(crit, df, lambda, above, below);
-        power = above + below;
-    }
+    if (tails == Tails::one)
+        return {crit, GetPowerT(library, crit, df, lambda)};
+    double above = 0;
+    double below = 0;
+    library.NoncentralTTails(crit, df, lambda, above, below);
+    return {crit, above + below};
 }
 
-void GetPowerBinary(DistributionLibrary& library, int mode, double alpha, int tails, double df, double pooled,
-                    double separate, double effect, double& crit, double& power) {
-    const double p = alpha / tails;
-    crit = mode == normalCriticalValue ? NormInv(library, p) : TInv(library, p, df);
+TestPower GetPowerBinary(DistributionLibrary& library, PowerOptions mode, double alpha, Tails tails,
+                         double df, double pooled, double separate, double effect) {
+    const double p = alphaOfOneTail(alpha, tails);
+    const double crit = mode == PowerOptions::zDistribution ? NormInv(library, p) : TInv(library, p, df);
     const double a = std::sqrt(pooled);
     const double b = std::sqrt(separate);
     const double upper = (a * crit - effect) / b;
     const double lower = (-crit * a - effect) / b;
     requireFinite("GetPowerBinary", {p, crit, upper, lower});
-    if (tails == 1)
-        power = 1 - NormalCDF(library, upper);
-    else if (tails == 2)
-        power = 1 - NormalCDF(library, upper) + NormalCDF(library, lower);
+    const double above = 1 - NormalCDF(library, upper);
+    return {crit, tails == Tails::one ? above : above + NormalCDF(library, lower)};
 }
 
 void ComputePower(Study& study, DistributionLibrary& library) {
-    const PowerResult& in = study.result;
-    const bool riskDifference = study.isBinary() && study.BinaryType == BinaryTypes::riskDifference;
-    const bool oddsRatio = study.isBinary() && study.BinaryType == BinaryTypes::oddsRatio;
-    double crit = in.txtCritT;
-    double power = in.txtPower;
-    if (study.isMeans() || oddsRatio || (riskDifference && study.PowerOption == PowerOptions::tDistribution))
-        GetPowerTDist(library, study.txtAlpha, study.txtTails, in.xdf, in.xLambda, crit, power);
-    else if (riskDifference)
-        GetPowerBinary(library, normalCriticalValue, study.txtAlpha, study.txtTails, in.xdf, in.txtVarPooled,
-                       in.txtVarSep, in.txtBinaryES, crit, power);
-    else
+    if (!study.isTested())
         return;
-    study.result.txtCritT = crit;
-    study.result.txtPower = power;
+    const PowerResult& in = study.result;
+    const bool normal = study.isBinary() && study.BinaryType == BinaryTypes::riskDifference &&
+                        study.PowerOption == PowerOptions::zDistribution;
+    const TestPower test = normal
+                               ? GetPowerBinary(library, study.PowerOption, study.txtAlpha, study.txtTails,
+                                                in.xdf, in.txtVarPooled, in.txtVarSep, in.txtBinaryES)
+                               : GetPowerTDist(library, study.txtAlpha, study.txtTails, in.xdf, in.xLambda);
+    study.result.txtCritT = test.crit;
+    study.result.txtPower = test.power;
 }
 
 }  // namespace lorvane

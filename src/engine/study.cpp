@@ -14,22 +14,22 @@ constexpr double startSpanOfIndividuals = 10;
 PowerResult::PowerResult() {
     for (LevelFlags* flags : {&xValidDF, &xValidQ, &xValidICC, &xValidMRange, &xValidTauSq, &xValidOmega,
                               &xValidCost, &xValidModel})
-        flags->fill(1);
+        flags->fill(true);
 }
 
 OutcomeDispersion::OutcomeDispersion() {
-    ValidICC.fill(1);
-    ShowICC.fill(1);
-    ShowSpan.fill(1);
+    ValidICC.fill(true);
+    ShowICC.fill(true);
+    ShowSpan.fill(true);
 }
 
-LogitDispersion::LogitDispersion() { ok.fill(1); }
+LogitDispersion::LogitDispersion() { ok.fill(true); }
 
 EffectDispersion::EffectDispersion() {
     for (LevelFlags* flags : {&ValidTauSq, &ValidSpan, &ValidOmega})
-        flags->fill(1);
-    for (PerLevel<int>* flags : {&ShowTauSq, &ShowSpan, &ShowOmega})
-        flags->fill(1);
+        flags->fill(true);
+    for (PerLevel<bool>* flags : {&ShowTauSq, &ShowSpan, &ShowOmega})
+        flags->fill(true);
 }
 
 Study::Study() {
@@ -44,8 +44,6 @@ Study::Study() {
         (*sizes)(1) = startSizeOfIndividuals;
     }
     txtMRange(1) = startSpanOfIndividuals;
-    chkMatch(3) = 1;
-    chkMatch(4) = 1;
     LinkN.fill(true);
     LinkCost.fill(true);
 }

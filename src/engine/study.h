@@ -9,59 +9,55 @@
 
 namespace lorvane {
 
-// Values of the design choices. The choices are stored as whole numbers, as the study file holds them.
-namespace DataTypes {
-inline constexpr int means = 1;
-inline constexpr int binary = 2;
-}  // namespace DataTypes
+// The design choices. Study files and scripts write a choice as the number given here. Only the book of
+// fields turns names into numbers and back.
+enum class DataTypes { means = 1, binary = 2 };
+enum class BinaryTypes { oddsRatio = 1, riskRatio = 2, riskDifference = 3, twoRisks = 4 };
+enum class DTypes { within = 1, total = 2 };  ///< the standard deviation that d is counted in
+enum class PowerOptions { tDistribution = 1, zDistribution = 2 };  ///< for a risk difference only
+enum class IccMetrics { icc = 1, span = 2 };  ///< how the dispersion of the outcome is entered
+enum class TauSqMetrics { tauSquared = 1, spanOfEffects = 2, omega = 3 };  ///< the same of the effect
+enum class RangeModes { span = 1, limits = 2 };  ///< how the risks of a level are entered
+enum class Tails { one = 1, two = 2 };
 
-namespace BinaryTypes {
-inline constexpr int oddsRatio = 1;
-inline constexpr int riskRatio = 2;
-inline constexpr int riskDifference = 3;
-inline constexpr int twoRisks = 4;
-}  // namespace BinaryTypes
-
-namespace DTypes {
-inline constexpr int within = 1;
-inline constexpr int total = 2;
-}  // namespace DTypes
-
-namespace PowerOptions {
-inline constexpr int tDistribution = 1;
-inline constexpr int zDistribution = 2;
-}  // namespace PowerOptions
-
-namespace IccMetrics {
-inline constexpr int icc = 1;
-inline constexpr int span = 2;
-}  // namespace IccMetrics
-
-namespace TauSqMetrics {
-inline constexpr int tauSquared = 1;
-inline constexpr int spanOfEffects = 2;
-inline constexpr int omega = 3;
-}  // namespace TauSqMetrics
-
-namespace DisplayModes {
-inline constexpr int digits = 1;
-inline constexpr int graph = 2;
-}  // namespace DisplayModes
-
+// Values of txtModel. A file may hold other numbers; they leave txtPop as it was.
 namespace SamplingModels {
-inline constexpr int random = 0;
-inline constexpr int fixed = 1;
+inline constexpr double random = 0;
+inline constexpr double fixed = 1;
 }  // namespace SamplingModels
 
-namespace RangeModes {
-inline constexpr int span = 1;
-inline constexpr int limits = 2;
-}  // namespace RangeModes
+/// How the search for the cheapest design ended.
+enum class SizeAdjustments {
+    none = 0,
+    topRaised = 1,  ///< the top level has more units than the power needs, for its degrees of freedom
+    noSolution = 2
+};
 
-/// What one computation leaves behind. Only the computation and the searches write it, and it may be read
-/// only after a refresh. Flags are 1 for good and 0 for a problem.
+/// How the search for the smallest effect ended.
+enum class MdesOutcomes { found = -1, none = 0 };
+
+/// Why the risks of a level are impossible.
+enum class LogitErrors {
+    none = 0,
+    spanTooWide = 1,
+    prevalenceTooLow = 2,
+    prevalenceTooHigh = 3,
+    includesZero = 4,
+    includesOne = 5,
+    excludesPrevalence = 6,
+    cumulativeTooWide = 7  ///< nothing sets it, but it keeps its number and its text, deliberately
+};
+
+/// The limit that the span of a level's risks was shifted to.
+enum class Truncations { none = 0, atLowerLimit = 1, atUpperLimit = 2 };
+
+/// A span of values covers four standard deviations, two to each side of the middle.
+inline constexpr double spanOfOneSd = 4;
+
+/// What one computation leaves behind. Only the computation and the searches write it. Read it after a
+/// refresh, since before that it belongs to earlier values. A flag that is false tells of a problem.
 struct PowerResult {
-    double xLambda = 0;        ///< noncentrality of the t test; for a binary outcome the standardized effect
+    double xLambda = 0;        ///< the effect over its standard error; the noncentrality of the t test
     double xdf = 0;            ///< degrees of freedom of the test
     double txtCritT = 0;       ///< critical value
     double txtPower = 0;       ///< power, 0 to 1
@@ -69,84 +65,87 @@ struct PowerResult {
     double txtBinaryES = 0;    ///< difference of event rates (risk difference only)
     double txtVarPooled = 0;   ///< variance of that difference under the null hypothesis
     double txtVarSep = 0;      ///< variance of that difference under the alternative
-    int xValid = 0;            ///< the inputs give a usable answer
+    bool xValid = false;       ///< the inputs give a usable answer
     LevelFlags xValidDF;       ///< degrees of freedom of the level are usable
     LevelFlags xValidQ;        ///< covariates and R-squared of the level fit together
-    int xValidTestdf = 1;      ///< degrees of freedom of the test are usable
-    int ValidES = 1;           ///< the event rates of the effect lie within the limits
+    bool xValidTestdf = true;  ///< degrees of freedom of the test are usable
+    bool ValidES = true;       ///< the event rates of the effect lie within the limits
 
-    // Readiness of the search for the cheapest design. Index 0 of a level flag is the summary.
-    int xValidES = 1;
-    int xValidTotICC = 1;
-    LevelFlags xValidICC;
-    LevelFlags xValidMRange;
-    LevelFlags xValidTauSq;
-    LevelFlags xValidOmega;
-    LevelFlags xValidCost;
-    LevelFlags xValidModel;
-    int xValidAlpha = 1;
-    int xValidOptimal = 1;
+    // Whether the search for the cheapest design may run. Each run sets these flags to true and clears those
+    // that stand in its way. Index 0 of a level flag is the summary of all levels.
+    bool xValidES = true;       ///< the effect is not null
+    bool xValidTotICC = true;   ///< the ICCs sum to less than 0.999
+    LevelFlags xValidICC;       ///< the ICC of the level is above 0
+    LevelFlags xValidMRange;    ///< no check clears it; scripts can read it
+    LevelFlags xValidTauSq;     ///< the tau-squared of the level is above 0
+    LevelFlags xValidOmega;     ///< the omega of the level is above 0
+    LevelFlags xValidCost;      ///< a unit of the level costs more than 0
+    LevelFlags xValidModel;     ///< the sampling model of the level is not fixed
+    bool xValidAlpha = true;    ///< no check clears it; scripts can read it
+    bool xValidOptimal = true;  ///< the search may run
 
-    int Adjusteddf = 0;  ///< outcome of the search: 0 normal, 1 top level raised for its df, 2 no solution
-    double MDES = 0;     ///< outcome of the search for the smallest effect: -1 found, 0 out of reach
-    int txtCostProblem = 0;  ///< 1 when the cost left the 32-bit range
+    SizeAdjustments Adjusteddf = SizeAdjustments::none;  ///< of the last search for the cheapest design
+    MdesOutcomes MDES = MdesOutcomes::none;              ///< of the last search for the smallest effect
+    bool txtCostProblem = false;  ///< a cost left 32 bits; the search for the cheapest design clears it
 
     PowerResult();
 };
 
-/// Shares of clusters with a small expected count, as the screening of a binary study finds them.
+/// Shares of clusters with a small expected count, 0 to 1, as the screening of a binary study finds them.
 /// The order of the four cells: control events, control non-events, treated events, treated non-events.
 struct CellCounts {
     IndexedArray<double, 1, 4> share;
-    IndexedArray<int, 1, 4> low;  ///< 1 when the share is too large
-    int anyLow = 0;
+    IndexedArray<bool, 1, 4> low;  ///< the share is too large
+    bool anyLow = false;
 };
 
-/// Dispersion of the outcome as the panel frmDisplayICC carries it. A flag is 1 for good, 0 for a problem.
+/// Dispersion of the outcome as the panel frmDisplayICC carries it. A flag that is false tells of a problem.
 struct OutcomeDispersion {
-    LevelFlags ValidICC;     ///< index 0: the summary, which the computation reads
-    PerLevel<int> ShowICC;   ///< the ICC column shows a number
-    PerLevel<int> ShowSpan;  ///< the span column shows a number
+    LevelFlags ValidICC;      ///< index 0: the summary, which the computation reads
+    PerLevel<bool> ShowICC;   ///< the ICC column shows a number
+    PerLevel<bool> ShowSpan;  ///< the span column shows a number
 
     OutcomeDispersion();
 };
 
 /// The levels' dispersion on the logit scale, for binary outcomes.
 struct LogitDispersion {
-    PerLevel<double> LogitV;             ///< variance on the logit scale; level 1 has none
-    PerLevel<int> ok;                    ///< 0 when the level's span is impossible
-    PerLevel<int> error;                 ///< why it is, a code of 1 to 7; 0 none
-    IndexedArray<int, 0, 4> truncation;  ///< 0 none, 1 at the lower limit, 2 at the upper limit
+    PerLevel<double> LogitV;                     ///< variance on the logit scale; level 1 has none
+    PerLevel<bool> ok;                           ///< the level's span is possible
+    PerLevel<LogitErrors> error;                 ///< why it is not
+    IndexedArray<Truncations, 0, 4> truncation;  ///< limit that the span was shifted to; index 0 is unused
 
     LogitDispersion();
 };
 
 /// Limits of the risks: the allowed distance from 0 and 1, and the range of each level.
 struct RiskLimits {
-    double txtDelta = 0.001;           ///< every event rate stays between this and 1 minus this
-    int RangeMode = RangeModes::span;  ///< whether a level's risks are entered as a span or as limits
-    PerLevel<double> txtLL;            ///< lower limit of the risks of the level
-    PerLevel<double> txtUL;            ///< upper limit
-    PerLevel<double> txtVariance;      ///< variance on the logit scale, as shown beside the limits
-    PerLevel<double> txtSpan;          ///< the values below are those shown beside the limits
+    double txtDelta = 0.001;                  ///< every event rate stays between this and 1 minus this
+    RangeModes RangeMode = RangeModes::span;  ///< whether a level's risks are entered as a span or as limits
+    PerLevel<double> txtLL;                   ///< lower limit of the risks of the level
+    PerLevel<double> txtUL;                   ///< upper limit
+    PerLevel<double> txtVariance;             ///< variance on the logit scale, as shown beside the limits
+
+    // Dispersion of the level in the other metrics, as shown beside the limits. No formula reads it.
+    PerLevel<double> txtSpan;  ///< of the outcome
     PerLevel<double> txtICC;
     PerLevel<double> txtTauSq;
-    PerLevel<double> txtDRange;
+    PerLevel<double> txtDRange;  ///< span of the effects
     PerLevel<double> txtOmega;
 };
 
 /// Dispersion of the effect over the blocked levels, as the panel frmDisplayTauSq carries it.
 /// The computation reads these values, never the entered ones.
 struct EffectDispersion {
-    PerLevel<double> txtTauSq;
-    PerLevel<double> txtSpan;
-    PerLevel<double> txtOmega;
-    LevelFlags ValidTauSq;  ///< index 0: the summary, which the computation reads
+    PerLevel<double> txtTauSq;  ///< variance of the effect
+    PerLevel<double> txtSpan;   ///< four standard deviations of the effect
+    PerLevel<double> txtOmega;  ///< tau-squared as a multiple of the outcome variance of the level
+    LevelFlags ValidTauSq;      ///< index 0: the summary, which the computation reads
     LevelFlags ValidSpan;
     LevelFlags ValidOmega;
-    PerLevel<int> ShowTauSq;
-    PerLevel<int> ShowSpan;
-    PerLevel<int> ShowOmega;
+    PerLevel<bool> ShowTauSq;  ///< the column shows a number for the level; so the two below
+    PerLevel<bool> ShowSpan;
+    PerLevel<bool> ShowOmega;
 
     EffectDispersion();
 };
@@ -175,27 +174,25 @@ struct FieldDecimals {
 struct Study {
     int NumLevels = 2;        ///< 2, 3 or 4
     int RandomizedLevel = 2;  ///< 1 to NumLevels; levels above it are blocked
-    int DataType = DataTypes::means;
-    int BinaryType = BinaryTypes::oddsRatio;
-    int DType = DTypes::total;  ///< standard deviation in which txtd is stated
-    int PowerOption = PowerOptions::zDistribution;
-    int IccMetric = IccMetrics::span;
-    int TauSqMetric = TauSqMetrics::tauSquared;
-    int Powermode = DisplayModes::graph;
-    int Costmode = DisplayModes::digits;
+    DataTypes DataType = DataTypes::means;
+    BinaryTypes BinaryType = BinaryTypes::oddsRatio;
+    DTypes DType = DTypes::total;  ///< standard deviation in which txtd is stated
+    PowerOptions PowerOption = PowerOptions::zDistribution;
+    IccMetrics IccMetric = IccMetrics::span;
+    TauSqMetrics TauSqMetric = TauSqMetrics::tauSquared;
 
-    double txtd = 0;       ///< standardized mean difference
-    double txtPrev = 0.5;  ///< event rate in the control group
-    double txtP2 = 0.5;    ///< event rate in the treated group, for two risks
-    double txtOR = 1;
-    double txtRR = 1;
-    double txtRD = 0;
+    double txtd = 0;         ///< standardized mean difference
+    double txtPrev = 0.5;    ///< event rate in the control group
+    double txtP2 = 0.5;      ///< event rate in the treated group, for two risks
+    double txtOR = 1;        ///< odds ratio, treated against control
+    double txtRR = 1;        ///< risk ratio, treated over control
+    double txtRD = 0;        ///< risk difference, treated less control
     double ComputedOR = 1;   ///< odds ratio that the entered binary effect implies
     double txtEvent2 = 0.5;  ///< event rate in the treated group that it implies
-    double txtAlpha = 0.05;
-    int txtTails = 2;
-    double txtMean = 0;
-    double txtSD = 1;
+    double txtAlpha = 0.05;  ///< significance level of the test, both tails together
+    Tails txtTails = Tails::two;
+    double txtMean = 0;     ///< mean of the scores; the ranges shown lie about it
+    double txtSD = 1;       ///< standard deviation of the scores of level 1
     double MaxCost = 100;   ///< top of the cost bar; display only
     double ReqPower = 0.8;  ///< power that the searches aim at
 
@@ -208,17 +205,16 @@ struct Study {
     PerLevel<double> txtMRange;  ///< span of means or risks, four standard deviations
     PerLevel<double> txtTauSq;   ///< variance of the effect over units of the level (i > R), as entered
     PerLevel<double> txtDRange;  ///< span of effects
-    PerLevel<double> txtOmega;
-    PerLevel<double> txtQ;      ///< number of covariates
-    PerLevel<double> txtRsq;    ///< share of the level's variance that they explain
-    PerLevel<double> txtModel;  ///< 0 random, 1 fixed; a 2, as a file can hold, is random in the df rules
-    PerLevel<double> txtPop;    ///< the model as a number in formulas: 1 fixed, 0 random
-    PerLevel<double> txtCostT;  ///< cost of one unit, treated arm (i <= R)
-    PerLevel<double> txtCostC;
-    PerLevel<double> txtCostB;  ///< cost of one blocked unit (i > R)
-    PerLevel<int> chkMatch;     ///< 1 when the level is blocked
-    PerLevel<bool> LinkN;       ///< a change of one arm's size is copied to the other
-    PerLevel<bool> LinkCost;
+    PerLevel<double> txtOmega;   ///< tau-squared as a multiple of the outcome variance of the level
+    PerLevel<double> txtQ;       ///< number of covariates
+    PerLevel<double> txtRsq;     ///< share of the level's variance that they explain
+    PerLevel<double> txtModel;   ///< 0 random, 1 fixed; a 2, as a file can hold, is random in the df rules
+    PerLevel<double> txtPop;     ///< the model as a number in formulas: 1 fixed, 0 random
+    PerLevel<double> txtCostT;   ///< cost of one unit, treated arm (i <= R)
+    PerLevel<double> txtCostC;   ///< the same in the control arm
+    PerLevel<double> txtCostB;   ///< cost of one blocked unit (i > R)
+    PerLevel<bool> LinkN;        ///< a change of one arm's size is copied to the other
+    PerLevel<bool> LinkCost;     ///< the same of the costs
 
     FieldDecimals decimals;
     RiskLimits limits;
@@ -230,10 +226,15 @@ struct Study {
 
     Study();
 
+    /// Units of a blocked level hold both arms. A hierarchical design has no blocked level.
     bool isBlocked(int level) const { return level > RandomizedLevel; }
     bool isHierarchical() const { return RandomizedLevel == NumLevels; }
     bool isMeans() const { return DataType == DataTypes::means; }
     bool isBinary() const { return DataType == DataTypes::binary; }
+    /// A risk ratio and two risks come from files and have no test of their own.
+    bool isTested() const {
+        return isMeans() || BinaryType == BinaryTypes::oddsRatio || BinaryType == BinaryTypes::riskDifference;
+    }
     const std::string& treatedName() const { return txtGroupName(1); }
     const std::string& controlName() const { return txtGroupName(2); }
 };

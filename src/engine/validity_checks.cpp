@@ -11,19 +11,19 @@ constexpr double tolerance = 0.0000001;
 
 void CheckDF(Study& study, double df, int level) {
     if (df + tolerance < 0)
-        study.result.xValidDF(level) = 0;
+        study.result.xValidDF(level) = false;
 }
 
 void CheckTestDF(Study& study, double df) {
     if (df + tolerance < 1.0)
-        study.result.xValidTestdf = 0;
+        study.result.xValidTestdf = false;
 }
 
 void CheckQ(Study& study, double rSquared, double covariates, int level) {
     if (level == 1 && study.isBinary())
         return;
     if (rSquared > 0 && covariates == 0)
-        study.result.xValidQ(level) = 0;
+        study.result.xValidQ(level) = false;
 }
 
 }  // namespace lorvane

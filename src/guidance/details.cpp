@@ -26,18 +26,14 @@ constexpr ColumnItem columnItems[] = {
     {"colRsq", DetailItem::covariates}, {"colCost", DetailItem::costs},
     {"colES", DetailItem::effect}};
 
-struct CellItem {
-    const char* panel;
-    DetailItem item;
-};
-
-constexpr CellItem cellItems[] = {
-    {"pnlLevel", DetailItem::design},   {"pnlName", DetailItem::levels}, {"pnlNT", DetailItem::units},
-    {"pnlNC", DetailItem::units},       {"pnlNB", DetailItem::units},    {"pnlICC", DetailItem::icc},
-    {"pnlMRange", DetailItem::span},    {"pnlTauSq", DetailItem::tauSq}, {"pnlDRange", DetailItem::effects},
-    {"pnlOmega", DetailItem::effects},  {"pnlModel", DetailItem::model}, {"pnlQ", DetailItem::covariates},
-    {"pnlRsq", DetailItem::covariates}, {"pnlCostT", DetailItem::costs}, {"pnlCostC", DetailItem::costs},
-    {"pnlCostB", DetailItem::costs}};
+// The item that a column stands for.
+DetailItem itemOf(std::string_view column) {
+    for (const ColumnItem& row : columnItems) {
+        if (row.column == column)
+            return row.item;
+    }
+    return DetailItem::none;
+}
 
 std::optional<DetailText> textOf(const Study& s, DetailItem item, int row) {
     switch (item) {
@@ -61,10 +57,7 @@ std::string joined(const std::vector<std::string>& paragraphs) {
 
 }  // namespace
 
-Details::Details(Design& design) : design_(design) {
-    rest();
-    design_.follow(RefreshFollower::details, [this] { refresh(); });
-}
+Details::Details(Design& design) : design_(design) { rest(); }
 
 // Item 0: nothing has been asked for.
 void Details::rest() {
@@ -73,7 +66,27 @@ void Details::rest() {
     pnlCover_.Caption = "Click any item on the main screen\nto see details for that item";
     title_.Caption.clear();
     text_.Caption.clear();
-    tabs_.clear();
+    showTabs();
+}
+
+// The units have a tab a level.
+void Details::showTabs() {
+    const Study& s = design_.study();
+    for (int level = lowestLevel; level <= highestLevel; ++level) {
+        Option& tab = tabDetails_(level);
+        tab.Visible = item_ == DetailItem::units && level <= s.NumLevels;
+        tab.Caption = tab.Visible ? s.txtName(level) : "";
+        tab.Value = tab.Visible && level == row_;
+    }
+}
+
+std::vector<std::string> Details::tabs() const {
+    std::vector<std::string> names;
+    for (int level = highestLevel; level >= lowestLevel; --level) {
+        if (tab(level).Visible)
+            names.push_back(tab(level).Caption);
+    }
+    return names;
 }
 
 void Details::fill() {
@@ -84,9 +97,7 @@ void Details::fill() {
     pnlCover_.Visible = false;
     title_.Caption = text->title;
     text_.Caption = joined(text->paragraphs);
-    tabs_.clear();
-    for (int level = s.NumLevels; item_ == DetailItem::units && level >= 1; --level)
-        tabs_.push_back(s.txtName(level));
+    showTabs();
 }
 
 // An item on a level that is gone falls back to nothing.
@@ -109,41 +120,45 @@ void Details::GetDetails(DetailItem item, int row) {
     refresh();
 }
 
-void Details::open(DetailItem item, int row) {
-    GetDetails(item, row);
+void Details::openColumn(std::string_view column) {
+    GetDetails(itemOf(column), 0);
     design_.SynchForms(WindowId::frmDetails, WindowAction::open);
 }
 
 void Details::toggle() {
-    const bool isOpen = design_.windows().state(WindowId::frmDetails) == WindowStates::open;
-    design_.SynchForms(WindowId::frmDetails, isOpen ? WindowAction::withdrawForGood : WindowAction::open);
+    design_.SynchForms(WindowId::frmDetails, design_.isOpen(WindowId::frmDetails)
+                                                 ? WindowAction::withdrawForGood
+                                                 : WindowAction::open);
 }
 
 void Details::registerNames(ControlRegistry& registry) const {
     registry.add("frmDetails.Title", title_);
     registry.add("frmDetails.xDesc", text_);
     registry.add("frmDetails.pnlCover", pnlCover_);
+    for (int level = lowestLevel; level <= highestLevel; ++level)
+        registry.add(indexedName("frmDetails.tabDetails", level), tab(level));
 }
 
 void Details::registerEvents(EventRegistry& events) {
-    events.onTool("gfrmDetails", [this] { toggle(); });
     events.onClick("frmDetails.Command1",
                    [this] { design_.SynchForms(WindowId::frmDetails, WindowAction::withdrawForGood); });
-    for (const ColumnItem& column : columnItems) {
-        events.onTool(std::string("Show details ") + column.column,
-                      [this, &column] { open(column.item, 0); });
-        events.onClick(column.column, [this, &column] { GetDetails(column.item, 0); });
-    }
-    for (const CellItem& cell : cellItems) {
-        for (int level = lowestLevel; level <= highestLevel; ++level)
-            events.onClick(indexedName(cell.panel, level),
-                           [this, &cell, level] { GetDetails(cell.item, level); });
-    }
-    for (const StripCellName& cell : stripCells)
-        events.onClick(std::string(cell.panel), [this] { GetDetails(DetailItem::effect, 0); });
-    for (int level = lowestLevel; level <= highestLevel; ++level)
+    const auto onClick = [&](std::string control, DetailItem item, int row) {
+        events.onClick(std::move(control), [this, item, row] { GetDetails(item, row); });
+    };
+    for (const ColumnItem& column : columnItems)
+        onClick(column.column, column.item, 0);
+    for (int level = lowestLevel; level <= highestLevel; ++level) {
+        onClick(indexedName("pnlLevel", level), DetailItem::design, level);
+        onClick(indexedName("pnlName", level), DetailItem::levels, level);
         events.onClick(indexedName("frmDetails.tabDetails", level),
                        [this, level] { GetDetails(item_, level); });
+    }
+    forEachField([&](FieldRef ref) {
+        if (!ref->cell.stem.empty())
+            onClick(ref->index == FieldIndex::none ? std::string(ref->cell.stem)
+                                                   : indexedName(ref->cell.stem, ref.index),
+                    itemOf(ref->cell.column), ref.index);
+    });
 }
 
 }  // namespace lorvane

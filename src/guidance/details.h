@@ -2,6 +2,7 @@
 #pragma once
 
 #include <string>
+#include <string_view>
 #include <vector>
 
 #include "platform/control_registry.h"
@@ -29,7 +30,7 @@ enum class DetailItem : int {
 
 class Details {
 public:
-    /// Follows the refreshes of a screen, which must outlive it.
+    /// The screen must outlive it.
     explicit Details(Design& design);
     Details(const Details&) = delete;
     Details& operator=(const Details&) = delete;
@@ -38,6 +39,13 @@ public:
     /// leaves the window as it was.
     void GetDetails(DetailItem item, int row);
 
+    /// Opens the window with the details of a column by its key, "colICC"; opens or closes it.
+    void openColumn(std::string_view column);
+    void toggle();
+
+    /// Brings the window into step with a change of the session.
+    void follow() { refresh(); }
+
     void registerNames(ControlRegistry& registry) const;
     void registerEvents(EventRegistry& events);
 
@@ -45,15 +53,17 @@ public:
     const Panel& text() const { return text_; }
     bool isAtRest() const { return pnlCover_.Visible; }
     const Panel& cover() const { return pnlCover_; }
-    const std::vector<std::string>& tabs() const { return tabs_; }
+    const Option& tab(int level) const { return tabDetails_(level); }
+
+    /// The captions of the tabs, the top level first.
+    std::vector<std::string> tabs() const;
     int currentTab() const { return row_; }
 
 private:
     void refresh();
     void rest();
     void fill();
-    void toggle();
-    void open(DetailItem item, int row);
+    void showTabs();
 
     Design& design_;
     DetailItem item_ = DetailItem::none;
@@ -61,7 +71,7 @@ private:
     Panel title_;
     Panel text_;
     Panel pnlCover_;
-    std::vector<std::string> tabs_;
+    PerLevel<Option> tabDetails_;
 };
 
 }  // namespace lorvane

@@ -22,7 +22,7 @@ namespace fs = std::filesystem;
 constexpr mode_t permissionsOfNewFile = 0666;
 constexpr std::size_t readStep = 1u << 16;
 
-// A message ends at its first NUL byte.
+// Writes NUL bytes out, since a message would end at the first of them.
 std::string shown(std::string path) {
     for (std::size_t i = path.find('\0'); i != std::string::npos; i = path.find('\0', i))
         path.replace(i, 1, "\\0");
@@ -39,7 +39,8 @@ std::string shown(std::string path) {
                       "); choose another folder or make room, and save again.");
 }
 
-// The system would take the part of a name before a NUL byte.
+// What is wrong with a name, or nullptr. The system would stop reading a name at a NUL byte and open another
+// file.
 const char* problemOfName(const std::string& path) {
     if (path.empty())
         return "it has no name";
@@ -58,7 +59,7 @@ fs::path realTarget(const std::string& path) {
     return target;
 }
 
-// What cannot be replaced by a file must not be: a folder, a pipe, a device.
+// A folder, a pipe or a device is not replaced by a file.
 void checkThatItIsNoOther(const std::string& path, const fs::file_status& status) {
     if (fs::is_directory(status))
         failWriting(path, "it is a folder");
@@ -88,8 +89,9 @@ mode_t permissionsOf(const fs::file_status& status) {
     return fs::exists(status) ? static_cast<mode_t>(status.permissions()) : permissionsOfNewFile;
 }
 
-// The lock of a leftover needs the right to write, so that a read-only file becomes so at last. Some file
-// systems know no permissions and refuse them.
+// The new file is writable at first, because another process must be able to lock it if this one dies. It
+// gets the permissions of the old file, which may be read-only, at the end. Some file systems know no
+// permissions and refuse them; that is no failure.
 void writeWhole(const std::string& path, const fs::path& target, std::string_view content) {
     const fs::file_status old = fs::status(target);
     checkThatItIsNoOther(path, old);

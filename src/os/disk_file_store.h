@@ -5,14 +5,15 @@
 
 namespace lorvane {
 
+/// Reads and replaces ordinary files only: a folder, a pipe or a device is a FileProblem.
 class DiskFileStore final : public FileStore {
 public:
     std::string read(const std::string& path, std::size_t largest) const override;
 
     bool exists(const std::string& path) const override;
 
-    /// A symbolic link stays, and the file that it points to is replaced. The new file keeps the permissions
-    /// of the old one.
+    /// Where the path is a symbolic link, the link stays and the file that it leads to is replaced. The new
+    /// file keeps the permissions of the old one.
     void replace(const std::string& path, std::string_view content) override;
 };
 

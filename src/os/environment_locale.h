@@ -5,9 +5,11 @@
 
 namespace lorvane {
 
+/// Asks the environment at every call, so a change in between is seen.
 class EnvironmentLocale final : public SystemLocale {
 public:
-    /// Without regional settings the answer has no currency symbol.
+    /// The symbol of the environment, before or behind "0.00" as the environment has it. Without regional
+    /// settings there is no symbol.
     std::string currencyOfZero() const override;
 };
 

@@ -32,7 +32,8 @@ bool isTemporaryName(std::string_view name) {
     return digits > 0 && digits == name.size() - suffix.size();
 }
 
-// The lock goes with the open file, not with the process, and falls when the process dies.
+// The lock belongs to the open file, not to the process. It falls when the file is closed or the process
+// dies.
 bool lock(int descriptor) {
     struct flock whole {};
     whole.l_type = F_WRLCK;
@@ -40,7 +41,7 @@ bool lock(int descriptor) {
     return ::fcntl(descriptor, F_OFD_SETLK, &whole) == 0;
 }
 
-// A file that its process has just renamed is still open to whoever found it under its old name.
+// False when the file has been renamed or removed since it was opened under this name.
 bool isNameOf(const fs::path& name, int descriptor) {
     struct stat named {
     }, opened{};
@@ -81,8 +82,9 @@ TemporaryFile::~TemporaryFile() {
         ::unlink(name_.c_str());
 }
 
-// Between its making and its lock another process may take the file for a dead one; where the file system
-// knows no locks, nobody does.
+// Another process may find the new file before it is locked, take it for a dead one and remove it. The file
+// is ours when we hold the lock and the name still leads to it. Where the file system knows no locks, no
+// process can remove it, and it is ours too.
 bool TemporaryFile::isOurs() const {
     if (!lock(descriptor()))
         return errno != EAGAIN && errno != EACCES;

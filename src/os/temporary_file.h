@@ -1,4 +1,5 @@
-// A new file beside a target whose place it shall take. Knows nothing of what is written.
+// A new file in the folder of another one, the target, whose place it shall take. Knows nothing of what is
+// written.
 #pragma once
 
 #include <sys/stat.h>
@@ -9,19 +10,23 @@
 
 namespace lorvane {
 
-/// Locked while it lives and removed at the end, unless it took the target's place. Making one first removes
-/// those in the folder that nobody locks, since the process that made them is dead.
+/// Locked while it lives and removed at the end, unless it took the target's place. Making one first cleans
+/// the folder of temporary files that nobody locks, since the process that made them is dead.
 class TemporaryFile {
 public:
-    /// Where none can be made, isOpen() is false and errno tells why.
+    /// Opens the file for writing, with the permissions less the umask. Where none can be made, isOpen() is
+    /// false and errno tells why.
     TemporaryFile(const std::filesystem::path& target, mode_t permissions);
     ~TemporaryFile();
     TemporaryFile(const TemporaryFile&) = delete;
     TemporaryFile& operator=(const TemporaryFile&) = delete;
 
+    /// The descriptor to write to; below 0 when the file is not open. This object closes it.
     bool isOpen() const { return file_.isOpen(); }
     int descriptor() const { return file_.descriptor(); }
 
+    /// Renames the file to the target, in one step that leaves either the old or the new one, and closes it.
+    /// False, with the reason in errno, when the system refuses; both files then stay as they are.
     bool takePlaceOf(const std::filesystem::path& target);
 
 private:

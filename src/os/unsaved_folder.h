@@ -1,5 +1,5 @@
-// Pictures of unsaved studies in the user's state folder: one a running program, found again when it has
-// ended without removing it.
+// Pictures of unsaved studies in the user's state folder. Each running program has at most one. The next
+// program finds it again when the one before has ended without removing it.
 #pragma once
 
 #include <string>
@@ -10,9 +10,12 @@
 
 namespace lorvane {
 
-/// The folder for what a program keeps between its runs; empty where the user has no home.
+/// The folder for what the program keeps between its runs: lorvane in XDG_STATE_HOME, else in .local/state of
+/// the home. It may not exist yet. Empty where the user has no home.
 std::string userStateFolder();
 
+/// Holds a locked file beside its picture as long as the program runs. A picture whose lock is free has been
+/// left behind. When writing fails, the program works on without a picture.
 class UnsavedFolder final : public UnsavedStore {
 public:
     /// Works in the folder, which is made with the first picture. An empty folder keeps nothing.

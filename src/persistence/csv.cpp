@@ -113,8 +113,14 @@ private:
     std::size_t column_ = 0;
 };
 
-void appendCell(std::string& text, const std::string& cell) {
-    if (cell.find_first_of(",\"\r\n") == std::string::npos) {
+}  // namespace
+
+std::vector<CsvRow> readCsv(std::string_view text, const CsvLimits& limits) {
+    return Reader(text, limits).read();
+}
+
+void appendCsvCell(std::string& text, std::string_view cell) {
+    if (cell.find_first_of(",\"\r\n") == std::string_view::npos) {
         text += cell;
         return;
     }
@@ -127,18 +133,12 @@ void appendCell(std::string& text, const std::string& cell) {
     text += '"';
 }
 
-}  // namespace
-
-std::vector<CsvRow> readCsv(std::string_view text, const CsvLimits& limits) {
-    return Reader(text, limits).read();
-}
-
 void appendCsvLine(std::string& text, const CsvRow& row, std::size_t columns) {
     for (std::size_t column = 0; column < columns; ++column) {
         if (column > 0)
             text += ',';
         if (column < row.size())
-            appendCell(text, row[column]);
+            appendCsvCell(text, row[column]);
     }
     text += "\r\n";
 }

@@ -38,6 +38,9 @@ struct CsvLimits {
 /// end of a row are not kept. Throws TableProblem for anything that is not such a table within the limits.
 std::vector<CsvRow> readCsv(std::string_view text, const CsvLimits& limits);
 
+/// Appends one cell, in quotes where it needs them.
+void appendCsvCell(std::string& text, std::string_view cell);
+
 /// Appends one line; cells beyond the row's own are empty.
 void appendCsvLine(std::string& text, const CsvRow& row, std::size_t columns);
 

@@ -22,16 +22,16 @@ std::string costText(std::string_view cell) {
 
 }  // namespace
 
-ScenarioLine scenarioLine(const ScenarioGrid& grid, std::size_t base) {
-    const std::size_t row = base + 1;
-    return {std::string(grid.text(row, 0)), std::string(grid.text(row, descriptionColumn)),
-            powerText(grid.text(row, powerColumn)), costText(grid.text(row, costColumn))};
+ScenarioLine scenarioLine(const ScenarioGrid& grid, std::size_t place) {
+    const Scenario& scenario = grid.scenario(place);
+    return {scenario.name, std::string(scenario.block.text(1, descriptionColumn)),
+            powerText(scenario.block.text(1, powerColumn)), costText(scenario.block.text(1, costColumn))};
 }
 
 std::vector<ScenarioLine> scenarioLines(const ScenarioGrid& grid) {
     std::vector<ScenarioLine> lines;
-    for (const std::size_t base : grid.listedBlocks())
-        lines.push_back(scenarioLine(grid, base));
+    for (const std::size_t place : grid.listed())
+        lines.push_back(scenarioLine(grid, place));
     return lines;
 }
 

@@ -4,7 +4,7 @@
 #include <string>
 #include <vector>
 
-#include "persistence/scenario_grid.h"
+#include "session/scenario_grid.h"
 
 namespace lorvane {
 
@@ -15,8 +15,8 @@ struct ScenarioLine {
     std::string cost;   ///< grouped thousands
 };
 
-/// The line of a block by the row before its first.
-ScenarioLine scenarioLine(const ScenarioGrid& grid, std::size_t base);
+/// The line of a scenario by its place in the table.
+ScenarioLine scenarioLine(const ScenarioGrid& grid, std::size_t place);
 
 /// One line a scenario in the order of adding; the state of the screen is not among them.
 std::vector<ScenarioLine> scenarioLines(const ScenarioGrid& grid);

@@ -10,18 +10,22 @@
 #include "base/number_text.h"
 #include "persistence/scenario_cells.h"
 #include "persistence/scenario_list.h"
-#include "screen/ask_to_apply.h"
-#include "screen/whole_change.h"
+#include "persistence/study_file.h"
+#include "screen/questions.h"
 
 namespace lorvane {
 
 namespace {
 
+constexpr const char* nameBox = "frmScenariosName.txtScenariosName";
+constexpr const char* descriptionBox = "frmScenariosName.txtScenariosDesc";
 constexpr std::size_t nameColumn = 1;
 constexpr std::size_t descriptionOfList = 2;
 constexpr std::size_t digitsOfNumber = 4;
 constexpr int largestNumber = 1000000000;
 constexpr Colour progressColour{0, 0, 125};
+const Grid::Row heads = {"", "Name", "Description", "Power", "Cost"};
+constexpr const char* buttonCaptions[] = {"Add", "Restore", "Delete", "Edit", "Close"};
 
 std::string numbered(int number) {
     std::string digits = std::to_string(number);
@@ -31,25 +35,43 @@ std::string numbered(int number) {
 
 }  // namespace
 
-ScenarioWindow::ScenarioWindow(Design& design, ScenarioGrid& grid) : design_(design), grid_(grid) {
+ScenarioWindow::ScenarioWindow(Design& design)
+    : design_(design), session_(design.session()), name_(makeNameDialog()) {
     progress_.pnlProgress.BackColor = progressColour;
+    for (int button = 0; button <= cmdScenarios_.last; ++button)
+        cmdScenarios_(button).Caption = buttonCaptions[button];
     ScenariosSetup();
+}
+
+Dialog ScenarioWindow::makeNameDialog() {
+    Dialog dialog{"frmScenariosName",
+                  WindowId::frmScenariosName,
+                  "pnlLimits",
+                  {},
+                  {{"frmScenariosName.cmdScenarioNameOk(1)", "Cancel", [this] { closeName(); }},
+                   {"frmScenariosName.cmdScenarioNameOk(0)", "Apply", [this] { applyName(); }}}};
+    for (const auto& [control, label] : {std::pair{nameBox, "Name"}, {descriptionBox, "Description"}}) {
+        DialogField field;
+        field.control = control;
+        field.label.Caption = label;
+        dialog.fields.push_back(std::move(field));
+    }
+    dialog.title.Caption = "Edit row";
+    dialog.sense.Caption = "Name and describe the scenario";
+    return dialog;
 }
 
 void ScenarioWindow::registerNames(ControlRegistry& registry) const {
     registry.addGrid("frmScenarios.vsNames", vsNames_);
     registry.add("frmScenarios.pnlProgress", progress_.pnlProgress);
-    registry.add("frmScenariosName.txtScenariosName.Text", &txtScenariosName_.Text);
-    registry.add("frmScenariosName.txtScenariosDesc.Text", &txtScenariosDesc_.Text);
+    registry.add("frmScenarios.pnlCount", pnlCount_);
+    for (int button = 0; button <= cmdScenarios_.last; ++button)
+        registry.add(indexedName("frmScenarios.cmdScenarios", button), cmdScenarios_(button));
+    name_.registerNames(registry);
 }
 
 void ScenarioWindow::registerEvents(EventRegistry& events) {
-    const auto open = [this] { design_.SynchForms(WindowId::frmScenarios, WindowAction::open); };
     const auto close = [this] { design_.SynchForms(WindowId::frmScenarios, WindowAction::unload); };
-    events.onTool("gfrmScenarios", open);
-    events.onTool("Show scenarios", open);
-    events.onTool("Add scenario", [this] { ScenariosAdd(); });
-    events.onTool("Restore scenario", [this] { ScenariosRestore(); });
     events.onClick("frmScenarios.cmdScenarios(0)", [this] { ScenariosAdd(); });
     events.onClick("frmScenarios.cmdScenarios(1)", [this] { ScenariosRestore(); });
     events.onClick("frmScenarios.cmdScenarios(2)", [this] { ScenariosDelete(); });
@@ -57,10 +79,7 @@ void ScenarioWindow::registerEvents(EventRegistry& events) {
     events.onClick("frmScenarios.cmdScenarios(4)", close);
     events.onClose("frmScenarios", close);
     events.addGrid("frmScenarios.vsNames", vsNames_);
-    events.addTextBox("frmScenariosName.txtScenariosName", txtScenariosName_);
-    events.addTextBox("frmScenariosName.txtScenariosDesc", txtScenariosDesc_);
-    events.onClick("frmScenariosName.cmdScenarioNameOk(0)", [this] { applyName(); });
-    events.onClick("frmScenariosName.cmdScenarioNameOk(1)", [this] { closeName(); });
+    name_.registerEvents(events, [this] { return nameIsOpen(); });
     events.onClose("frmScenariosName", [this] {
         if (nameIsOpen() && nameHasChanged())
             askToApply(design_, WindowId::frmScenariosName, applyNamesQuestion, [this] { applyName(); });
@@ -69,36 +88,45 @@ void ScenarioWindow::registerEvents(EventRegistry& events) {
     });
 }
 
+// The heads of the list alone; a name that is being edited is forgotten.
 void ScenarioWindow::ScenariosSetup() {
-    vsNames_.rows = {{"", "Name", "Description", "Power", "Cost"}};
+    vsNames_.rows = {heads};
     vsNames_.selected.clear();
+    writeCount();
     closeName();
 }
 
-void ScenarioWindow::appendRow(std::size_t base) {
-    ScenarioLine line = scenarioLine(grid_, base);
-    vsNames_.rows.push_back(
-        {"", std::move(line.name), std::move(line.description), std::move(line.power), std::move(line.cost)});
+void ScenarioWindow::writeCount() {
+    const std::size_t scenarios = vsNames_.rows.size() - 1;
+    pnlCount_.Caption = std::to_string(scenarios) + (scenarios == 1 ? " scenario" : " scenarios");
 }
 
-void ScenarioWindow::rebuild() {
+// A change that no row shows, as a save makes it, leaves the selection and a name that is being edited.
+void ScenarioWindow::follow(const Changed& changed) {
+    if (shown_.isSame(session_.scenarios()))
+        return;
+    shown_ = session_.scenarios();
+    std::vector<Grid::Row> rows = {heads};
+    for (ScenarioLine& line : scenarioLines(shown_))
+        rows.push_back({"", std::move(line.name), std::move(line.description), std::move(line.power),
+                        std::move(line.cost)});
+    if (!changed.otherStudy && rows == vsNames_.rows)
+        return;
     ScenariosSetup();
-    for (const std::size_t base : grid_.listedBlocks())
-        appendRow(base);
+    vsNames_.rows = std::move(rows);
+    writeCount();
 }
 
 // The next number whose name is free.
-std::string ScenarioWindow::nextName() {
+int ScenarioWindow::nextNumber() const {
     std::unordered_set<std::string_view> taken;
     for (std::size_t row = 1; row < vsNames_.rows.size(); ++row)
         taken.insert(vsNames_.rows[row][nameColumn]);
-    int& number = design_.settings().ScenarioNumber;
-    std::string name;
+    int number = session_.settings().ScenarioNumber;
     do {
         number = number < 0 || number >= largestNumber ? 1 : number + 1;
-        name = numbered(number);
-    } while (taken.contains(name));
-    return name;
+    } while (taken.contains(numbered(number)));
+    return number;
 }
 
 void ScenarioWindow::ScenariosAdd() {
@@ -106,11 +134,16 @@ void ScenarioWindow::ScenariosAdd() {
         design_.ask("Add scenario", "A study holds at most 10,000 scenarios. Please delete some first.     ");
         return;
     }
-    SaveScenario(grid_, design_, nextName(), "");
-    appendRow(grid_.rowCount() - 1 - ScenarioGrid::blockRows);
+    const int number = nextNumber();
+    const SessionState own = session_.ownMoment().state;
+    session_.edit({"added scenario", Reach::setting}, [&](SessionState& state) {
+        state.settings.ScenarioNumber = number;
+        SessionState kept = own;
+        kept.settings.ScenarioNumber = number;
+        SaveScenario(state.scenarios, kept, numbered(number), "");
+    });
     const std::size_t row = vsNames_.rows.size() - 1;
     vsNames_.selected = {row};
-    design_.noteChange();
     ShowProgress(row, ProgressFlight::Direction::intoTable);
 }
 
@@ -145,14 +178,7 @@ void ScenarioWindow::ScenariosRestore() {
                              "Please click on a row to restore                "});
     if (!row)
         return;
-    const std::size_t base = baseOf(*row);
-    changeOrUndo(
-        design_,
-        [&] {
-            design_.startAnew();
-            restoreBlock(grid_, design_, base);
-        },
-        IfFault::show);
+    restoreScenario(session_, placeOf(*row));
 }
 
 void ScenarioWindow::ScenariosDelete() {
@@ -170,14 +196,13 @@ void ScenarioWindow::ScenariosDelete() {
         "Ok to delete " + std::to_string(selected.size()) + " rows?                 ";
     if (selected.size() > 1 && design_.ask(title, question, {Answer::OK, Answer::Cancel}) != Answer::OK)
         return;
-    const std::vector<std::size_t> blocks = grid_.listedBlocks();
-    std::vector<std::size_t> bases;
-    bases.reserve(selected.size());
+    std::vector<std::size_t> places;
+    places.reserve(selected.size());
+    const std::vector<std::size_t> listed = session_.scenarios().listed();
     for (const std::size_t row : selected)
-        bases.push_back(blocks[row - 1]);
-    grid_.removeBlocks(bases);
-    rebuild();
-    design_.noteChange();
+        places.push_back(listed[row - 1]);
+    session_.edit({selected.size() == 1 ? "deleted scenario" : "deleted scenarios", Reach::setting},
+                  [&](SessionState& state) { state.scenarios.remove(places); });
 }
 
 void ScenarioWindow::ScenariosEdit() {
@@ -186,18 +211,15 @@ void ScenarioWindow::ScenariosEdit() {
     if (!row)
         return;
     editedRow_ = *row;
-    txtScenariosName_.Text = vsNames_.rows[*row][nameColumn];
-    txtScenariosDesc_.Text = vsNames_.rows[*row][descriptionOfList];
+    name_.box(nameBox).Text = vsNames_.rows[*row][nameColumn];
+    name_.box(descriptionBox).Text = vsNames_.rows[*row][descriptionOfList];
     design_.SynchForms(WindowId::frmScenariosName, WindowAction::open);
-}
-
-bool ScenarioWindow::nameIsOpen() const {
-    return design_.windows().state(WindowId::frmScenariosName) == WindowStates::open;
 }
 
 bool ScenarioWindow::nameHasChanged() const {
     const Grid::Row& row = vsNames_.rows[editedRow_];
-    return txtScenariosName_.Text != row[nameColumn] || txtScenariosDesc_.Text != row[descriptionOfList];
+    return name_.box(nameBox).Text != row[nameColumn] ||
+           name_.box(descriptionBox).Text != row[descriptionOfList];
 }
 
 // The name of the screen's own state counts as taken: a save would write over it.
@@ -213,25 +235,24 @@ bool ScenarioWindow::nameExists(const std::string& name) const {
 }
 
 void ScenarioWindow::applyName() {
-    if (!nameIsOpen())
-        return;
-    const std::string name(trimmed(txtScenariosName_.Text));
-    const std::string description(trimmed(txtScenariosDesc_.Text));
+    const std::string name(trimmed(name_.box(nameBox).Text));
+    const std::string description(trimmed(name_.box(descriptionBox).Text));
     if (nameExists(name)) {
         design_.ask("Edit row", "Name exists");
         return;
     }
-    ReplaceName(grid_, baseOf(editedRow_), name, description);
-    vsNames_.rows[editedRow_][nameColumn] = name;
-    vsNames_.rows[editedRow_][descriptionOfList] = description;
-    design_.noteChange();
+    const std::size_t place = placeOf(editedRow_);
+    const std::vector<std::size_t> selected = vsNames_.selected;
+    session_.edit({"name of scenario", Reach::setting},
+                  [&](SessionState& state) { ReplaceName(state.scenarios, place, name, description); });
+    vsNames_.selected = selected;
     closeName();
 }
 
 // A dialog that made way for a message is open again when it is closed.
 void ScenarioWindow::closeName() {
-    txtScenariosName_.Text.clear();
-    txtScenariosDesc_.Text.clear();
+    name_.box(nameBox).Text.clear();
+    name_.box(descriptionBox).Text.clear();
     design_.SynchForms(WindowId::frmScenariosName, WindowAction::bringBack);
     design_.SynchForms(WindowId::frmScenariosName, WindowAction::unload);
 }

@@ -5,10 +5,10 @@
 #include <optional>
 #include <string>
 
-#include "persistence/scenario_grid.h"
 #include "platform/control_registry.h"
 #include "platform/event_registry.h"
 #include "screen/design.h"
+#include "screen/dialog.h"
 
 namespace lorvane {
 
@@ -23,18 +23,15 @@ struct ProgressFlight {
 
 class ScenarioWindow {
 public:
-    ScenarioWindow(Design& design, ScenarioGrid& grid);
+    explicit ScenarioWindow(Design& design);
     ScenarioWindow(const ScenarioWindow&) = delete;
     ScenarioWindow& operator=(const ScenarioWindow&) = delete;
 
     void registerNames(ControlRegistry& registry) const;
     void registerEvents(EventRegistry& events);
 
-    /// The heads of the list alone; a name that is being edited is forgotten.
-    void ScenariosSetup();
-
-    /// The list anew from the table.
-    void rebuild();
+    /// Brings the list into step with the scenarios of the session.
+    void follow(const Changed& changed);
 
     /// The commands of the window. Each tells in a message why it cannot be carried out and changes nothing
     /// then. A scenario that cannot be computed is restored with the request for other data.
@@ -43,10 +40,15 @@ public:
     void ScenariosDelete();
     void ScenariosEdit();
 
+    /// What the window says below the list: "1 scenario".
+    const Panel& pnlCount() const noexcept { return pnlCount_; }
+    /// Its buttons, in the order Add, Restore, Delete, Edit, Close.
+    const Button& cmdScenarios(int button) const { return cmdScenarios_(button); }
+
     /// The list: an empty column, then name, description, power, cost; the heads are row 0.
     const Grid& vsNames() const noexcept { return vsNames_; }
-    const TextBox& name() const noexcept { return txtScenariosName_; }
-    const TextBox& description() const noexcept { return txtScenariosDesc_; }
+    const Dialog& nameDialog() const noexcept { return name_; }
+    bool nameIsOpen() const { return design_.isOpen(WindowId::frmScenariosName); }
     const ProgressFlight& progress() const noexcept { return progress_; }
 
 private:
@@ -58,23 +60,26 @@ private:
     };
     std::optional<std::size_t> oneRow(const OneRowWords& words);
     bool hasRows() const { return vsNames_.rows.size() > 1; }
+    Dialog makeNameDialog();
+    void ScenariosSetup();
+    void writeCount();
     bool nameExists(const std::string& name) const;
-    std::string nextName();
-    std::size_t baseOf(std::size_t row) const { return grid_.listedBlocks()[row - 1]; }
-    void appendRow(std::size_t base);
+    int nextNumber() const;
+    std::size_t placeOf(std::size_t row) const { return session_.scenarios().listed()[row - 1]; }
     void ShowProgress(std::size_t row, ProgressFlight::Direction direction);
     void applyName();
     void closeName();
-    bool nameIsOpen() const;
     bool nameHasChanged() const;
 
     Design& design_;
-    ScenarioGrid& grid_;
+    Session& session_;
+    ScenarioGrid shown_;  ///< what the list was made from
     Grid vsNames_;
+    Panel pnlCount_;
+    IndexedArray<Button, 0, 4> cmdScenarios_;
     ProgressFlight progress_;
     std::size_t editedRow_ = 0;
-    TextBox txtScenariosName_;
-    TextBox txtScenariosDesc_;
+    Dialog name_;
 };
 
 }  // namespace lorvane

@@ -1,6 +1,7 @@
 // The start screen.
 #include "persistence/start_screen.h"
 
+#include <algorithm>
 #include <optional>
 
 #include "base/names.h"
@@ -25,6 +26,12 @@ std::string shownName(const std::string& path) {
 StartScreen::StartScreen(Design& design, StudyFiles& studies, const RecentFiles& recent,
                          const FileStore& files)
     : design_(design), studies_(studies), recent_(recent), files_(files) {
+    optStart_(StartChoices::newProject).Caption = "Start a new project";
+    pnlChoice_(StartChoices::newProject).Caption = "Two levels, ready to edit";
+    optStart_(StartChoices::existingFile).Caption = "Open an existing file";
+    pnlChoice_(StartChoices::existingFile).Caption = "A recent study or another file";
+    cmdOK_(0).Caption = "OK";
+    cmdOK_(1).Caption = "Cancel";
     LoadFiles();
     SetDisplay();
 }
@@ -33,11 +40,20 @@ void StartScreen::registerNames(ControlRegistry& registry) const {
     registry.add("frmStart.StartChoice", &choice_);
     registry.add("frmStart.pnlOptions", pnlOptions_);
     registry.add("frmStart.PnlLogo", PnlLogo_);
+    registry.add("frmStart.pnlName", pnlName_);
+    registry.add("frmStart.pnlSense", pnlSense_);
+    registry.add("frmStart.pnlQuestion", pnlQuestion_);
+    registry.add("frmStart.pnlFiles", pnlFiles_);
+    for (const int choice : {StartChoices::newProject, StartChoices::existingFile}) {
+        registry.add(indexedName("frmStart.optStart", choice), optStart_(choice));
+        registry.add(indexedName("frmStart.pnlChoice", choice), pnlChoice_(choice));
+    }
+    for (const int button : {0, 1})
+        registry.add(indexedName("frmStart.cmdOK", button), cmdOK_(button));
     registry.addGrid("frmStart.flex", flex_);
 }
 
 void StartScreen::registerEvents(EventRegistry& events) {
-    events.onTool("gfrmOpenWizard", [this] { open(); });
     for (const int choice : {StartChoices::newProject, StartChoices::existingFile})
         events.onClick(indexedName("frmStart.optStart", choice), [this, choice] { choose(choice); });
     events.onClick("frmStart.cmdOK(0)", [this] { accept(); });
@@ -46,7 +62,7 @@ void StartScreen::registerEvents(EventRegistry& events) {
     events.addGrid("frmStart.flex", flex_);
 }
 
-bool StartScreen::isOpen() const { return design_.windows().state(WindowId::frmStart) == WindowStates::open; }
+bool StartScreen::isOpen() const { return design_.isOpen(WindowId::frmStart); }
 
 bool StartScreen::isMissing(std::size_t row) const {
     const Grid::Row& cells = flex_.rows[row];
@@ -65,13 +81,15 @@ void StartScreen::LoadFiles() {
     flex_.rows = {{"", "", "", "", ""}, {"", "", "", moreFiles, moreFilesKind}};
     for (std::size_t i = 0; i < RecentFiles::rows && !recent_.path(i).empty(); ++i)
         flex_.rows.push_back({"", marked, recent_.path(i), shownName(recent_.path(i)), fileKind});
-    flex_.selected = {flex_.rows.size() > 2 ? 2u : 1u};
+    flex_.selected = {std::min(moreRow + 1, flex_.rows.size() - 1)};
 }
 
 // The logo's panel takes the place of the options' panel once a file is to be opened.
 void StartScreen::SetDisplay() {
     pnlOptions_.Visible = choice_ == StartChoices::newProject;
     PnlLogo_.Visible = choice_ == StartChoices::existingFile;
+    for (const int choice : {StartChoices::newProject, StartChoices::existingFile})
+        optStart_(choice).Value = choice == choice_;
 }
 
 void StartScreen::choose(int choice) {
@@ -102,7 +120,7 @@ void StartScreen::accept() {
 
 // The path of the selected file; for "More files" the answer of the file dialog, empty on Cancel.
 std::string StartScreen::chosenPath() {
-    const std::size_t row = flex_.selected.empty() ? 1 : flex_.selected.front();
+    const std::size_t row = flex_.selected.empty() ? moreRow : flex_.selected.front();
     if (flex_.rows[row][kindColumn] == fileKind)
         return flex_.rows[row][pathColumn];
     const FileDialog dialog{FileDialog::Kind::open, "Open database", "(*..Lorvane)|*.Lorvane", ""};

@@ -19,6 +19,9 @@ inline constexpr int existingFile = 2;
 
 class StartScreen {
 public:
+    /// The row of the list that stands for other files; the files follow.
+    static constexpr std::size_t moreRow = 1;
+
     // Columns of the list; column 0 is empty.
     static constexpr std::size_t markerColumn = 1;
     static constexpr std::size_t pathColumn = 2;
@@ -37,6 +40,18 @@ public:
     void open();
 
     int StartChoice() const noexcept { return choice_; }
+
+    /// The name of the program, what it is for, and the question.
+    const Panel& pnlName() const noexcept { return pnlName_; }
+    const Panel& pnlSense() const noexcept { return pnlSense_; }
+    const Panel& pnlQuestion() const noexcept { return pnlQuestion_; }
+
+    /// A choice by its number in StartChoices, and its second line.
+    const Option& optStart(int choice) const { return optStart_(choice); }
+    const Panel& pnlChoice(int choice) const { return pnlChoice_(choice); }
+
+    const Panel& pnlFiles() const noexcept { return pnlFiles_; }      ///< heading of the recent files
+    const Button& cmdOK(int button) const { return cmdOK_(button); }  ///< OK, Cancel
 
     /// The recent files: "More files ..." in row 1, then a row a file.
     const Grid& flex() const noexcept { return flex_; }
@@ -62,6 +77,13 @@ private:
     Grid flex_;
     Panel pnlOptions_;
     Panel PnlLogo_;
+    Panel pnlName_{windowTitle(WindowId::frmStart)};
+    Panel pnlSense_{"Planning of cluster-randomized trials"};
+    Panel pnlQuestion_{"What would you like to do?"};
+    IndexedArray<Option, 1, 2> optStart_;
+    IndexedArray<Panel, 1, 2> pnlChoice_;
+    Panel pnlFiles_{"Recent files"};
+    IndexedArray<Button, 0, 1> cmdOK_;
 };
 
 }  // namespace lorvane

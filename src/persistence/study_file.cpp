@@ -16,27 +16,45 @@ constexpr std::size_t largestNumberOfBlocks = ScenarioGrid::largestNumberOfScena
 constexpr CsvLimits limits{ScenarioGrid::columns, 1 + ScenarioGrid::blockRows* largestNumberOfBlocks,
                            ScenarioGrid::longestCell};
 
-void checkBlocks(const ScenarioGrid& grid) {
-    const std::size_t rows = grid.rowCount();
-    for (std::size_t row = 1; row < rows; ++row) {
+void checkBlocks(const std::vector<CsvRow>& rows) {
+    const auto nameOf = [&](std::size_t row) {
+        return rows[row].empty() ? std::string_view() : std::string_view(rows[row][0]);
+    };
+    std::size_t listed = 0;
+    for (std::size_t row = 1; row < rows.size(); ++row) {
         const std::size_t first = row - (row - 1) % ScenarioGrid::blockRows;
-        if (grid.text(row, 0) != grid.text(first, 0))
+        if (nameOf(row) != nameOf(first))
             throw TableProblem(row + 1, 1, "the scenario has fewer than 100 rows");
+        if (row == first && nameOf(row) != SystemScenarioName)
+            ++listed;
     }
-    if ((rows - 1) % ScenarioGrid::blockRows != 0)
-        throw TableProblem(rows, 0, "the table ends in the middle of a scenario");
-    if (grid.listedBlocks().size() > ScenarioGrid::largestNumberOfScenarios)
-        throw TableProblem(rows, 0, "the table has more than 10000 scenarios");
+    if ((rows.size() - 1) % ScenarioGrid::blockRows != 0)
+        throw TableProblem(rows.size(), 0, "the table ends in the middle of a scenario");
+    if (listed > ScenarioGrid::largestNumberOfScenarios)
+        throw TableProblem(rows.size(), 0, "the table has more than 10000 scenarios");
 }
 
 ScenarioGrid readTable(const std::string& text) {
     std::vector<CsvRow> rows = readCsv(text, limits);
     if (rows.size() < 2)
         throw TableProblem(rows.size() + 1, 0, "the table holds no scenario");
+    checkBlocks(rows);
     ScenarioGrid grid(std::move(rows));
-    checkBlocks(grid);
     checkScenarios(grid);
     return grid;
+}
+
+// One row of a block with all its columns, the name first.
+void appendRow(std::string& text, const Scenario& scenario, std::size_t k) {
+    std::size_t written = 0;
+    appendCsvCell(text, scenario.name);
+    scenario.block.forRow(k, [&](std::size_t column, std::string_view cell) {
+        text.append(column - written, ',');
+        appendCsvCell(text, cell);
+        written = column;
+    });
+    text.append(ScenarioGrid::columns - 1 - written, ',');
+    text += "\r\n";
 }
 
 std::string place(const TableProblem& problem) {
@@ -48,22 +66,20 @@ std::string place(const TableProblem& problem) {
 
 std::string studyFileText(const ScenarioGrid& grid) {
     std::string text;
-    for (const Grid::Row& row : grid.grid().rows)
-        appendCsvLine(text, row, ScenarioGrid::columns);
+    appendCsvLine(text, grid.row(0), ScenarioGrid::columns);
+    for (std::size_t place = 0; place < grid.scenarioCount(); ++place) {
+        for (std::size_t k = 1; k <= ScenarioGrid::blockRows; ++k)
+            appendRow(text, grid.scenario(place), k);
+    }
     return text;
 }
 
-std::string studyFileText(const ScenarioGrid& scenarios, const ScenarioGrid& screen) {
-    std::string text;
-    const auto append = [&](const ScenarioGrid& grid, std::size_t first, std::size_t last) {
-        for (std::size_t row = first; row <= last; ++row)
-            appendCsvLine(text, grid.grid().rows[row], ScenarioGrid::columns);
-    };
-    append(scenarios, 0, 0);
-    for (const std::size_t base : scenarios.listedBlocks())
-        append(scenarios, base + 1, base + ScenarioGrid::blockRows);
-    append(screen, 1, screen.rowCount() - 1);
-    return text;
+ScenarioGrid savedTable(const Session& session) {
+    const Moment own = session.ownMoment();
+    ScenarioGrid table = own.state.scenarios;
+    table.DeleteScenario(SystemScenarioName);
+    SaveScenario(table, own.state, SystemScenarioName, SystemScenarioName);
+    return table;
 }
 
 ScenarioGrid readStudyText(const std::string& text, const std::string& path) {
@@ -83,6 +99,26 @@ ScenarioGrid LoadGrid(const FileStore& files, const std::string& path) {
 
 void SaveGrid(FileStore& files, const std::string& path, const ScenarioGrid& grid) {
     files.replace(path, studyFileText(grid));
+}
+
+void loadTable(Session& session, ScenarioGrid table, const std::string& file) {
+    session.edit({"", Reach::anew, IfFault::show}, [&](SessionState& state) {
+        startAnew(state);
+        RestoreScenario(table, SystemScenarioName, state);
+        table.DeleteScenario(SystemScenarioName);
+        state.scenarios = std::move(table);
+        if (file.empty())
+            state.settings.currency = session.systemCurrency();
+    });
+    session.setCurrentFile(file);
+}
+
+void restoreScenario(Session& session, std::size_t place) {
+    session.edit({"restored scenario", Reach::study, IfFault::show, "", false, true},
+                 [&](SessionState& state) {
+                     startAnew(state);
+                     restoreBlock(state.scenarios, place, state);
+                 });
 }
 
 }  // namespace lorvane

@@ -3,16 +3,16 @@
 
 #include <string>
 
-#include "persistence/scenario_grid.h"
 #include "platform/file_store.h"
+#include "session/session.h"
 
 namespace lorvane {
 
 /// The table as the text of a file.
 std::string studyFileText(const ScenarioGrid& grid);
 
-/// The same with the screen's state from another table in the place of the one that the first may hold.
-std::string studyFileText(const ScenarioGrid& scenarios, const ScenarioGrid& screen);
+/// The table that a save writes: the scenarios of the session, and last the state of the session itself.
+ScenarioGrid savedTable(const Session& session);
 
 /// Reads and checks the whole text of a file. Throws FileProblem that names the path.
 ScenarioGrid readStudyText(const std::string& text, const std::string& path);
@@ -23,5 +23,12 @@ ScenarioGrid LoadGrid(const FileStore& files, const std::string& path);
 
 /// Writes the table to a file, whole or not at all. Throws FileProblem.
 void SaveGrid(FileStore& files, const std::string& path, const ScenarioGrid& grid);
+
+/// Puts a table that was read and checked into a session, under the path of its file; empty for a template,
+/// which gets the currency of this system. A study that cannot be computed asks for other data.
+void loadTable(Session& session, ScenarioGrid table, const std::string& file);
+
+/// Puts a scenario of the session's own table on the screen, by its place. One step.
+void restoreScenario(Session& session, std::size_t place);
 
 }  // namespace lorvane

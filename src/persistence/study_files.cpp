@@ -1,18 +1,14 @@
 // Opening and saving the study with its scenarios.
 #include "persistence/study_files.h"
 
-#include <filesystem>
 #include <utility>
 
-#include "persistence/scenario_cells.h"
 #include "persistence/study_file.h"
-#include "screen/whole_change.h"
 
 namespace lorvane {
 
 namespace {
 
-constexpr const char* templateName = "/Template Means.Lorvane";
 constexpr const char* filter = "(*.Lorvane)|*.Lorvane";
 constexpr const char* extension = ".Lorvane";
 
@@ -30,27 +26,12 @@ private:
 
 }  // namespace
 
-StudyFiles::StudyFiles(Design& design, ScenarioGrid& grid, ScenarioWindow& scenarios, RecentFiles& recent,
-                       FileStore& files, FileDialogs& dialogs, const std::string& programFolder)
-    : design_(design), grid_(grid), scenarios_(scenarios), recent_(recent), files_(files), dialogs_(dialogs),
-      template_(programFolder + templateName) {}
-
-void StudyFiles::registerEvents(EventRegistry& events) {
-    events.onTool("Save", [this] { FileSave(SaveMode::save); });
-    events.onTool("SaveAs", [this] { FileSave(SaveMode::saveAs); });
-    events.onTool("Open", [this] { askAndOpen(""); });
-    events.onTool("Clear", [this] { Clear(); });
-}
+StudyFiles::StudyFiles(Design& design, const StudyStore& store, RecentFiles& recent, FileDialogs& dialogs)
+    : design_(design), session_(design.session()), store_(store), recent_(recent), dialogs_(dialogs) {}
 
 std::optional<std::string> StudyFiles::chooseFile(const FileDialog& dialog) {
     const FormsAside aside(design_);
     return dialogs_.choose(dialog);
-}
-
-void StudyFiles::write(const std::string& path) {
-    grid_.DeleteScenario(SystemScenarioName);
-    SaveScenario(grid_, design_, SystemScenarioName, SystemScenarioName);
-    SaveGrid(files_, path, grid_);
 }
 
 void StudyFiles::remember(const std::string& path) {
@@ -59,15 +40,12 @@ void StudyFiles::remember(const std::string& path) {
 }
 
 void StudyFiles::save(const std::string& path) {
-    write(path);
-    design_.settings().CurrentFile = path;
+    store_.save(session_, path);
     remember(path);
-    design_.settings().StudyDirty = false;
-    design_.noteAsSaved();
 }
 
 bool StudyFiles::FileSave(SaveMode mode) {
-    std::string path = design_.settings().CurrentFile;
+    std::string path = session_.currentFile();
     if (mode == SaveMode::saveAs || path.empty()) {
         const auto chosen = chooseFile({FileDialog::Kind::save, "Save file", filter, ""});
         if (!chosen)
@@ -87,37 +65,18 @@ bool StudyFiles::FileSave(SaveMode mode) {
 }
 
 // The windows that an open file withdraws stay away until they are opened again; the guide opens with it.
-void StudyFiles::show(ScenarioGrid loaded, const std::string& file) {
-    changeOrUndo(
-        design_,
-        [&] {
-            design_.SuspendForms(FormSet::main);
-            design_.startAnew();
-            RestoreScenario(loaded, design_, SystemScenarioName);
-            design_.settings().CurrentFile = file;
-        },
-        IfFault::show);
-    loaded.DeleteScenario(SystemScenarioName);
-    grid_ = std::move(loaded);
-    scenarios_.rebuild();
-    design_.SynchForms(WindowId::frmTips, WindowAction::open);
-}
-
 void StudyFiles::open(const std::string& path) {
-    if (std::filesystem::absolute(path).lexically_normal() == template_) {
-        openTemplate();
-        return;
+    const WindowRegistry windows = design_.windows();
+    design_.SuspendForms(FormSet::main);
+    try {
+        store_.open(session_, path);
+    } catch (...) {
+        design_.putBack(windows);
+        throw;
     }
-    show(LoadGrid(files_, path), path);
-    remember(path);
-    design_.noteAsSaved();
-}
-
-// A new study has the currency of this system, not of the one that the template was made on.
-void StudyFiles::openTemplate() {
-    show(LoadGrid(files_, template_), "");
-    design_.settings().currency = design_.systemCurrency();
-    design_.DoRefresh(true);
+    if (!store_.isTemplate(path))
+        remember(path);
+    design_.SynchForms(WindowId::frmTips, WindowAction::open);
 }
 
 bool StudyFiles::OpenFile(const std::string& path) {
@@ -138,7 +97,7 @@ bool StudyFiles::OpenFile(const std::string& path) {
 }
 
 bool StudyFiles::mayClear() {
-    return !design_.settings().StudyDirty ||
+    return !session_.isDirty() ||
            design_.ask("Confirmation needed",
                        "This will clear all data and saved scenarios. Ok to proceed?         ",
                        {Answer::OK, Answer::Cancel}) == Answer::OK;
@@ -152,43 +111,44 @@ void StudyFiles::askAndOpen(const std::string& path) {
 void StudyFiles::Clear() {
     if (!mayClear())
         return;
+    design_.SuspendForms(FormSet::main);
     try {
-        openTemplate();
+        store_.openTemplate(session_);
+        design_.SynchForms(WindowId::frmTips, WindowAction::open);
     } catch (const FileProblem&) {
+        design_.RestoreForms(FormSet::main);
         startWithoutTemplate();
     }
-    design_.settings().StudyDirty = false;
-    design_.noteAsSaved();
+    session_.noteClean();
+    session_.noteAsSaved();
 }
 
 // A program folder without its template is no reason not to start anew: the same values come from within.
 void StudyFiles::startWithoutTemplate() {
-    design_.settings().CurrentFile.clear();
-    design_.settings().currency = design_.systemCurrency();
-    design_.ResetToStart();
-    forgetScenarios();
-}
-
-void StudyFiles::forgetScenarios() {
-    grid_ = ScenarioGrid();
-    scenarios_.rebuild();
+    session_.edit({"", Reach::anew}, [&](SessionState& state) {
+        startAnew(state);
+        state.scenarios = ScenarioGrid();
+        state.settings.currency = session_.systemCurrency();
+    });
+    session_.setCurrentFile("");
 }
 
 std::optional<UnsavedStudy> StudyFiles::unsavedStudy() const {
-    if (design_.isAsSaved())
+    if (session_.isAsSaved())
         return std::nullopt;
-    ScenarioGrid screen;
-    SaveScenario(screen, design_, SystemScenarioName, SystemScenarioName);
-    return UnsavedStudy{design_.settings().CurrentFile, studyFileText(grid_, screen)};
+    return UnsavedStudy{session_.currentFile(), studyFileText(savedTable(session_))};
 }
 
 bool StudyFiles::bringBack(const UnsavedStudy& study) {
     try {
-        show(readStudyText(study.table, study.file), study.file);
+        ScenarioGrid table = readStudyText(study.table, study.file);
+        design_.SuspendForms(FormSet::main);
+        loadTable(session_, std::move(table), study.file);
     } catch (const FileProblem& problem) {
         design_.tellStatus(problem.what());
         return false;
     }
+    design_.SynchForms(WindowId::frmTips, WindowAction::open);
     return true;
 }
 

@@ -5,11 +5,8 @@
 #include <string>
 
 #include "persistence/recent_files.h"
-#include "persistence/scenario_grid.h"
-#include "persistence/scenario_window.h"
-#include "platform/event_registry.h"
+#include "persistence/study_store.h"
 #include "platform/file_dialogs.h"
-#include "platform/file_store.h"
 #include "platform/unsaved_store.h"
 #include "screen/design.h"
 
@@ -19,13 +16,9 @@ enum class SaveMode { save = 0, saveAs = 1 };
 
 class StudyFiles {
 public:
-    /// The template of a new study is the file of that name in the program's folder.
-    StudyFiles(Design& design, ScenarioGrid& grid, ScenarioWindow& scenarios, RecentFiles& recent,
-               FileStore& files, FileDialogs& dialogs, const std::string& programFolder);
+    StudyFiles(Design& design, const StudyStore& store, RecentFiles& recent, FileDialogs& dialogs);
     StudyFiles(const StudyFiles&) = delete;
     StudyFiles& operator=(const StudyFiles&) = delete;
-
-    void registerEvents(EventRegistry& events);
 
     /// Saves under the name that the study has, or asks for one; true when the file is written. A message
     /// tells how it went; on a failure the study keeps its name and stays unsaved.
@@ -45,8 +38,8 @@ public:
     /// Asks for a file to open; nothing on Cancel.
     std::optional<std::string> chooseFile(const FileDialog& dialog);
 
-    /// Forgets all scenarios.
-    void forgetScenarios();
+    /// Begins a new study, after a question where unsaved work would be lost.
+    void Clear();
 
     /// The study as it would be saved now; nothing while it is as it was opened or saved. Changes nothing.
     std::optional<UnsavedStudy> unsavedStudy() const;
@@ -57,20 +50,14 @@ public:
 
 private:
     bool mayClear();
-    void Clear();
     void startWithoutTemplate();
-    void openTemplate();
-    void show(ScenarioGrid loaded, const std::string& file);
-    void write(const std::string& path);
     void remember(const std::string& path);
 
     Design& design_;
-    ScenarioGrid& grid_;
-    ScenarioWindow& scenarios_;
+    Session& session_;
+    const StudyStore& store_;
     RecentFiles& recent_;
-    FileStore& files_;
     FileDialogs& dialogs_;
-    std::string template_;
 };
 
 }  // namespace lorvane

@@ -16,13 +16,14 @@ struct ReadSource {
     ControlValue operator()(const Alignment* value) const {
         return static_cast<double>(static_cast<int>(*value));
     }
+    ControlValue operator()(const std::function<ControlValue()>& value) const { return value(); }
 };
 
 }  // namespace
 
 void ControlRegistry::add(std::string name, ControlSource source) {
     names_.push_back(name);
-    sources_.emplace(std::move(name), source);
+    sources_.emplace(std::move(name), std::move(source));
 }
 
 void ControlRegistry::add(const std::string& name, const Panel& panel) {
@@ -47,9 +48,17 @@ void ControlRegistry::add(const std::string& name, const Option& option) {
     add(name + ".Enabled", &option.Enabled);
 }
 
+void ControlRegistry::addFlag(std::string name, const bool& flag) {
+    add(std::move(name), [&flag]() -> ControlValue { return flag ? 1.0 : 0.0; });
+}
+
 void ControlRegistry::addGrid(std::string name, const Grid& grid) {
+    addGrid(std::move(name), [&grid] { return grid; });
+}
+
+void ControlRegistry::addGrid(std::string name, std::function<Grid()> grid) {
     gridNames_.push_back(name);
-    grids_.emplace(std::move(name), &grid);
+    grids_.emplace(std::move(name), std::move(grid));
 }
 
 std::optional<ControlValue> ControlRegistry::read(std::string_view name) const {
@@ -59,9 +68,9 @@ std::optional<ControlValue> ControlRegistry::read(std::string_view name) const {
     return std::visit(ReadSource(), found->second);
 }
 
-const Grid* ControlRegistry::grid(std::string_view name) const {
+std::optional<Grid> ControlRegistry::grid(std::string_view name) const {
     const auto found = grids_.find(name);
-    return found == grids_.end() ? nullptr : found->second;
+    return found == grids_.end() ? std::nullopt : std::optional(found->second());
 }
 
 }  // namespace lorvane

@@ -3,6 +3,7 @@
 #pragma once
 
 #include <cstdint>
+#include <functional>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -17,9 +18,9 @@ namespace lorvane {
 /// A value as it is read by name.
 using ControlValue = std::variant<double, bool, std::string, Colour>;
 
-/// Where a named value lives. The registry never outlives what it points to.
-using ControlSource =
-    std::variant<const double*, const int*, const bool*, const std::string*, const Colour*, const Alignment*>;
+/// Where a named value lives, or how it is worked out. The registry never outlives what it points to.
+using ControlSource = std::variant<const double*, const int*, const bool*, const std::string*, const Colour*,
+                                   const Alignment*, std::function<ControlValue()>>;
 
 class ControlRegistry {
 public:
@@ -31,14 +32,18 @@ public:
     void add(const std::string& name, const Button& button);
     void add(const std::string& name, const Option& option);
 
-    /// Enters a table under its name.
+    /// Enters a flag of a computation: 1 for good, 0 for a problem.
+    void addFlag(std::string name, const bool& flag);
+
+    /// Enters a table under its name, or how it is worked out.
     void addGrid(std::string name, const Grid& grid);
+    void addGrid(std::string name, std::function<Grid()> grid);
 
     /// The present value of a name; nothing when the name is not known.
     std::optional<ControlValue> read(std::string_view name) const;
 
-    /// The table of a name; null when there is none.
-    const Grid* grid(std::string_view name) const;
+    /// The table of a name as it is now; nothing when there is none.
+    std::optional<Grid> grid(std::string_view name) const;
 
     /// All names in the order in which they were entered.
     const std::vector<std::string>& names() const noexcept { return names_; }
@@ -57,7 +62,7 @@ private:
     using ByName = std::unordered_map<std::string, T, NameHash, std::equal_to<>>;
 
     ByName<ControlSource> sources_;
-    ByName<const Grid*> grids_;
+    ByName<std::function<Grid()>> grids_;
     std::vector<std::string> names_;
     std::vector<std::string> gridNames_;
 };

@@ -26,10 +26,12 @@ inline constexpr Colour problemColour{200, 0, 0};
 /// How a panel sets its caption.
 enum class Alignment : int { left = 1, centred = 7 };
 
-/// A cell or a line of text; a bar when its flood is used.
+/// A cell or a line of text; a bar when its flood is used. Scripts read alignment and colours; a view looks
+/// at trouble, and has looks of its own for it.
 struct Panel {
     std::string Caption;
     bool Visible = true;
+    bool trouble = false;  ///< it tells of a problem
     Alignment Align = Alignment::left;
     Colour ForeColor = black;
     Colour BackColor = normalBackground;

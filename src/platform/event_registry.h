@@ -1,5 +1,5 @@
-// What can be done on the screen, by the names of its controls: tools, buttons, text boxes, arrows, windows
-// to close. Faces, scripts and tests act through it; it knows no meaning of any of them.
+// What can be done on the screen, by the names of its controls: buttons, text boxes, arrows, windows to
+// close. Faces, scripts and tests act through it; it knows no meaning of any of them.
 #pragma once
 
 #include <functional>
@@ -16,7 +16,6 @@ class EventRegistry {
 public:
     using Handler = std::function<void()>;
 
-    void onTool(std::string name, Handler handler) { enter(tools_, std::move(name), std::move(handler)); }
     void onClick(std::string control, Handler handler) {
         enter(clicks_, std::move(control), std::move(handler));
     }
@@ -43,11 +42,8 @@ public:
     void addGrid(std::string name, Grid& grid) { grids_.emplace(std::move(name), &grid); }
 
     /// Each runs the handler of a name; false when there is none.
-    bool tool(std::string_view name) const { return run(tools_, name); }
     bool click(std::string_view control) const { return run(clicks_, control); }
     bool close(std::string_view window) const { return run(closes_, window); }
-
-    bool knowsTool(std::string_view name) const { return tools_.contains(std::string(name)); }
 
     /// The arrows and the number of a name; null when there are none.
     const std::function<void(int)>* spin(const std::string& control) const { return find(spins_, control); }
@@ -91,7 +87,6 @@ private:
         return true;
     }
 
-    Handlers tools_;
     Handlers clicks_;
     Handlers closes_;
     std::unordered_map<std::string, std::function<void(int)>> spins_;

@@ -8,12 +8,40 @@ namespace lorvane {
 
 enum class ToolCategory { command, choice, increment, window, file, help };
 
-/// One command. It may stand in several bands.
+/// The sign that a command carries; a view draws it.
+enum class Sign {
+    none,
+    open,
+    fresh,
+    save,
+    powerDigits,
+    powerBar,
+    costDigits,
+    costBar,
+    maximumCost,
+    requiredPower,
+    optimal,
+    mdes,
+    scenarios,
+    addScenario,
+    report,
+    graph,
+    guide,
+    details,
+    undo,
+    redo,
+    copy
+};
+
+/// One command as it stands. It may stand in several bands.
 struct Tool {
     std::string Name;
     std::string Caption;  ///< with "&" before the letter that reaches it by keyboard
     std::string ToolTipText;
     ToolCategory Category = ToolCategory::command;
+    Sign sign = Sign::none;
+    bool withWord = false;  ///< the tool bar shows its caption beside the sign
+    std::string shortcut;   ///< keys, "Ctrl+Z"; several are parted by blanks
     bool Checked = false;
     bool Visible = true;
     bool Enabled = true;

@@ -1,18 +1,15 @@
-// The study screen and its refresh.
+// The study screen and the showing half of the refresh.
 #include "screen/design.h"
 
-#include <algorithm>
 #include <span>
 #include <utility>
 
 #include "base/names.h"
 #include "base/number_text.h"
-#include "engine/docompute.h"
 #include "engine/effect_check.h"
+#include "engine/power_test.h"
 #include "screen/screen_rows.h"
-#include "screen/spin.h"
-#include "screen/structure.h"
-#include "screen/tool_states.h"
+#include "session/answers.h"
 #include "validation/dispersion_tables.h"
 
 namespace lorvane {
@@ -29,17 +26,11 @@ constexpr WindowId mainForms[] = {frmTips,          frmDetails,   frmGroupNames,
 constexpr WindowId graphFormsAway[] = {frmXVar, frmLVar, frmTipsGraph, frmTable};
 constexpr WindowId graphFormsBack[] = {frmXVar, frmLVar, xPlot, frmTable, frmTipsGraph};
 
-// Keeps the problem window from opening by itself while a held arrow ticks.
-class SilentWhile {
-public:
-    SilentWhile(bool& flag, bool silent) : flag_(flag) { flag_ = silent; }
-    ~SilentWhile() { flag_ = false; }
-    SilentWhile(const SilentWhile&) = delete;
-    SilentWhile& operator=(const SilentWhile&) = delete;
+constexpr double fullBar = 100;
 
-private:
-    bool& flag_;
-};
+// Outlines 2 to 6 belong to the levels: level i has number i + 1.
+constexpr int firstLevelOutline = 2;
+constexpr int lastLevelOutline = 6;
 
 std::string fileName(const std::string& path) { return path.substr(path.find_last_of("/\\") + 1); }
 
@@ -53,194 +44,188 @@ const char* metricMarker(const Study& s) {
 
 }  // namespace
 
-Design::Design(DistributionLibrary& library, const SystemLocale& locale, MessageBoxes& messages)
-    : library_(library), messages_(messages), systemCurrency_(detectCurrency(locale)),
-      fields_(study_, settings_), spreadICC_(LoadSpreadICC()), spreadTauSq_(LoadSpreadTauSq()),
-      computeScreen_(study_, settings_, screen_, problems_, effectProblems_, windows_, silentTick_) {
-    settings_.currency = systemCurrency_;
-    ResetToStart();
-    settings_.StudyDirty = false;
-    noteAsSaved();
+Design::Design(Session& session, MessageBoxes& messages)
+    : session_(session), messages_(messages), spreadICC_(LoadSpreadICC()), spreadTauSq_(LoadSpreadTauSq()) {
+    show({Reach::anew, false, true});
 }
 
-void Design::startAnew() {
-    study_ = Study();
-    SessionSettings fresh;
-    fresh.CurrentFile = std::move(settings_.CurrentFile);
-    fresh.StudyDirty = settings_.StudyDirty;
-    fresh.currency = std::move(settings_.currency);
-    fresh.ShowIccSchematic = settings_.ShowIccSchematic;
-    fresh.ShowTauSqSchematic = settings_.ShowTauSqSchematic;
-    fresh.ShowOmega = settings_.ShowOmega;
-    settings_ = std::move(fresh);
-    screen_ = MainScreen();
+// Another study must not stand beside what was told of the one before.
+void Design::forgetModels() {
+    screen_.reset();
     problems_ = ProblemWindow();
     effectProblems_ = EffectProblemWindow();
     iccPanel_ = IccPanel();
     tauSqPanel_ = TauSqPanel();
     countsPanel_ = CellCountsPanel();
-    applyChoices();
 }
 
-void Design::ResetToStart() {
-    startAnew();
-    DoRefresh(true);
+void Design::show(const Changed& changed) {
+    if (changed.otherStudy)
+        forgetModels();
+    writeModels();
+    if (changed.reach == Reach::anew || changed.reach == Reach::study)
+        moveWindows(changed.heldArrow);
 }
 
-void Design::applyChoices() {
-    randomize(study_.RandomizedLevel);
-    DisplayPowerMode(screen_, study_.Powermode);
-    DisplayCostMode(screen_, study_.Costmode);
-    writeVisibility(study_, screen_);
+void Design::writeModels() {
+    const Study& s = study();
+    writeEffect();
+    writeDispersion();
+    writeOutcome();
+    writeCost();
+    writeCells(session_.state(), session_.computation().models, screen_);
+    writeStrip(s, screen_);
+    writeTable(s, screen_);
+    writeOtherForm(s, screen_);
+    writeDiagnostics(s, screen_);
+    writeWords(session_.state(), screen_);
+    const DetailLevels detail = settings().CellCountDetail;
+    writeCellCounts(s, {detail >= DetailLevels::moderate, detail >= DetailLevels::full}, countsPanel_);
 }
 
-void Design::Reset() {
-    applyModelRule();
-    writeVisibility(study_, screen_);
-    DoRefresh(true);
-}
-
-void Design::setNumLevels(int levels) { ApplyNumLevels(study_, screen_, levels); }
-
-void Design::randomize(int level) { DoRandomize(study_, screen_, level); }
-
-// None of the steps may be moved: each reads what the one before wrote.
-void Design::DoRefresh(bool Show) {
-    ComputeDisplay& display = Show ? static_cast<ComputeDisplay&>(computeScreen_) : silent_;
-    settings_.StudyDirty = true;
-    faultWords_.clear();
-    if (Show) {
-        asSaved_ = false;
-        showEntered();
-    }
-    synchronise(Show, display);
-    ComputeES(study_, display);
-    docompute(study_, library_, display);
-    if (Show)
-        showAll();
-}
-
-// The cells show what was entered even where the computation cannot go on.
-void Design::showEntered() {
-    writeStrip(study_, screen_);
-    writeRows(study_, settings_, screen_);
-}
-
-void Design::synchronise(bool Show, ComputeDisplay& display) {
-    const IccVerdict verdict = SynchICC(study_, display);
-    const TauSqMessage message = SynchTauSq(study_);
-    if (!Show)
+void Design::writeEffect() {
+    const Study& s = study();
+    if (s.isMeans())
         return;
-    spreadICC_ = iccTable(study_, verdict.sumIsGood);
-    writeIccPanel(study_, verdict, iccPanel_);
-    spreadTauSq_ = tauSqTable(study_);
-    writeTauSqPanel(study_, message, settings_.ShowOmega, tauSqPanel_);
-    if (study_.isHierarchical())
-        SynchForms(frmDisplayTauSq, WindowAction::withdrawForGood);
+    const bool good = s.result.ValidES;
+    screen_.SSPanel10.Caption = good ? derivedEffectText(s) : "";
+    screen_.SSPanel10.ForeColor = good ? black : problemColour;
+    if (good)
+        return;
+    effectProblems_.pnlErrESTitle.Caption = effectProblemTitle(s);
+    effectProblems_.pnlErrES.Caption = effectProblemText(s);
 }
 
-void Design::showAll() {
-    SynchCellCounts();
-    writeStrip(study_, screen_);
-    writeRows(study_, settings_, screen_);
-    applyModelRule();
-    writeOtherForm(study_, screen_);
-    writeDiagnostics(study_, screen_);
-    writeWords(study_, settings_, screen_);
-    for (const auto& refresh : followers_) {
-        if (refresh)
-            refresh();
+void Design::writeDispersion() {
+    const Computation& computation = session_.computation();
+    spreadICC_ = iccTable(study(), computation.icc.sumIsGood);
+    writeIccPanel(study(), computation.icc, iccPanel_);
+    spreadTauSq_ = tauSqTable(study());
+    writeTauSqPanel(study(), computation.tauSq, display().ShowOmega, tauSqPanel_);
+}
+
+// The request stands in the place of the power whatever the mode. A gate before the power leaves the outlines
+// of the last problem, and so does arithmetic that could not go on.
+void Design::writeOutcome() {
+    const ComputeOutcome& outcome = session_.computation().outcome;
+    problems_.pnlErr.Caption = outcome.problem.message;
+    problems_.pnlErrTitle.Caption = outcome.problem.title;
+    writePower();
+    const bool reached = outcome.obstacle == Obstacle::none || outcome.obstacle == Obstacle::data;
+    if (!reached || !session_.faultWords().empty())
+        return;
+    for (int number = firstLevelOutline; number <= lastLevelOutline; ++number)
+        clearOutline(number);
+    for (int level = lowestLevel; level <= highestLevel; ++level) {
+        const std::string last = indexedName("pnlRsq", level);
+        if (outcome.covariatesAtFault(level))
+            outline(level + 1, indexedName("pnlQ", level), last);
+        if (outcome.levelAtFault(level))
+            outline(level + 1, indexedName("pnlLevel", level), last);
     }
-    showTools();
 }
 
-void Design::showFault(const ArithmeticFault& fault) {
-    faultWords_ = fault.what();
-    study_.result.xValid = 0;
-    computeScreen_.askForData("Please modify data");
-    computeScreen_.tellProblem("", "");
-    writeWords(study_, settings_, screen_);
-    if (const auto& mdes = followers_[static_cast<std::size_t>(RefreshFollower::mdes)])
-        mdes();
+void Design::writePower() {
+    const std::string_view request = session_.computation().outcome.request;
+    const bool asBar = request.empty() && display().Powermode == DisplayModes::graph;
+    Figure& power = screen_.pnlPower;
+    power.Visible = !asBar;
+    screen_.pnlPowerOuter.Visible = asBar;
+    power.state = asBar ? FigureState::bar : FigureState::digits;
+    power.trouble = !request.empty();
+    power.Align = power.trouble ? Alignment::centred : Alignment::left;
+    if (power.trouble) {
+        power.state = FigureState::request;
+        power.Caption = request;
+        screen_.pnlPowerBar.Flood = 0;
+        return;
+    }
+    const double value = study().result.txtPower;
+    power.number = fixedText(value, 4);
+    power.Caption = power.name + " = " + power.number;
+    screen_.pnlPowerBar.Flood = SmallerOf(value * 100, fullBar);
 }
 
-void Design::showTools() {
-    writeToolStates(study_, settings_, windows_, tools_);
-    caption_.Caption = SetCaption();
+// A cost of exactly 1 leaves the caption as it stands. The gap is deliberate.
+void Design::writeCost() {
+    const std::int32_t amount = study().result.txtCost;
+    Figure& cost = screen_.pnlCost;
+    const bool asBar = display().Costmode == DisplayModes::graph;
+    cost.Visible = !asBar;
+    screen_.pnlCostOuter.Visible = asBar;
+    cost.state = asBar ? FigureState::bar : FigureState::digits;
+    if (amount != 1)
+        cost.number = costText(amount, settings().currency);
+    cost.Caption = cost.name + " = " + cost.number;
+    screen_.pnlCostBar.Flood = SmallerOf(amount / study().MaxCost * 100, fullBar);
 }
 
-// The level of randomization and the lowest level are always random. A file's fixed model there counts for
-// the one computation before this, deliberately.
-void Design::applyModelRule() {
-    for (const int level : {1, study_.RandomizedLevel})
-        study_.txtModel(level) = SamplingModels::random;
-}
-
-void Design::follow(RefreshFollower follower, std::function<void()> refresh) {
-    followers_[static_cast<std::size_t>(follower)] = std::move(refresh);
-}
-
-void Design::setField(const SpinControl& control, double value) {
-    const SpinRow& row = *control.row;
-    const int level = control.level;
-    const auto write = [&](std::string_view stem) {
-        writeField(*fields_.find(row.perLevel ? indexedName(stem, level) : std::string(stem)), value);
+// The windows that tell of problems follow the computation. Where its arithmetic could not go on none opens.
+void Design::moveWindows(bool heldArrow) {
+    const auto closeIf = [&](bool close, WindowId window) {
+        if (close)
+            SynchForms(window, WindowAction::withdrawForGood);
     };
-    write(row.field);
-    const bool cost = row.step == SpinStep::costOfLevel;
-    if (!row.linkedTo.empty() && (cost ? study_.LinkCost(level) : study_.LinkN(level)))
-        write(row.linkedTo);
+    const auto openIf = [&](bool open, WindowId window) {
+        if (open)
+            SynchForms(window, WindowAction::open);
+    };
+    const bool faulty = !session_.faultWords().empty();
+    const Obstacle obstacle = faulty ? Obstacle::none : session_.computation().outcome.obstacle;
+    closeIf(study().isHierarchical(), frmDisplayTauSq);
+    closeIf(study().isBinary() && study().result.ValidES, frmProblemES);
+    closeIf(obstacle == Obstacle::none && !faulty, frmProblems);
+    openIf(obstacle == Obstacle::effect, frmProblemES);
+    openIf(obstacle == Obstacle::icc, frmDisplayICC);
+    openIf(obstacle == Obstacle::tauSq, frmDisplayTauSq);
+    openIf(obstacle == Obstacle::data && !heldArrow, frmProblems);
+    SynchCellCounts();
 }
 
-void Design::setValue(const std::string& field, double value) {
-    const IndexedName name = splitName(field);
-    for (const SpinRow& row : spinRows()) {
-        if (row.field == name.stem)
-            setField({&row, name.index.value_or(0)}, value);
-    }
-    DoRefresh(true);
-}
-
-void Design::Spin(const SpinControl& control, int direction, SpinMode mode) {
-    const SpinRow& row = *control.row;
-    if (row.picture == SpinPicture::icc)
+void Design::Spin(FieldRef field, int direction, ArrowHold hold) {
+    if (field->panel == FieldPanel::icc)
         ShowICC(true);
-    if (row.picture == SpinPicture::tauSq)
+    if (field->panel == FieldPanel::tauSq)
         ShowTauSq(true);
-    const std::string name = row.perLevel ? indexedName(row.field, control.level) : std::string(row.field);
-    const StudyField& field = *fields_.find(name);
-    const FieldLimits limits = fields_.limitsOf(field);
-    const int step = stepOf(row, control.level, settings_);
-    const int decimals = field.FmtDecDigits == nullptr ? 0 : *field.FmtDecDigits;
-    double value = spun(std::get<double>(readField(field)), direction, limits, decimals, step);
-    if (row.snap)
-        value = std::min(snapped(value, direction, step), limits.high);
-    setField(control, value);
-    const SilentWhile silent(silentTick_, mode == SpinMode::tick);
-    DoRefresh(true);
+    stepField(session_, field, direction, hold);
 }
 
-void Design::spinModel(int level, int direction) {
-    study_.txtModel(level) = direction > 0 ? SamplingModels::fixed : SamplingModels::random;
-    DoRefresh(true);
+void Design::DisplayPowerMode(DisplayModes mode) {
+    session_.edit({"", Reach::display}, [&](SessionState& state) { state.display.Powermode = mode; });
 }
 
-void Design::spinPop(int level, int direction) {
-    study_.txtPop(level) += direction;
-    DoRefresh(true);
+void Design::DisplayCostMode(DisplayModes mode) {
+    session_.edit({"", Reach::display}, [&](SessionState& state) { state.display.Costmode = mode; });
 }
 
-void Design::SETDECS(std::string_view fieldStem, int decimals) {
-    for (const StudyField& field : fields_.all()) {
-        if (splitName(field.name).stem != fieldStem || field.FmtDecDigits == nullptr)
-            continue;
-        *field.FmtDecDigits = decimals;
-        const double rounded = *readNumber(fixedText(std::get<double>(readField(field)), decimals));
-        // A value that rounding would take out of its limits stays as it was.
-        if (fields_.limitsOf(field).holds(rounded))
-            writeField(field, rounded);
-    }
-    DoRefresh(true);
+void Design::setShowOmega(bool show) {
+    session_.edit({"", Reach::display}, [&](SessionState& state) { state.display.ShowOmega = show; });
+}
+
+void Design::setMaxCost(double cost) {
+    session_.edit({"maximum cost", Reach::setting}, [&](SessionState& state) { state.study.MaxCost = cost; });
+}
+
+void Design::setCellCountDetail(DetailLevels detail) {
+    session_.edit({"detail of cell counts", Reach::setting},
+                  [&](SessionState& state) { state.settings.CellCountDetail = detail; });
+    SynchCellCounts();
+}
+
+void Design::setShowCellCounts(SchematicModes mode) {
+    session_.edit({"", Reach::display}, [&](SessionState& state) { state.display.ShowCellCounts = mode; });
+    SynchCellCounts();
+}
+
+void Design::setIccSchematic(SchematicModes mode) {
+    session_.edit({"", Reach::display}, [&](SessionState& state) { state.display.ShowIccSchematic = mode; });
+    ShowICC(mode != SchematicModes::off);
+}
+
+void Design::setTauSqSchematic(SchematicModes mode) {
+    session_.edit({"", Reach::display},
+                  [&](SessionState& state) { state.display.ShowTauSqSchematic = mode; });
+    ShowTauSq(mode != SchematicModes::off && !study().isHierarchical());
 }
 
 void Design::SuspendForms(FormSet set) {
@@ -267,7 +252,7 @@ Answer Design::ask(std::string title, std::string text, std::vector<Answer> butt
 }
 
 bool Design::closeRequest() {
-    const bool dirty = settings_.StudyDirty;
+    const bool dirty = session_.isDirty();
     const Answer answer = ask(dirty ? "Confirmation needed" : "Confirm exit",
                               dirty ? "This will clear all data and saved scenarios. Ok to exit?         "
                                     : "Ok to exit?                ",
@@ -279,26 +264,22 @@ bool Design::closeRequest() {
 void Design::ShowICC(bool show) {
     if (!show)
         SynchForms(frmDisplayICC, WindowAction::withdrawForGood);
-    else if (settings_.ShowIccSchematic != SchematicModes::off)
+    else if (display().ShowIccSchematic != SchematicModes::off)
         SynchForms(frmDisplayICC, WindowAction::open);
 }
 
 void Design::ShowTauSq(bool show) {
     if (!show)
         SynchForms(frmDisplayTauSq, WindowAction::withdrawForGood);
-    else if (settings_.ShowTauSqSchematic != SchematicModes::off)
+    else if (display().ShowTauSqSchematic != SchematicModes::off)
         SynchForms(frmDisplayTauSq, WindowAction::open);
 }
 
 void Design::SynchCellCounts() {
-    if (study_.isMeans()) {
-        ShowCounts(false);
-        return;
-    }
-    writeCellCounts(study_, countsPanel_);
-    const bool low = study_.counts.anyLow == 1;
-    const int mode = settings_.ShowCellCounts;
-    ShowCounts(mode == SchematicModes::on || (mode == SchematicModes::automatic && low));
+    const bool low = study().counts.anyLow;
+    const SchematicModes mode = display().ShowCellCounts;
+    ShowCounts(study().isBinary() &&
+               (mode == SchematicModes::on || (mode == SchematicModes::automatic && low)));
 }
 
 void Design::ShowCounts(bool show) {
@@ -306,14 +287,13 @@ void Design::ShowCounts(bool show) {
 }
 
 std::string Design::savedWords() const {
-    if (!asSaved_ || settings_.CurrentFile.empty())
-        return "Not saved";
-    return "Saved in " + fileName(settings_.CurrentFile);
+    const std::string& file = session_.currentFile();
+    return !session_.isAsSaved() || file.empty() ? "Not saved" : "Saved in " + fileName(file);
 }
 
 std::string Design::SetCaption() const {
-    const std::string file = settings_.CurrentFile.empty() ? "" : "  " + fileName(settings_.CurrentFile);
-    return std::string("Lorvane") + metricMarker(study_) + file;
+    const std::string& file = session_.currentFile();
+    return std::string("Lorvane") + metricMarker(study()) + (file.empty() ? "" : "  " + fileName(file));
 }
 
 }  // namespace lorvane

@@ -41,11 +41,9 @@ std::string designSentence(const Study& s) {
 }
 
 std::string powerNote(const Study& s) {
-    if (s.result.xValid == 0)
+    if (!s.result.xValid)
         return "Power is shown again as soon as the outlined values fit together.";
-    const bool tested =
-        s.isMeans() || s.BinaryType == BinaryTypes::oddsRatio || s.BinaryType == BinaryTypes::riskDifference;
-    if (!tested)
+    if (!s.isTested())
         return "This effect has no test";
     const std::string required = shortestText(roundHalfToEven(s.ReqPower * 100)) + "%";
     return s.result.txtPower >= s.ReqPower ? "Reaches the required power of " + required

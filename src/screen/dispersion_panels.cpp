@@ -24,8 +24,8 @@ void writeMessage(Panel& outer, Panel& inner, std::string message) {
     inner.Caption = std::move(message);
 }
 
-std::string shownIf(int flag, double value, int decimals) {
-    return flag == 1 ? fixedText(value, decimals) : std::string();
+std::string shownIf(bool shown, double value, int decimals) {
+    return shown ? fixedText(value, decimals) : std::string();
 }
 
 // Decimals that tell a range apart: fewer for a wide one, three for risks.
@@ -82,9 +82,9 @@ void writeIccRow(const Study& s, IccPanel& panel, int level, bool used) {
     panel.pnlWidth(level).Visible = span;
     panel.pnlExample(level).Visible = span;
     panel.pnlICC(level).Caption =
-        shownIf(icc ? s.outcome.ShowICC(level) : 0, s.txtICC(level), s.decimals.txtICC);
+        shownIf(icc && s.outcome.ShowICC(level), s.txtICC(level), s.decimals.txtICC);
     panel.pnlWidth(level).Caption =
-        shownIf(span ? s.outcome.ShowSpan(level) : 0, s.txtMRange(level), s.decimals.txtMRange);
+        shownIf(span && s.outcome.ShowSpan(level), s.txtMRange(level), s.decimals.txtMRange);
     panel.iccSpin(level) = icc && iccEntered;
     panel.spanSpin(level) = span && (!iccEntered || level == 1);
 }
@@ -100,11 +100,11 @@ void writeIccScale(const Study& s, Schematic& picture) {
 }
 
 bool anyTruncated(const Study& s) {
-    bool truncated = false;
-    double lower = 0, upper = 0;
-    for (int level = 2; s.isBinary() && level <= s.NumLevels && !truncated; ++level)
-        GetRange(s.txtPrev, spanOfLevel(s, level), lower, upper, truncated);
-    return truncated;
+    for (int level = 2; s.isBinary() && level <= s.NumLevels; ++level) {
+        if (GetRange(s.txtPrev, spanOfLevel(s, level)).truncated)
+            return true;
+    }
+    return false;
 }
 
 void writeIccBars(const Study& s, const IccVerdict& verdict, IccPanel& panel) {
@@ -170,9 +170,9 @@ int decimalsOfSpan(const Study& s) {
 }
 
 // A negative tau-squared, as a file can hold, is a problem that still shows.
-int showsTauSq(const EffectDispersion& effect, int level) {
-    const bool told = effect.ValidTauSq(level) == 1 || effect.txtTauSq(level) < 0;
-    return told ? effect.ShowTauSq(level) : 0;
+bool showsTauSq(const EffectDispersion& effect, int level) {
+    const bool told = effect.ValidTauSq(level) || effect.txtTauSq(level) < 0;
+    return told && effect.ShowTauSq(level);
 }
 
 void writeTauSqRow(const Study& s, bool showOmega, TauSqPanel& panel, int level) {
@@ -184,11 +184,11 @@ void writeTauSqRow(const Study& s, bool showOmega, TauSqPanel& panel, int level)
         cell->Visible = blocked;
     panel.pnlOmega(level).Visible = blocked && showOmega;
     panel.pnlTauSq(level).Caption =
-        shownIf(blocked ? showsTauSq(effect, level) : 0, effect.txtTauSq(level), decimalsOfTauSq(s));
+        shownIf(blocked && showsTauSq(effect, level), effect.txtTauSq(level), decimalsOfTauSq(s));
     panel.pnlWidth(level).Caption =
-        shownIf(blocked ? effect.ValidSpan(level) : 0, effect.txtSpan(level), decimalsOfSpan(s));
+        shownIf(blocked && effect.ValidSpan(level), effect.txtSpan(level), decimalsOfSpan(s));
     panel.pnlOmega(level).Caption =
-        shownIf(blocked ? effect.ValidOmega(level) : 0, effect.txtOmega(level), s.decimals.txtOmega);
+        shownIf(blocked && effect.ValidOmega(level), effect.txtOmega(level), s.decimals.txtOmega);
     panel.tauSqSpin(level) = blocked && s.TauSqMetric == TauSqMetrics::tauSquared;
     panel.spanSpin(level) = blocked && s.TauSqMetric == TauSqMetrics::spanOfEffects;
     panel.omegaSpin(level) = blocked && s.TauSqMetric == TauSqMetrics::omega;
@@ -208,7 +208,7 @@ void writeTauSqBars(const Study& s, TauSqPanel& panel) {
     for (int level = 2; level <= highestLevel; ++level) {
         SpanBar& bar = picture.bars(level);
         bar = SpanBar();
-        const bool told = level <= s.NumLevels && s.isBlocked(level) && s.effect.ValidTauSq(0) == 1;
+        const bool told = level <= s.NumLevels && s.isBlocked(level) && s.effect.ValidTauSq(0);
         const TauSqRow row = told ? tauSqRow(s, level) : TauSqRow();
         if (row.hasLimits)
             writeBar(bar, row.lower, row.upper, s.isMeans() ? 2 : 3);

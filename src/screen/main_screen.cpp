@@ -1,19 +1,17 @@
 // Display model of the study screen.
 #include "screen/main_screen.h"
 
+#include <algorithm>
+#include <cassert>
+#include <initializer_list>
 #include <utility>
 
 #include "base/names.h"
-#include "engine/study.h"
+#include "base/number_text.h"
 
 namespace lorvane {
 
 namespace {
-
-void displayMode(Panel& digits, Panel& graph, int mode) {
-    digits.Visible = mode == DisplayModes::digits;
-    graph.Visible = mode == DisplayModes::graph;
-}
 
 struct ColumnRow {
     const char* key;
@@ -34,11 +32,68 @@ constexpr ColumnRow columnRows[columnCount] = {{"colBlocked", "Level"},
                                                {"colCost", "Costs"},
                                                {"colES", "Effect size"}};
 
-void addCell(ControlRegistry& registry, const std::string& panel, const std::string& spin, const Cell& cell) {
-    registry.add(panel, static_cast<const Panel&>(cell));
-    registry.add(panel + ".Number", &cell.number);
-    registry.add(panel + ".Arm", &cell.arm);
-    registry.add(spin + ".Visible", &cell.spinVisible);
+// A head of the table: its name, the column that it stands for until the study says otherwise, its menu, and
+// the field whose heading it is where it shares the column with another.
+struct HeadRow {
+    const char* name;
+    ColumnId column;
+    const char* menu = "";
+    const char* field = nullptr;
+};
+
+constexpr HeadRow headRows[headCount] = {{"lblLevel", ColumnId::levels},
+                                         {"lblUnits", ColumnId::units},
+                                         {"lblDispersion", ColumnId::icc, "popICCView"},
+                                         {"lblEffect", ColumnId::tauSq, "popTauSqView"},
+                                         {"lblModel", ColumnId::model},
+                                         {"lblQ", ColumnId::rsq, "", "txtQ"},
+                                         {"lblRsq", ColumnId::rsq, "", "txtRsq"},
+                                         {"lblCost", ColumnId::cost}};
+
+// The cells that an outline goes around at each of its levels, by the kind of cell that it starts at.
+struct OutlinedCells {
+    std::string_view from;
+    std::initializer_list<const char*> cells;
+};
+const OutlinedCells outlinedCells[] = {{"pnlLevel", {"pnlQ", "pnlRsq", "pnlNT", "pnlNC", "pnlNB"}},
+                                       {"pnlQ", {"pnlQ", "pnlRsq"}},
+                                       {"pnlModel", {"pnlModel"}},
+                                       {"pnlICC", {"pnlICC", "pnlMRange"}},
+                                       {"pnlTauSq", {"pnlTauSq", "pnlDRange", "pnlOmega"}},
+                                       {"pnlCostT", {"pnlCostT", "pnlCostC", "pnlCostB"}},
+                                       {"pnlEffectSize", {"pnlD", "pnlOR", "pnlRR", "pnlRD", "pnlP2"}}};
+
+std::vector<std::string> cellsBetween(const std::string& from, const std::string& to) {
+    const IndexedName first = splitName(from);
+    const int a = first.index.value_or(0), b = splitName(to).index.value_or(0);
+    std::vector<std::string> names;
+    for (const OutlinedCells& outlined : outlinedCells) {
+        if (outlined.from != first.stem)
+            continue;
+        for (int level = std::min(a, b); level <= std::max(a, b); ++level) {
+            for (const char* cell : outlined.cells)
+                names.push_back(level == 0 ? cell : indexedName(cell, level));
+        }
+    }
+    return names;
+}
+
+std::string nameOf(std::string_view stem, const Field& field, int index) {
+    return field.index == FieldIndex::none ? std::string(stem) : indexedName(stem, index);
+}
+
+void addCells(ControlRegistry& registry, const FieldCells& cells) {
+    const Field& field = *cells.field;
+    for (int i = indicesOf(field).first; i <= indicesOf(field).last; ++i) {
+        const std::string panel = nameOf(field.cell.stem, field, i);
+        registry.add(panel, static_cast<const Panel&>(cells(i)));
+        registry.add(panel + ".Number", &cells(i).number);
+        registry.add(panel + ".Arm", &cells(i).arm);
+        registry.add(panel + ".Words", &cells(i).words);
+        if (field.index == FieldIndex::none)
+            registry.add(panel + ".Heading", &cells(i).heading);
+        registry.add(nameOf(field.spin, field, i) + ".Visible", &cells(i).spinVisible);
+    }
 }
 
 void addPanels(ControlRegistry& registry, const MainScreen& s) {
@@ -56,6 +111,9 @@ void addPanels(ControlRegistry& registry, const MainScreen& s) {
                                                            {"pnlCostNote", &s.pnlCostNote},
                                                            {"pnldW", &s.pnldW},
                                                            {"pnldT", &s.pnldT},
+                                                           {"lblOther", &s.lblOther},
+                                                           {"pnlOther", &s.pnlOther},
+                                                           {"lblAlpha", &s.lblAlpha},
                                                            {"lblD", &s.lblD},
                                                            {"lblPrev", &s.lblPrev},
                                                            {"lblP2", &s.lblP2},
@@ -65,6 +123,17 @@ void addPanels(ControlRegistry& registry, const MainScreen& s) {
                                                            {"pnlStatus", &s.pnlStatus}};
     for (const auto& [name, panel] : panels)
         registry.add(name, *panel);
+    for (const auto& [name, figure] : {std::pair{"pnlPower", &s.pnlPower}, {"pnlCost", &s.pnlCost}}) {
+        registry.add(std::string(name) + ".Low", &figure->low);
+        registry.add(std::string(name) + ".High", &figure->high);
+    }
+}
+
+void addHeads(ControlRegistry& registry, const MainScreen& s) {
+    for (std::size_t i = 0; i < headCount; ++i) {
+        registry.add(headRows[i].name, static_cast<const Panel&>(s.heads[i]));
+        registry.add(std::string(headRows[i].name) + ".Column", &s.heads[i].column);
+    }
 }
 
 void addOutlines(ControlRegistry& registry, const MainScreen& s) {
@@ -80,56 +149,60 @@ void addOutlines(ControlRegistry& registry, const MainScreen& s) {
 
 }  // namespace
 
-const std::array<StripCellName, 8> stripCells = {
-    {{"pnlD", "spnD", "txtd", "popd", &MainScreen::pnlD},
-     {"pnlMean", "spnMean", "txtMean", "popMean", &MainScreen::pnlMean},
-     {"pnlSD", "spnSD", "txtSD", "popSD", &MainScreen::pnlSD},
-     {"pnlPrev", "spnPrev", "txtPrev", "popPrevalence", &MainScreen::pnlPrev},
-     {"pnlP2", "spnP2", "txtP2", "popP2", &MainScreen::pnlP2},
-     {"pnlOR", "spnOR", "txtOR", "popOR", &MainScreen::pnlOR},
-     {"pnlRR", "spnRR", "txtRR", "popRR", &MainScreen::pnlRR},
-     {"pnlRD", "spnRD", "txtRD", "popRD", &MainScreen::pnlRD}}};
-
-const std::array<LevelCellName, 15> levelCells = {
-    {{"pnlNT", "spnNT", "txtNT", "popLinkN{}", &MainScreen::pnlNT},
-     {"pnlNC", "spnNC", "txtNC", "popLinkN{}", &MainScreen::pnlNC},
-     {"pnlNB", "spnNB", "txtNB", "popLinkN{}B", &MainScreen::pnlNB},
-     {"pnlPop", "spnPop", "txtPop", "", &MainScreen::pnlPop},
-     {"pnlICC", "spnIcc", "txtICC", "popICC", &MainScreen::pnlICC},
-     {"pnlMRange", "spnMRange", "txtMRange", "popMRange", &MainScreen::pnlMRange},
-     {"pnlTauSq", "spnTauSq", "txtTauSq", "popTauSq", &MainScreen::pnlTauSq},
-     {"pnlDRange", "spnDRange", "txtDRange", "popDRange", &MainScreen::pnlDRange},
-     {"pnlOmega", "spnOmega", "txtOmega", "popOmega", &MainScreen::pnlOmega},
-     {"pnlModel", "spnModel", "txtModel", "", &MainScreen::pnlModel},
-     {"pnlQ", "spnQ", "txtQ", "popR-squared", &MainScreen::pnlQ},
-     {"pnlRsq", "spnRsq", "txtRsq", "popR-squared", &MainScreen::pnlRsq},
-     {"pnlCostT", "spnCostT", "txtCostT", "popLinkCost{}", &MainScreen::pnlCostT},
-     {"pnlCostC", "spnCostC", "txtCostC", "popLinkCost{}", &MainScreen::pnlCostC},
-     {"pnlCostB", "spnCostB", "txtCostB", "popCostB{}", &MainScreen::pnlCostB}}};
-
 MainScreen::MainScreen() {
     pnlAI.Visible = false;
     pnlCost.Caption = "Cost = n/a";
     pnlCost.number = "n/a";
+    pnlPower.name = "Power";
+    pnlCost.name = "Cost";
+    for (const Field& field : fieldBook()) {
+        if (!field.cell.stem.empty())
+            fields.push_back({&field, {}});
+    }
     for (std::size_t i = 0; i < columnCount; ++i) {
         columns[i].key = columnRows[i].key;
         columns[i].heading.Caption = columnRows[i].heading;
     }
+    for (std::size_t i = 0; i < headCount; ++i) {
+        standFor(static_cast<HeadId>(i), headRows[i].column);
+        heads[i].menu = headRows[i].menu;
+        if (headRows[i].field != nullptr)
+            heads[i].Caption = fieldOf(headRows[i].field).cell.heading;
+    }
+}
+
+void MainScreen::standFor(HeadId head, ColumnId column) {
+    Head& written = this->head(head);
+    written.column = this->column(column).key;
+    std::string text = this->column(column).heading.Caption;
+    std::replace(text.begin(), text.end(), '\n', ' ');
+    written.Caption = trimmed(text);
+}
+
+void MainScreen::reset() {
+    std::vector<FieldCells> kept = std::move(fields);
+    for (FieldCells& cells : kept)
+        cells.cells.fill(Cell());
+    *this = MainScreen();
+    fields = std::move(kept);
 }
 
 void MainScreen::OutlineProblem(int number, const Colour& colour, std::string from, std::string to) {
-    outlines(number) = {true, colour, std::move(from), std::move(to)};
+    std::vector<std::string> around = cellsBetween(from, to);
+    outlines(number) = {true, colour, std::move(from), std::move(to), std::move(around)};
+}
+
+const Cell& MainScreen::cell(std::string_view stem, int level) const {
+    const auto found = std::find_if(fields.begin(), fields.end(),
+                                    [&](const FieldCells& cells) { return cells.field->cell.stem == stem; });
+    assert(found != fields.end());
+    return (*found)(level);
 }
 
 void MainScreen::registerNames(ControlRegistry& registry) const {
     addPanels(registry, *this);
-    for (const StripCellName& name : stripCells)
-        addCell(registry, std::string(name.panel), std::string(name.spin), this->*name.cell);
-    for (const LevelCellName& name : levelCells) {
-        for (int level = lowestLevel; level <= highestLevel; ++level)
-            addCell(registry, indexedName(name.panel, level), indexedName(name.spin, level),
-                    (this->*name.cells)(level));
-    }
+    for (const FieldCells& cells : fields)
+        addCells(registry, cells);
     for (int level = lowestLevel; level <= highestLevel; ++level) {
         registry.add(indexedName("BpnlLevel", level), BpnlLevel(level));
         registry.add(indexedName("pnlName", level), pnlName(level));
@@ -137,15 +210,20 @@ void MainScreen::registerNames(ControlRegistry& registry) const {
     }
     for (const Column& column : columns)
         registry.add(column.key, column.heading);
+    addHeads(registry, *this);
     addOutlines(registry, *this);
 }
 
-void DisplayPowerMode(MainScreen& screen, int Powermode) {
-    displayMode(screen.pnlPower, screen.pnlPowerOuter, Powermode);
-}
-
-void DisplayCostMode(MainScreen& screen, int Costmode) {
-    displayMode(screen.pnlCost, screen.pnlCostOuter, Costmode);
+const char* roleWord(LevelRole role) {
+    switch (role) {
+    case LevelRole::nested:
+        return "Nested";
+    case LevelRole::randomized:
+        return "Randomized";
+    case LevelRole::blocked:
+        break;
+    }
+    return "Blocked";
 }
 
 }  // namespace lorvane

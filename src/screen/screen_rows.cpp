@@ -1,4 +1,4 @@
-// Writes the study onto the table of levels and the effect strip.
+// Writes the session onto the table of levels and the effect strip.
 #include "screen/screen_rows.h"
 
 #include <algorithm>
@@ -6,8 +6,8 @@
 #include "base/money.h"
 #include "base/number_text.h"
 #include "engine/effect_metrics.h"
-#include "screen/currency.h"
 #include "screen/design_words.h"
+#include "session/field_words.h"
 
 namespace lorvane {
 
@@ -15,27 +15,9 @@ namespace {
 
 constexpr int decimalsOfOtherForm = 3;
 
-std::string blanks(std::size_t count) { return std::string(count, ' '); }
+std::string blanks(int count) { return std::string(static_cast<std::size_t>(count), ' '); }
 
-// A number with blanks before and behind it.
-void writeNumber(Cell& cell, std::size_t before, const std::string& number, std::size_t behind = 0) {
-    cell.number = number;
-    cell.Caption = blanks(before) + number + blanks(behind);
-}
-
-void writeArm(Cell& cell, const std::string& number, const std::string& arm) {
-    cell.number = number;
-    cell.arm = arm;
-    cell.Caption = number + " (" + arm + ")";
-}
-
-void writeBlocked(Cell& cell, const std::string& number) {
-    cell.number = number;
-    cell.arm = "Blocked";
-    cell.Caption = "Blocked (" + number + ")";
-}
-
-std::string costText(double cost, const Currency& currency) {
+std::string amountText(double cost, const Currency& currency) {
     constexpr double largestAmount = 2147483647;
     return ReFormatCurrency(
         static_cast<std::int32_t>(std::clamp(roundHalfToEven(cost), -largestAmount, largestAmount)),
@@ -48,59 +30,73 @@ const char* modelText(double model) {
     return model == SamplingModels::random ? "Random" : "Model";
 }
 
-void writeRow(const Study& s, const Currency& currency, MainScreen& screen, int level) {
-    const FieldDecimals& decimals = s.decimals;
-    screen.pnlName(level).Caption = s.txtName(level);
-    writeArm(screen.pnlNT(level), shortestText(s.txtNT(level)), s.treatedName());
-    writeArm(screen.pnlNC(level), shortestText(s.txtNC(level)), s.controlName());
-    writeBlocked(screen.pnlNB(level), shortestText(s.txtNB(level)));
-    writeNumber(screen.pnlPop(level), 0, shortestText(s.txtPop(level)));
-    writeNumber(screen.pnlICC(level), 8, fixedText(s.txtICC(level), decimals.txtICC));
-    writeNumber(screen.pnlMRange(level), 8, fixedText(s.txtMRange(level), decimals.txtMRange));
-    writeNumber(screen.pnlTauSq(level), 8, fixedText(s.txtTauSq(level), decimals.txtTauSq));
-    writeNumber(screen.pnlDRange(level), 8, fixedText(s.txtDRange(level), decimals.txtDRange));
-    writeNumber(screen.pnlOmega(level), 8, fixedText(s.txtOmega(level), decimals.txtOmega));
-    writeNumber(screen.pnlModel(level), 3, modelText(s.txtModel(level)));
-    writeNumber(screen.pnlQ(level), 0, fixedText(s.txtQ(level), 0), 6);
-    writeNumber(screen.pnlRsq(level), 0, fixedText(s.txtRsq(level), 2), 2);
-    writeArm(screen.pnlCostT(level), costText(s.txtCostT(level), currency), s.treatedName());
-    writeArm(screen.pnlCostC(level), costText(s.txtCostC(level), currency), s.controlName());
-    writeBlocked(screen.pnlCostB(level), costText(s.txtCostB(level), currency));
+int decimalsOfCell(const Study& s, const Field& field) {
+    if (field.cell.decimals == stripDecimals)
+        return GetCurrFmt(s);
+    return field.cell.decimals == ownDecimals ? decimalsOf(s, field) : field.cell.decimals;
 }
 
-bool hasModelChoice(const Study& s, int level) { return level != 1 && level != s.RandomizedLevel; }
-
-void showSizes(const Study& s, MainScreen& screen, int level) {
-    const bool blocked = s.isBlocked(level);
-    for (Cell* cell :
-         {&screen.pnlNT(level), &screen.pnlNC(level), &screen.pnlCostT(level), &screen.pnlCostC(level)})
-        cell->Visible = !blocked;
-    for (Cell* cell : {&screen.pnlNB(level), &screen.pnlCostB(level)})
-        cell->Visible = blocked;
-    screen.pnlNC(level).spinVisible = !s.LinkN(level);
-    screen.pnlCostC(level).spinVisible = !s.LinkCost(level);
+// The value alone. A number that has no decimals of its own stands in its shortest form.
+std::string numberText(const SessionState& state, FieldRef ref, const PerLevel<double>& models) {
+    const double value = readNumberField(state, ref);
+    if (ref->cell.isMoney)
+        return amountText(value, state.settings.currency);
+    if (ref->cell.form == CellForm::model)
+        return modelText(models(ref.index));
+    const bool fixed = ref->decimals != nullptr || ref->cell.decimals >= 0;
+    return fixed ? fixedText(value, decimalsOfCell(state.study, *ref.field)) : shortestText(value);
 }
 
-void showDispersion(const Study& s, MainScreen& screen, int level) {
-    const bool blocked = s.isBlocked(level);
-    screen.pnlICC(level).Visible = s.IccMetric == IccMetrics::icc && level > 1;
-    screen.pnlMRange(level).Visible = s.IccMetric == IccMetrics::span && (level > 1 || s.isMeans());
-    screen.pnlTauSq(level).Visible = blocked && s.TauSqMetric == TauSqMetrics::tauSquared;
-    screen.pnlDRange(level).Visible = blocked && s.TauSqMetric == TauSqMetrics::spanOfEffects;
-    screen.pnlOmega(level).Visible = blocked && s.TauSqMetric == TauSqMetrics::omega;
+std::string armOf(const Study& s, CellForm form) {
+    switch (form) {
+    case CellForm::treatedArm:
+        return s.treatedName();
+    case CellForm::controlArm:
+        return s.controlName();
+    case CellForm::blocks:
+        return "Blocked";
+    case CellForm::plain:
+    case CellForm::model:
+        break;
+    }
+    return "";
 }
 
-void showCovariates(const Study& s, MainScreen& screen, int level) {
-    const bool shown = level > 1 || s.isMeans();
-    screen.pnlQ(level).Visible = screen.pnlRsq(level).Visible = shown;
-    screen.pnlModel(level).Visible = true;
-    screen.pnlModel(level).spinVisible = hasModelChoice(s, level);
-    screen.pnlPop(level).Visible = false;
+// The heading over a cell of the strip; the cells of the table stand under the heads of their columns.
+std::string headingOf(const Study& s, FieldRef ref) {
+    if (ref->index != FieldIndex::none)
+        return "";
+    return ref->cell.heading.empty() ? fieldWords(s, ref) : std::string(ref->cell.heading);
 }
 
-void hideRow(MainScreen& screen, int level) {
-    for (const LevelCellName& name : levelCells)
-        (screen.*name.cells)(level).Visible = false;
+void writeCell(const SessionState& state, FieldRef ref, const PerLevel<double>& models, Cell& cell) {
+    const FieldCell& form = ref->cell;
+    cell.number = numberText(state, ref, models);
+    cell.arm = armOf(state.study, form.form);
+    cell.heading = headingOf(state.study, ref);
+    cell.words = fieldWords(state.study, ref);
+    if (form.form == CellForm::blocks)
+        cell.Caption = cell.arm + " (" + cell.number + ")";
+    else if (!cell.arm.empty())
+        cell.Caption = cell.number + " (" + cell.arm + ")";
+    else
+        cell.Caption = blanks(form.blanksBefore) + cell.number + blanks(form.blanksBehind);
+}
+
+// A cell without arrows is the second of a linked pair where the field has a twin, and fixed otherwise.
+void showCell(const Study& s, FieldRef ref, Cell& cell) {
+    const FieldCell& form = ref->cell;
+    cell.Visible = form.shown == nullptr || form.shown(s, ref.index);
+    cell.spinVisible = form.hasArrows == nullptr || form.hasArrows(s, ref.index);
+    cell.state = cell.spinVisible    ? CellState::changeable
+                 : ref->twin.empty() ? CellState::fixed
+                                     : CellState::linked;
+}
+
+LevelRole roleOf(const Study& s, int level) {
+    if (level == s.RandomizedLevel)
+        return LevelRole::randomized;
+    return s.isBlocked(level) ? LevelRole::blocked : LevelRole::nested;
 }
 
 void showColumns(const Study& s, MainScreen& screen) {
@@ -115,23 +111,24 @@ void showColumns(const Study& s, MainScreen& screen) {
     screen.column(ColumnId::mSpan).heading.Caption = s.isMeans() ? "Span of\nmeans" : "Span of\nrisks";
 }
 
-void showStrip(const Study& s, MainScreen& screen) {
-    const bool means = s.isMeans();
-    const bool binary = !means;
-    for (Panel* panel : {static_cast<Panel*>(&screen.pnlD), static_cast<Panel*>(&screen.pnlMean),
-                         static_cast<Panel*>(&screen.pnlSD), &screen.lblD})
-        panel->Visible = means;
-    screen.pnldT.Visible = means && s.DType == DTypes::within;
-    screen.pnldW.Visible = means && s.DType == DTypes::total;
-    screen.pnlPrev.Visible = screen.lblPrev.Visible = screen.SSPanel10.Visible = binary;
-    screen.pnlOR.Visible = binary && s.BinaryType == BinaryTypes::oddsRatio;
-    screen.pnlRR.Visible = binary && s.BinaryType == BinaryTypes::riskRatio;
-    screen.pnlRD.Visible = binary && s.BinaryType == BinaryTypes::riskDifference;
-    screen.pnlP2.Visible = screen.lblP2.Visible = binary && s.BinaryType == BinaryTypes::twoRisks;
+void showHeads(MainScreen& screen) {
+    const auto shown = [&](ColumnId id) { return screen.column(id).heading.Visible; };
+    screen.standFor(HeadId::dispersion, shown(ColumnId::icc) ? ColumnId::icc : ColumnId::mSpan);
+    const ColumnId effects[] = {ColumnId::tauSq, ColumnId::dSpan, ColumnId::omega};
+    const auto* effect = std::find_if(std::begin(effects), std::end(effects), shown);
+    screen.head(HeadId::effect).Visible = effect != std::end(effects);
+    if (effect != std::end(effects))
+        screen.standFor(HeadId::effect, *effect);
 }
 
-std::string eventRateHeading(const std::string& group) {
-    return "Event rate in " + lowerCased(group) + " group";
+void showStrip(const Study& s, MainScreen& screen) {
+    const bool means = s.isMeans();
+    screen.lblD.Visible = means;
+    screen.pnldT.Visible = means && s.DType == DTypes::within;
+    screen.pnldW.Visible = means && s.DType == DTypes::total;
+    screen.lblOther.Visible = screen.pnlOther.Visible = means;
+    screen.lblPrev.Visible = screen.SSPanel10.Visible = !means;
+    screen.lblP2.Visible = !means && s.BinaryType == BinaryTypes::twoRisks;
 }
 
 }  // namespace
@@ -142,34 +139,50 @@ int GetCurrFmt(const Study& s) {
     return four ? 4 : 3;
 }
 
+void writeCells(const SessionState& state, const PerLevel<double>& models, MainScreen& screen) {
+    const Study& s = state.study;
+    for (FieldCells& cells : screen.fields) {
+        const IndexRange indices = indicesOf(*cells.field);
+        for (int i = indices.first; i <= indices.last; ++i) {
+            const FieldRef ref{cells.field, i};
+            if (i > s.NumLevels) {
+                cells(i) = Cell();
+                cells(i).Visible = false;
+                continue;
+            }
+            writeCell(state, ref, models, cells(i));
+            showCell(s, ref, cells(i));
+        }
+    }
+}
+
 void writeStrip(const Study& s, MainScreen& screen) {
-    const int decimals = GetCurrFmt(s);
-    const std::pair<Cell*, double> cells[] = {{&screen.pnlD, s.txtd},   {&screen.pnlMean, s.txtMean},
-                                              {&screen.pnlSD, s.txtSD}, {&screen.pnlPrev, s.txtPrev},
-                                              {&screen.pnlP2, s.txtP2}, {&screen.pnlOR, s.txtOR},
-                                              {&screen.pnlRR, s.txtRR}, {&screen.pnlRD, s.txtRD}};
-    for (const auto& [cell, value] : cells)
-        writeNumber(*cell, 0, fixedText(value, decimals));
-    screen.lblPrev.Caption = eventRateHeading(s.controlName());
-    screen.lblP2.Caption = eventRateHeading(s.treatedName());
-    screen.lblD.Caption = s.DType == DTypes::within ? "Standardized mean difference, d (within)"
-                                                    : "Standardized mean difference, d (total)";
+    screen.lblPrev.Caption = screen.cell("pnlPrev").heading;
+    screen.lblP2.Caption = screen.cell("pnlP2").heading;
+    screen.lblD.Caption = screen.cell("pnlD").heading;
+    screen.lblOther.Caption = s.DType == DTypes::within ? "d (total)" : "d (within)";
     screen.pnlAlphaTails.Caption = alphaTailsText(s);
+    showStrip(s, screen);
 }
 
 std::string alphaTailsText(const Study& s) {
-    if (s.txtTails != 1 && s.txtTails != 2)
-        return "";
-    return "Alpha = " + fixedText(s.txtAlpha, 3) + (s.txtTails == 1 ? ", one-tailed" : ", two-tailed");
+    return "Alpha = " + fixedText(s.txtAlpha, 3) +
+           (s.txtTails == Tails::one ? ", one-tailed" : ", two-tailed");
 }
 
-void writeRows(const Study& s, const SessionSettings& settings, MainScreen& screen) {
-    for (int level = 1; level <= s.NumLevels; ++level)
-        writeRow(s, settings.currency, screen, level);
+void writeTable(const Study& s, MainScreen& screen) {
+    for (int level = lowestLevel; level <= highestLevel; ++level) {
+        screen.BpnlLevel(level).Visible = level <= s.NumLevels;
+        screen.roles(level) = roleOf(s, level);
+        screen.pnlLevel(level).Caption = std::string("(") + roleWord(screen.roles(level)) + ")";
+        screen.pnlName(level).Caption = s.txtName(level);
+    }
+    showColumns(s, screen);
+    showHeads(screen);
 }
 
 void writeDiagnostics(const Study& s, MainScreen& screen) {
-    if (!s.isMeans() || s.isHierarchical() || s.result.xValid == 0)
+    if (!s.isMeans() || s.isHierarchical() || !s.result.xValid)
         return;
     std::string values;
     for (int level = s.RandomizedLevel + 1; level <= s.NumLevels; ++level) {
@@ -181,39 +194,23 @@ void writeDiagnostics(const Study& s, MainScreen& screen) {
 }
 
 void writeOtherForm(const Study& s, MainScreen& screen) {
-    if (withinShare(s) <= 0)
-        return;
-    if (s.DType == DTypes::within)
-        screen.pnldT.Caption = fixedText(GetDT(s), decimalsOfOtherForm);
-    else
-        screen.pnldW.Caption = fixedText(GetDW(s), decimalsOfOtherForm);
+    const bool within = s.DType == DTypes::within;
+    Panel& other = within ? screen.pnldT : screen.pnldW;
+    if (withinShare(s) > 0)
+        other.Caption = fixedText(within ? GetDT(s) : GetDW(s), decimalsOfOtherForm);
+    screen.pnlOther.Caption = other.Caption;
 }
 
-void writeWords(const Study& s, const SessionSettings& settings, MainScreen& screen) {
-    screen.pnlMaxCost.Caption = costText(s.MaxCost, settings.currency);
+void writeWords(const SessionState& state, MainScreen& screen) {
+    const Study& s = state.study;
+    screen.pnlMaxCost.Caption = screen.pnlCost.high = amountText(s.MaxCost, state.settings.currency);
     screen.pnlTitle.Caption = designTitle(s);
     screen.pnlSense.Caption = designSentence(s);
     screen.pnlPowerNote.Caption = powerNote(s);
-    screen.powerIsReached = s.result.xValid == 1 && s.result.txtPower >= s.ReqPower;
+    screen.powerIsReached = s.result.xValid && s.result.txtPower >= s.ReqPower;
     screen.pnlPowerTick.Flood = s.ReqPower * 100;
     screen.pnlPowerTick.Caption = shortestText(roundHalfToEven(s.ReqPower * 100)) + "% required";
     screen.pnlCostNote.Caption = unitsNote(s);
-}
-
-void writeVisibility(const Study& s, MainScreen& screen) {
-    for (int level = lowestLevel; level <= highestLevel; ++level) {
-        const bool used = level <= s.NumLevels;
-        screen.BpnlLevel(level).Visible = used;
-        if (!used) {
-            hideRow(screen, level);
-            continue;
-        }
-        showSizes(s, screen, level);
-        showDispersion(s, screen, level);
-        showCovariates(s, screen, level);
-    }
-    showColumns(s, screen);
-    showStrip(s, screen);
 }
 
 }  // namespace lorvane

@@ -1,24 +1,26 @@
-// Writes the study onto the table of levels and the effect strip: captions at every refresh, visibility when
-// the shape or a mode of the study changes.
+// Writes the session onto the table of levels and the effect strip: captions, visibility, roles, words.
 #pragma once
 
-#include "engine/study.h"
 #include "screen/main_screen.h"
-#include "screen/session_settings.h"
+#include "session/session_state.h"
 
 namespace lorvane {
 
 /// Decimals of all panels of the effect strip: 3, or 4 when one of the rates and ratios shows 4.
 int GetCurrFmt(const Study& study);
 
-/// The captions of the effect strip and its headings.
+/// The cells of all fields: what they show, which of them show, and which have arrows. The models are those
+/// that the computation read, which a file may have set where they are always random.
+void writeCells(const SessionState& state, const PerLevel<double>& models, MainScreen& screen);
+
+/// Headings and derived texts of the effect strip, after its cells.
 void writeStrip(const Study& study, MainScreen& screen);
 
-/// "Alpha = 0.050, two-tailed"; empty for other tails.
+/// "Alpha = 0.050, two-tailed".
 std::string alphaTailsText(const Study& study);
 
-/// The captions of the rows of the levels in use.
-void writeRows(const Study& study, const SessionSettings& settings, MainScreen& screen);
+/// Rows, roles and headings of the table of levels.
+void writeTable(const Study& study, MainScreen& screen);
 
 /// The tau-squared values that the last computation took, the lowest blocked level first.
 void writeDiagnostics(const Study& study, MainScreen& screen);
@@ -27,9 +29,6 @@ void writeDiagnostics(const Study& study, MainScreen& screen);
 void writeOtherForm(const Study& study, MainScreen& screen);
 
 /// Title, sentence and the quiet lines under power and cost.
-void writeWords(const Study& study, const SessionSettings& settings, MainScreen& screen);
-
-/// Which rows, cells, arrows and columns are shown, and the headings that follow the modes.
-void writeVisibility(const Study& study, MainScreen& screen);
+void writeWords(const SessionState& state, MainScreen& screen);
 
 }  // namespace lorvane

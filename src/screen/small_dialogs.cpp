@@ -3,25 +3,47 @@
 
 #include <algorithm>
 #include <cmath>
+#include <utility>
 
 #include "base/names.h"
 #include "base/number_text.h"
-#include "screen/ask_to_apply.h"
-#include "screen/commands.h"
-#include "screen/field_words.h"
+#include "screen/questions.h"
+#include "session/assignments.h"
+#include "session/field_words.h"
+#include "session/structure.h"
 
 namespace lorvane {
 
 namespace {
 
-constexpr double smallestAlpha = 0.001;
-constexpr double largestAlpha = 0.49;
-constexpr double smallestDelta = 0.0001;
-constexpr double largestDelta = 0.1;
-constexpr double spanOfOneSd = 4;
 constexpr int mostDecimals = 4;
-
 constexpr const char* notANumber = "Please enter a number              ";
+
+constexpr const char* alphaBox = "frmAlpha.txtAlpha";
+constexpr const char* deltaBox = "frmDelta.txtDelta";
+constexpr const char* meanBox = "frmSetMean.txtMean";
+constexpr const char* spanBox = "frmSetMean.txtSpan";
+constexpr const char* maxCostBox = "txtMaxCost";
+constexpr const char* valueBox = "frmValue.txtValue";
+
+std::string groupBox(int group) { return indexedName("frmGroupNames.txtGroupName", group); }
+std::string levelBox(int level) { return indexedName("frmLevelNames.txtLevelNames", level); }
+std::string lowerBox(int level) { return indexedName("frmLimits.txtLL", level); }
+std::string upperBox(int level) { return indexedName("frmLimits.txtUL", level); }
+
+Panel panel(std::string caption) {
+    Panel made;
+    made.Caption = std::move(caption);
+    return made;
+}
+
+DialogField field(std::string control, Panel label = {}, std::string labelName = {}) {
+    DialogField made;
+    made.control = std::move(control);
+    made.label = std::move(label);
+    made.labelName = std::move(labelName);
+    return made;
+}
 
 // Decimals of a number as it was typed, 0 to 4.
 int typedDecimals(const std::string& text) {
@@ -39,398 +61,488 @@ const char* levelRole(int level, int levels) {
     return level == levels ? "Cluster" : "Next level";
 }
 
-// Only a value that arrows can move has a dialog of its own.
-bool hasArrows(const std::string& field) {
-    const SpinRows rows = spinRows();
-    const std::string_view stem = splitName(field).stem;
-    return std::any_of(rows.begin(), rows.end(), [&](const SpinRow& row) { return row.field == stem; });
+std::string typedName(const TextBox& box) { return std::string(trimmed(box.Text)); }
+
+std::string capitalised(std::string text) {
+    text[0] = static_cast<char>(text[0] - 'a' + 'A');
+    return text;
 }
 
-std::string typedName(const TextBox& box) { return std::string(trimmed(box.Text)); }
+// "From 0.001 to 0.49"
+std::string rangeWords(std::string_view field) { return capitalised(fieldOf(field).limits.words()); }
+
+// A share as the messages write it, ".49".
+std::string pointNumber(double share) { return shortestText(share).substr(1); }
 
 }  // namespace
 
-bool SmallDialogs::refuse(const std::string& title, const std::string& text) {
-    design_.ask(title, text);
-    return false;
+// Words
+// --------------------------------------------------------------------------------------------------------
+
+SmallDialogs::SmallDialogs(Design& design)
+    : design_(design), session_(design.session()), alpha_(makeAlpha()), delta_(makeDelta()),
+      mean_(makeMean()), groupNames_(makeGroupNames()), levelNames_(makeLevelNames()), limits_(makeLimits()),
+      maxCost_(makeMaxCost()), example_(makeExample()), value_(makeValue()) {}
+
+Dialog SmallDialogs::makeAlpha() {
+    return {"frmAlpha",
+            WindowId::frmAlpha,
+            "pnlLimits",
+            {field(alphaBox, panel("Alpha"))},
+            {{"frmAlpha.cmdOK", "OK", [this] { applyAlpha(); }}},
+            false,
+            panel("Alpha"),
+            panel("The criterion for statistical significance"),
+            panel(rangeWords("txtAlpha"))};
 }
+
+Dialog SmallDialogs::makeDelta() {
+    return {"frmDelta",
+            WindowId::frmDelta,
+            "pnlLimits",
+            {field(deltaBox, panel("Distance"))},
+            {{"frmDelta.Command1", "OK", [this] { applyDelta(); }}},
+            false,
+            panel("Limits for risks"),
+            panel("The smallest distance of any risk from 0 and from 1"),
+            panel(rangeWords("txtDelta"))};
+}
+
+Dialog SmallDialogs::makeMean() {
+    return {"frmSetMean",
+            WindowId::frmSetMean,
+            "pnlExplain",
+            {field(meanBox, panel("Overall mean"), "frmSetMean.pnlHeading"), field(spanBox, panel("Span"))},
+            {{"frmSetMean.cmdCancel", "Cancel", [this] { close(mean_); }},
+             {"frmSetMean.cmdOK", "OK", [this] { applyMean(); }}}};
+}
+
+Dialog SmallDialogs::makeGroupNames() {
+    return {"frmGroupNames",
+            WindowId::frmGroupNames,
+            "pnlLimits",
+            {field(groupBox(1)), field(groupBox(2))},
+            {{"frmGroupNames.cmdGroupNames(1)", "Cancel", [this] { close(groupNames_); }},
+             {"frmGroupNames.cmdGroupNames(0)", "Apply", [this] { applyGroupNames(); }}},
+            false,
+            panel("Group names"),
+            panel("The names are used in labels only")};
+}
+
+Dialog SmallDialogs::makeLevelNames() {
+    Dialog dialog{"frmLevelNames",
+                  WindowId::frmLevelNames,
+                  "pnlLimits",
+                  {},
+                  {{"frmLevelNames.cmdLevelNames(1)", "Cancel", [this] { close(levelNames_); }},
+                   {"frmLevelNames.cmdLevelNames(0)", "Apply", [this] { applyLevelNames(); }}},
+                  false,
+                  panel("Level names"),
+                  panel("Name the units of every level, in the plural")};
+    for (int level = highestLevel; level >= lowestLevel; --level)
+        dialog.fields.push_back(field(levelBox(level), {}, indexedName("frmLevelNames.pnlLabel", level)));
+    return dialog;
+}
+
+Dialog SmallDialogs::makeLimits() {
+    Dialog dialog{"frmLimits",
+                  std::nullopt,
+                  "pnlLimits",
+                  {},
+                  {{"frmLimits.Command2", "Use spans", [this] { enterRisksAs(RangeModes::span); }},
+                   {"frmLimits.Command3", "Use limits", [this] { enterRisksAs(RangeModes::limits); }},
+                   {"frmLimits.Command1", "Apply", [this] { applyLimits(); }}},
+                  false,
+                  panel("Limits of risks"),
+                  panel("Enter the lower and the upper limit of the risks at each level")};
+    for (int level = highestLevel; level >= 2; --level) {
+        dialog.fields.push_back(field(lowerBox(level)));
+        dialog.fields.push_back(field(upperBox(level)));
+    }
+    return dialog;
+}
+
+Dialog SmallDialogs::makeMaxCost() {
+    return {"pic",
+            std::nullopt,
+            "pnlLimits",
+            {field(maxCostBox, panel("Maximum cost"))},
+            {{"cmdSetMaxCost(1)", "Cancel", [this] { close(maxCost_); }},
+             {"cmdSetMaxCost(0)", "Apply", [this] { applyMaxCost(); }}},
+            false,
+            panel("Set the maximum possible cost"),
+            panel("The program will display the current cost as a percentage of the value"),
+            panel("This affects the display only, and has no impact on the computations.")};
+}
+
+Dialog SmallDialogs::makeExample() {
+    return {"frmOD",
+            std::nullopt,
+            "pnlLimits",
+            {},
+            {{"frmOD.optA", "Use the example", [this] { applyExample(); }}},
+            false,
+            panel("Example of the optimal design"),
+            panel("Two levels, randomized at the top"),
+            panel("The present levels are replaced.")};
+}
+
+Dialog SmallDialogs::makeValue() {
+    return {"frmValue",
+            std::nullopt,
+            "pnlLimits",
+            {field(valueBox)},
+            {{"frmValue.cmdCancel", "Cancel", [this] { close(value_); }},
+             {"frmValue.cmdOK", "OK", [this] { applyValue(); }}},
+            false,
+            {},
+            panel("Enter a value")};
+}
+
+// Windows
+// ------------------------------------------------------------------------------------------------------
+
+template <typename Self>
+auto SmallDialogs::listOf(Self& self) {
+    return std::vector{&self.alpha_,  &self.delta_,   &self.mean_,    &self.groupNames_, &self.levelNames_,
+                       &self.limits_, &self.maxCost_, &self.example_, &self.value_};
+}
+
+std::vector<Dialog*> SmallDialogs::dialogs() { return listOf(*this); }
+
+std::vector<const Dialog*> SmallDialogs::all() const { return listOf(*this); }
+
+bool SmallDialogs::isOpen(const Dialog& dialog) const {
+    return dialog.window ? design_.isOpen(*dialog.window) : dialog.open;
+}
+
+void SmallDialogs::show(Dialog& dialog) {
+    if (dialog.window)
+        design_.SynchForms(*dialog.window, WindowAction::open);
+    dialog.open = true;
+}
+
+void SmallDialogs::close(Dialog& dialog) {
+    if (dialog.window)
+        design_.SynchForms(*dialog.window, WindowAction::unload);
+    dialog.open = false;
+}
+
+void SmallDialogs::refuse(const Dialog& dialog, const std::string& text) {
+    design_.ask(dialog.title.Caption, text);
+}
+
+bool SmallDialogs::holds(std::string_view field, double value) const {
+    return limitsOf(session_.study(), fieldOf(field)).holds(value);
+}
+
+// Alpha and the limits of all risks
+// ----------------------------------------------------------------------------
 
 void SmallDialogs::openAlpha() {
-    alpha_.Text = shortestText(design_.study().txtAlpha);
-    open(WindowId::frmAlpha);
+    alpha_.box(alphaBox).Text = shortestText(session_.study().txtAlpha);
+    show(alpha_);
 }
 
-bool SmallDialogs::applyAlpha() {
-    const auto alpha = readNumber(alpha_.Text);
+void SmallDialogs::applyAlpha() {
+    const Field& field = fieldOf("txtAlpha");
+    const auto alpha = readNumber(alpha_.box(alphaBox).Text);
     if (!alpha)
-        return refuse("Alpha", notANumber);
-    if (*alpha < smallestAlpha)
-        return refuse("Alpha", "Alpha must be .001 or higher         ");
-    if (*alpha > largestAlpha)
-        return refuse("Alpha", "Alpha must be .49 or lower         ");
-    design_.study().txtAlpha = *alpha;
-    close(WindowId::frmAlpha);
-    design_.DoRefresh(true);
-    return true;
+        refuse(alpha_, notANumber);
+    else if (*alpha < field.limits.low)
+        refuse(alpha_, "Alpha must be " + pointNumber(field.limits.low) + " or higher         ");
+    else if (*alpha > field.limits.high)
+        refuse(alpha_, "Alpha must be " + pointNumber(field.limits.high) + " or lower         ");
+    else {
+        close(alpha_);
+        enterValue(session_, {&field, 0}, *alpha);
+    }
 }
 
 void SmallDialogs::openDelta() {
-    delta_.Text = fixedText(design_.study().limits.txtDelta, 4);
-    open(WindowId::frmDelta);
+    delta_.box(deltaBox).Text = fixedText(session_.study().limits.txtDelta, 4);
+    show(delta_);
 }
 
 void SmallDialogs::applyDelta() {
-    const auto delta = readNumber(delta_.Text);
+    const Field& field = fieldOf("txtDelta");
+    TextBox& box = delta_.box(deltaBox);
+    const auto delta = readNumber(box.Text);
     if (!delta) {
-        refuse("Limits", notANumber);
+        design_.ask("Limits", notANumber);
         return;
     }
-    const double held = std::clamp(*delta, smallestDelta, largestDelta);
-    if (held != *delta) {
-        delta_.Text = fixedText(held, 4);
-        refuse("Limits", "Value has been reset to " + delta_.Text);
+    if (!field.limits.holds(*delta)) {
+        box.Text = fixedText(std::clamp(*delta, field.limits.low, field.limits.high), 4);
+        design_.ask("Limits", "Value has been reset to " + box.Text);
         return;
     }
-    design_.study().limits.txtDelta = *delta;
-    close(WindowId::frmDelta);
-    design_.DoRefresh(true);
+    close(delta_);
+    enterValue(session_, {&field, 0}, *delta);
 }
 
-bool SmallDialogs::holds(const char* field, double value) const {
-    return design_.fields().limitsOf(*design_.fields().find(field)).holds(value);
-}
+// Mean and span
+// ------------------------------------------------------------------------------------------------
 
 void SmallDialogs::openMean() {
-    const Study& s = design_.study();
+    const Study& s = session_.study();
     const std::string& control = s.controlName();
     mean_.title.Caption = "Set " + control + " group mean and span";
-    mean_.prompt.Caption = "Enter values for the " + control + " group";
-    mean_.heading.Caption = "Overall mean";
-    mean_.txtMean.Text = shortestText(s.txtMean);
-    mean_.txtSpan.Text = shortestText(s.txtMRange(1));
-    mean_.explanation.Caption = "Span of scores for " + s.txtName(1) +
-                                ". The span is 4 standard deviations. This span implies that the standard "
-                                "deviation of scores within " +
-                                control + " is " + shortestText(s.txtSD) + ".";
-    open(WindowId::frmSetMean);
+    mean_.sense.Caption = "Enter values for the " + control + " group";
+    mean_.box(meanBox).Text = shortestText(s.txtMean);
+    mean_.box(spanBox).Text = shortestText(s.txtMRange(1));
+    mean_.note.Caption = "Span of scores for " + s.txtName(1) +
+                         ". The span is 4 standard deviations. This span implies that the standard "
+                         "deviation of scores within " +
+                         control + " is " + shortestText(s.txtSD) + ".";
+    show(mean_);
 }
 
 void SmallDialogs::applyMean() {
-    const auto mean = readNumber(mean_.txtMean.Text);
-    const auto span = readNumber(mean_.txtSpan.Text);
+    const std::string& meanText = mean_.box(meanBox).Text;
+    const std::string& spanText = mean_.box(spanBox).Text;
+    const auto mean = readNumber(meanText);
+    const auto span = readNumber(spanText);
     if (!mean || !span) {
-        refuse(mean_.title.Caption, notANumber);
+        refuse(mean_, notANumber);
         return;
     }
     if (!holds("txtMean", *mean) || !holds("txtSD", *span / spanOfOneSd)) {
-        refuse(mean_.title.Caption, "Please enter a mean and a span that scores can have              ");
+        refuse(mean_, "Please enter a mean and a span that scores can have              ");
         return;
     }
-    Study& s = design_.study();
-    s.txtMean = *mean;
-    s.decimals.txtMean = typedDecimals(mean_.txtMean.Text);
-    s.txtMRange(1) = *span;
-    s.decimals.txtMRange = typedDecimals(mean_.txtSpan.Text);
-    s.txtSD = *span / spanOfOneSd;
-    s.decimals.txtSD = s.decimals.txtMRange;
-    close(WindowId::frmSetMean);
-    design_.DoRefresh(true);
+    close(mean_);
+    session_.edit({"mean and span"}, [&](SessionState& state) {
+        Study& s = state.study;
+        s.txtMean = *mean;
+        s.decimals.txtMean = typedDecimals(meanText);
+        s.txtMRange(1) = *span;
+        s.decimals.txtMRange = typedDecimals(spanText);
+        s.txtSD = *span / spanOfOneSd;
+        s.decimals.txtSD = s.decimals.txtMRange;
+    });
 }
 
+// Names
+// --------------------------------------------------------------------------------------------------------
+
 void SmallDialogs::openGroupNames() {
-    for (int group = 1; group <= 2; ++group)
-        groupNames_(group).Text = design_.study().txtGroupName(group);
-    open(WindowId::frmGroupNames);
+    for (int group = 1; group <= 2; ++group) {
+        DialogField& shown = groupNames_.fields[static_cast<std::size_t>(group - 1)];
+        shown.box.Text = shown.label.Caption = session_.study().txtGroupName(group);
+    }
+    show(groupNames_);
 }
 
 bool SmallDialogs::groupNamesChanged() const {
-    const Study& s = design_.study();
-    return groupNames_(1).Text != s.txtGroupName(1) || groupNames_(2).Text != s.txtGroupName(2);
+    const Study& s = session_.study();
+    return groupNames_.box(groupBox(1)).Text != s.txtGroupName(1) ||
+           groupNames_.box(groupBox(2)).Text != s.txtGroupName(2);
 }
 
-bool SmallDialogs::applyGroupNames() {
-    const std::string treated = typedName(groupNames_(1));
-    const std::string control = typedName(groupNames_(2));
-    if (treated == control)
-        return refuse("Group names", "Please use a unique name for each group              ");
-    design_.study().txtGroupName(1) = treated;
-    design_.study().txtGroupName(2) = control;
-    close(WindowId::frmGroupNames);
-    design_.DoRefresh(true);
-    return true;
+void SmallDialogs::applyGroupNames() {
+    const std::string treated = typedName(groupNames_.box(groupBox(1)));
+    const std::string control = typedName(groupNames_.box(groupBox(2)));
+    if (treated == control) {
+        refuse(groupNames_, "Please use a unique name for each group              ");
+        return;
+    }
+    close(groupNames_);
+    session_.edit({"group names"}, [&](SessionState& state) {
+        state.study.txtGroupName(1) = treated;
+        state.study.txtGroupName(2) = control;
+    });
 }
 
 void SmallDialogs::openLevelNames() {
-    const Study& s = design_.study();
+    const Study& s = session_.study();
     for (int level = lowestLevel; level <= highestLevel; ++level) {
         const bool used = level <= s.NumLevels;
-        levelNames_(level) = {s.txtName(level), used, used};
-        levelLabels_(level).Caption = levelRole(level, s.NumLevels);
-        levelLabels_(level).Visible = used;
+        DialogField& shown = levelNames_.fields[static_cast<std::size_t>(highestLevel - level)];
+        shown.box = {s.txtName(level), used, used};
+        shown.label.Caption = levelRole(level, s.NumLevels);
+        shown.label.Visible = used;
     }
-    open(WindowId::frmLevelNames);
+    show(levelNames_);
 }
 
 bool SmallDialogs::levelNamesChanged() const {
-    const Study& s = design_.study();
+    const Study& s = session_.study();
     for (int level = lowestLevel; level <= s.NumLevels; ++level) {
-        if (levelNames_(level).Text != s.txtName(level))
+        if (levelNames_.box(levelBox(level)).Text != s.txtName(level))
             return true;
     }
     return false;
 }
 
-bool SmallDialogs::applyLevelNames() {
-    Study& s = design_.study();
-    for (int level = lowestLevel; level <= s.NumLevels; ++level) {
-        for (int other = level + 1; other <= s.NumLevels; ++other) {
-            if (typedName(levelNames_(level)) == typedName(levelNames_(other)))
-                return refuse("Level names", "Please use a unique name for each level              ");
+void SmallDialogs::applyLevelNames() {
+    const int levels = session_.study().NumLevels;
+    PerLevel<std::string> names;
+    for (int level = lowestLevel; level <= levels; ++level) {
+        names(level) = typedName(levelNames_.box(levelBox(level)));
+        for (int other = lowestLevel; other < level; ++other) {
+            if (names(level) == names(other)) {
+                refuse(levelNames_, "Please use a unique name for each level              ");
+                return;
+            }
         }
     }
-    for (int level = lowestLevel; level <= s.NumLevels; ++level)
-        s.txtName(level) = typedName(levelNames_(level));
-    close(WindowId::frmLevelNames);
-    design_.DoRefresh(true);
-    return true;
+    close(levelNames_);
+    session_.edit({"level names"}, [&](SessionState& state) {
+        for (int level = lowestLevel; level <= levels; ++level)
+            state.study.txtName(level) = names(level);
+    });
 }
 
-void SmallDialogs::closeNames(WindowId window, bool changed, bool (SmallDialogs::*apply)()) {
+void SmallDialogs::closeAsking(Dialog& dialog, bool changed, const std::string& question,
+                               void (SmallDialogs::*apply)()) {
     if (changed)
-        askToApply(design_, window, applyNamesQuestion, [this, apply] { (this->*apply)(); });
+        askToApply(design_, *dialog.window, question, [this, apply] { (this->*apply)(); });
     else
-        close(window);
+        close(dialog);
 }
+
+// Limits of risks by level
+// -------------------------------------------------------------------------------------
 
 void SmallDialogs::openLimits() {
-    const Study& s = design_.study();
+    const Study& s = session_.study();
     for (int level = 2; level <= highestLevel; ++level) {
         const bool used = level <= s.NumLevels;
-        limits_.txtLL(level) = {shortestText(s.limits.txtLL(level)), used, used};
-        limits_.txtUL(level) = {shortestText(s.limits.txtUL(level)), used, used};
+        limits_.box(lowerBox(level)) = {shortestText(s.limits.txtLL(level)), used, used};
+        limits_.box(upperBox(level)) = {shortestText(s.limits.txtUL(level)), used, used};
+        const std::size_t first = 2 * static_cast<std::size_t>(highestLevel - level);
+        limits_.fields[first].label.Caption = s.txtName(level) + ", lower limit";
+        limits_.fields[first + 1].label.Caption = s.txtName(level) + ", upper limit";
     }
-    limitsOpen_ = true;
+    show(limits_);
 }
 
 void SmallDialogs::applyLimits() {
-    if (!limitsOpen_)
-        return;
-    Study& s = design_.study();
-    for (int level = 2; level <= s.NumLevels; ++level) {
-        if (!readNumber(limits_.txtLL(level).Text) || !readNumber(limits_.txtUL(level).Text)) {
-            refuse("Limits", notANumber);
+    const int levels = session_.study().NumLevels;
+    for (int level = 2; level <= levels; ++level) {
+        if (!readNumber(limits_.box(lowerBox(level)).Text) ||
+            !readNumber(limits_.box(upperBox(level)).Text)) {
+            design_.ask("Limits", notANumber);
             return;
         }
     }
-    for (int level = 2; level <= s.NumLevels; ++level) {
-        s.limits.txtLL(level) = *readNumber(limits_.txtLL(level).Text);
-        s.limits.txtUL(level) = *readNumber(limits_.txtUL(level).Text);
-    }
-    design_.DoRefresh(true);
+    session_.edit({"limits of risks"}, [&](SessionState& state) {
+        for (int level = 2; level <= levels; ++level) {
+            state.study.limits.txtLL(level) = *readNumber(limits_.box(lowerBox(level)).Text);
+            state.study.limits.txtUL(level) = *readNumber(limits_.box(upperBox(level)).Text);
+        }
+    });
 }
 
 // Chooses how the risks of a level are entered, and closes the dialog.
-void SmallDialogs::enterRisksAs(int rangeMode) {
-    design_.study().limits.RangeMode = rangeMode;
-    limitsOpen_ = false;
-    design_.DoRefresh(true);
+void SmallDialogs::enterRisksAs(RangeModes mode) {
+    close(limits_);
+    session_.edit({"entry of risks"}, [&](SessionState& state) { state.study.limits.RangeMode = mode; });
 }
 
+void SmallDialogs::enterIcc() {
+    close(limits_);
+    lorvane::enterIcc(session_);
+}
+
+void SmallDialogs::enterLimits() {
+    enterSpan(session_, RangeModes::limits);
+    openLimits();
+}
+
+// Top of the cost bar
+// ------------------------------------------------------------------------------------------
+
 void SmallDialogs::openMaxCost() {
-    maxCost_.Text = shortestText(design_.study().MaxCost);
-    maxCostOpen_ = true;
+    maxCost_.box(maxCostBox).Text = shortestText(session_.study().MaxCost);
+    show(maxCost_);
 }
 
 void SmallDialogs::applyMaxCost() {
-    if (!maxCostOpen_)
-        return;
-    const auto cost = readNumber(maxCost_.Text);
-    const StudyField& field = *design_.fields().find("MaxCost");
-    if (!cost || !design_.fields().limitsOf(field).holds(*cost)) {
-        refuse("Set maximum cost", "Please enter a cost " + field.limits.words() + "              ");
+    const auto cost = readNumber(maxCost_.box(maxCostBox).Text);
+    if (!cost || !holds("MaxCost", *cost)) {
+        design_.ask("Set maximum cost",
+                    "Please enter a cost " + fieldOf("MaxCost").limits.words() + "              ");
         return;
     }
-    design_.study().MaxCost = *cost;
-    maxCostOpen_ = false;
-    design_.DoRefresh(true);
+    close(maxCost_);
+    design_.setMaxCost(*cost);
 }
 
-void SmallDialogs::openValue(const std::string& field) {
-    const StudyField* found = design_.fields().find(field);
-    if (found == nullptr || !hasArrows(field))
-        return;
-    const double value = std::get<double>(readField(*found));
-    const int decimals = found->FmtDecDigits == nullptr ? 0 : *found->FmtDecDigits;
-    value_.field = field;
-    value_.title.Caption = fieldWords(design_.study(), field);
-    value_.sense.Caption = "Enter a value";
-    value_.limits.Caption = (found->FmtDecDigits == nullptr ? "A whole number " : "A number ") +
-                            design_.fields().limitsOf(*found).words();
-    value_.txtValue.Text = decimals == 0 ? shortestText(value) : fixedText(value, decimals);
-    valueOpen_ = true;
+// The example of the optimal design, whose chooser has one option
+// ----------------------------------------------
+
+void SmallDialogs::openExample() { show(example_); }
+
+void SmallDialogs::applyExample() {
+    close(example_);
+    ResetForOD(session_);
+}
+
+// One value
+// ----------------------------------------------------------------------------------------------------
+
+void SmallDialogs::activate(FieldRef field) {
+    if (field->arrows == ArrowRule::byStep)
+        openValue(field);
+    else if (field->arrows == ArrowRule::twoStates)
+        stepField(session_, field, readNumberField(session_.state(), field) == 1 ? -1 : 1);
+}
+
+void SmallDialogs::openValue(FieldRef field) {
+    const Study& s = session_.study();
+    const double value = readNumberField(session_.state(), field);
+    const int decimals = decimalsOf(s, *field.field);
+    valueField_ = field;
+    value_.title.Caption = value_.fields[0].label.Caption = fieldWords(s, field);
+    value_.note.Caption =
+        (field->decimals == nullptr ? "A whole number " : "A number ") + limitsOf(s, *field.field).words();
+    value_.box(valueBox).Text = decimals == 0 ? shortestText(value) : fixedText(value, decimals);
+    show(value_);
 }
 
 void SmallDialogs::applyValue() {
-    if (!valueOpen_)
-        return;
-    const StudyField& field = *design_.fields().find(value_.field);
-    const auto number = readNumber(value_.txtValue.Text);
-    const FieldLimits limits = design_.fields().limitsOf(field);
-    const bool whole = field.FmtDecDigits == nullptr;
+    const auto number = readNumber(value_.box(valueBox).Text);
+    const FieldLimits limits = limitsOf(session_.study(), *valueField_.field);
+    const bool whole = valueField_->decimals == nullptr;
     if (!number || !limits.holds(*number) || (whole && *number != std::floor(*number))) {
-        refuse(value_.title.Caption, std::string("Please enter a ") + (whole ? "whole number " : "number ") +
-                                         limits.words() + "              ");
+        refuse(value_, std::string("Please enter a ") + (whole ? "whole number " : "number ") +
+                           limits.words() + "              ");
         return;
     }
-    valueOpen_ = false;
-    design_.setValue(field.name, *number);
+    close(value_);
+    enterValue(session_, valueField_, *number);
 }
 
+// Names and events
+// ---------------------------------------------------------------------------------------------
+
 void SmallDialogs::registerNames(ControlRegistry& registry) const {
-    registry.add("frmAlpha.txtAlpha.Text", &alpha_.Text);
-    registry.add("frmDelta.txtDelta.Text", &delta_.Text);
-    registry.add("frmSetMean.Caption", &mean_.title.Caption);
-    registry.add("frmSetMean.pnlPrompt", mean_.prompt);
-    registry.add("frmSetMean.pnlHeading", mean_.heading);
-    registry.add("frmSetMean.pnlExplain", mean_.explanation);
-    registry.add("frmSetMean.txtMean.Text", &mean_.txtMean.Text);
-    registry.add("frmSetMean.txtSpan.Text", &mean_.txtSpan.Text);
-    for (int group = 1; group <= 2; ++group)
-        registry.add(indexedName("frmGroupNames.txtGroupName", group) + ".Text", &groupNames_(group).Text);
-    for (int level = lowestLevel; level <= highestLevel; ++level) {
-        registry.add(indexedName("frmLevelNames.txtLevelNames", level) + ".Text", &levelNames_(level).Text);
-        registry.add(indexedName("frmLevelNames.pnlLabel", level), levelLabels_(level));
-    }
-    registry.add("txtMaxCost.Text", &maxCost_.Text);
-    registry.add("pic.Visible", &maxCostOpen_);
-    registry.add("frmLimits.Visible", &limitsOpen_);
-    registry.add("frmValue.Visible", &valueOpen_);
-    registry.add("frmOD.Visible", &exampleOpen_);
-    registry.add("frmSpreadICC.Visible", &spreadICCOpen_);
-    registry.add("frmSpreadTauSq.Visible", &spreadTauSqOpen_);
-    registry.add("frmValue.Caption", &value_.title.Caption);
-    registry.add("frmValue.pnlLimits", value_.limits);
-    registry.add("frmValue.txtValue.Text", &value_.txtValue.Text);
+    for (const Dialog* dialog : all())
+        dialog->registerNames(registry);
+    for (const RawTable* table : {&spreadICC_, &spreadTauSq_})
+        registry.add(std::string(table->name) + ".Visible", &table->open);
 }
 
 void SmallDialogs::registerEvents(EventRegistry& events) {
-    registerNumbers(events);
-    registerMean(events);
-    registerNameDialogs(events);
-    registerLimits(events);
-    registerMaxCost(events);
-    registerValue(events);
-    registerExample(events);
-    registerRawTables(events);
-}
-
-// The chooser of the example of the optimal design has one option.
-void SmallDialogs::registerExample(EventRegistry& events) {
-    events.onTool("OD", [this] { exampleOpen_ = true; });
-    events.onClick("frmOD.optA", [this] {
-        if (!exampleOpen_)
-            return;
-        exampleOpen_ = false;
-        ResetForOD(design_);
-    });
-    events.onClose("frmOD", [this] { exampleOpen_ = false; });
-}
-
-void SmallDialogs::registerRawTables(EventRegistry& events) {
-    events.onTool("Debug ICC", [this] { spreadICCOpen_ = true; });
-    events.onTool("Debug Tau-sq", [this] { spreadTauSqOpen_ = true; });
-    events.onClose("frmSpreadICC", [this] { spreadICCOpen_ = false; });
-    events.onClose("frmSpreadTauSq", [this] { spreadTauSqOpen_ = false; });
-}
-
-// A button of a dialog that is not open does nothing.
-void SmallDialogs::whileOpen(EventRegistry& events, const char* button, WindowId window,
-                             std::function<void()> press) {
-    events.onClick(button, [this, window, press = std::move(press)] {
-        if (isOpen(window))
-            press();
-    });
-}
-
-void SmallDialogs::registerNumbers(EventRegistry& events) {
-    events.onTool("gfrmAlpha", [this] { openAlpha(); });
-    events.addTextBox("frmAlpha.txtAlpha", alpha_);
-    whileOpen(events, "frmAlpha.cmdOK", WindowId::frmAlpha, [this] { applyAlpha(); });
+    for (Dialog* dialog : dialogs())
+        dialog->registerEvents(events, [this, dialog] { return isOpen(*dialog); });
+    for (Dialog* dialog : {&delta_, &mean_, &limits_, &maxCost_, &example_, &value_})
+        events.onClose(dialog->name, [this, dialog] { close(*dialog); });
     events.onClose("frmAlpha", [this] {
-        askToApply(design_, WindowId::frmAlpha, "Apply changes to alpha?          ",
-                   [this] { applyAlpha(); });
+        closeAsking(alpha_, true, "Apply changes to alpha?          ", &SmallDialogs::applyAlpha);
     });
-    events.onTool("gfrmDelta", [this] { openDelta(); });
-    events.onClick("frmDisplayICC.cmdDelta", [this] { openDelta(); });
-    events.addTextBox("frmDelta.txtDelta", delta_);
-    whileOpen(events, "frmDelta.Command1", WindowId::frmDelta, [this] { applyDelta(); });
-    events.onClose("frmDelta", [this] { close(WindowId::frmDelta); });
-}
-
-void SmallDialogs::registerMean(EventRegistry& events) {
-    events.onTool("gfrmControlMean", [this] { openMean(); });
-    events.addTextBox("frmSetMean.txtMean", mean_.txtMean);
-    events.addTextBox("frmSetMean.txtSpan", mean_.txtSpan);
-    whileOpen(events, "frmSetMean.cmdOK", WindowId::frmSetMean, [this] { applyMean(); });
-    events.onClick("frmSetMean.cmdCancel", [this] { close(WindowId::frmSetMean); });
-    events.onClose("frmSetMean", [this] { close(WindowId::frmSetMean); });
-}
-
-void SmallDialogs::registerNameDialogs(EventRegistry& events) {
-    events.onTool("gfrmGroupNames", [this] { openGroupNames(); });
-    for (int group = 1; group <= 2; ++group)
-        events.addTextBox(indexedName("frmGroupNames.txtGroupName", group), groupNames_(group));
-    whileOpen(events, "frmGroupNames.cmdGroupNames(0)", WindowId::frmGroupNames,
-              [this] { applyGroupNames(); });
-    events.onClick("frmGroupNames.cmdGroupNames(1)", [this] { close(WindowId::frmGroupNames); });
     events.onClose("frmGroupNames", [this] {
-        closeNames(WindowId::frmGroupNames, groupNamesChanged(), &SmallDialogs::applyGroupNames);
+        closeAsking(groupNames_, groupNamesChanged(), applyNamesQuestion, &SmallDialogs::applyGroupNames);
     });
-    events.onTool("gfrmLevelNames", [this] { openLevelNames(); });
-    for (int level = lowestLevel; level <= highestLevel; ++level)
-        events.addTextBox(indexedName("frmLevelNames.txtLevelNames", level), levelNames_(level));
-    whileOpen(events, "frmLevelNames.cmdLevelNames(0)", WindowId::frmLevelNames,
-              [this] { applyLevelNames(); });
-    events.onClick("frmLevelNames.cmdLevelNames(1)", [this] { close(WindowId::frmLevelNames); });
     events.onClose("frmLevelNames", [this] {
-        closeNames(WindowId::frmLevelNames, levelNamesChanged(), &SmallDialogs::applyLevelNames);
+        closeAsking(levelNames_, levelNamesChanged(), applyNamesQuestion, &SmallDialogs::applyLevelNames);
     });
-}
-
-void SmallDialogs::registerLimits(EventRegistry& events) {
-    events.onTool("Enter ICC", [this] {
-        limitsOpen_ = false;
-        enterIcc(design_);
-    });
-    events.onTool("Enter limits", [this] {
-        enterLimits(design_);
-        openLimits();
-    });
-    events.onTool("FrmLimits", [this] { openLimits(); });
+    for (RawTable* table : {&spreadICC_, &spreadTauSq_})
+        events.onClose(table->name, [table] { table->open = false; });
+    events.onClick("frmDisplayICC.cmdDelta", [this] { openDelta(); });
     events.onClick("frmDisplayICC.cmdOptions", [this] { openLimits(); });
-    for (int level = 2; level <= highestLevel; ++level) {
-        events.addTextBox(indexedName("frmLimits.txtLL", level), limits_.txtLL(level));
-        events.addTextBox(indexedName("frmLimits.txtUL", level), limits_.txtUL(level));
-    }
-    events.onClick("frmLimits.Command1", [this] { applyLimits(); });
-    events.onClick("frmLimits.Command2", [this] { enterRisksAs(RangeModes::span); });
-    events.onClick("frmLimits.Command3", [this] { enterRisksAs(RangeModes::limits); });
-    events.onClose("frmLimits", [this] { limitsOpen_ = false; });
-}
-
-void SmallDialogs::registerMaxCost(EventRegistry& events) {
-    events.onTool("Set maximum cost", [this] { openMaxCost(); });
-    events.addTextBox("txtMaxCost", maxCost_);
-    events.onClick("cmdSetMaxCost(0)", [this] { applyMaxCost(); });
-    events.onClick("cmdSetMaxCost(1)", [this] { maxCostOpen_ = false; });
-    events.onClose("pic", [this] { maxCostOpen_ = false; });
-}
-
-void SmallDialogs::registerValue(EventRegistry& events) {
-    events.addTextBox("frmValue.txtValue", value_.txtValue);
-    events.onClick("frmValue.cmdOK", [this] { applyValue(); });
-    events.onClick("frmValue.cmdCancel", [this] { valueOpen_ = false; });
-    events.onClose("frmValue", [this] { valueOpen_ = false; });
 }
 
 }  // namespace lorvane

@@ -1,20 +1,22 @@
-// The small dialogs of the study screen: what is typed into them, what they refuse and what they write.
-// A refused value never changes a field, and the dialog stays.
+// The small dialogs of the study screen: their words, what they refuse and what they write. A refused value
+// never changes a field, and the dialog stays.
 #pragma once
 
 #include <functional>
 #include <string>
+#include <vector>
 
 #include "platform/control_registry.h"
 #include "platform/controls.h"
 #include "platform/event_registry.h"
 #include "screen/design.h"
+#include "screen/dialog.h"
 
 namespace lorvane {
 
 class SmallDialogs {
 public:
-    explicit SmallDialogs(Design& design) : design_(design) {}
+    explicit SmallDialogs(Design& design);
     SmallDialogs(const SmallDialogs&) = delete;
     SmallDialogs& operator=(const SmallDialogs&) = delete;
 
@@ -22,96 +24,79 @@ public:
     void registerNames(ControlRegistry& registry) const;
     void registerEvents(EventRegistry& events);
 
-    /// The texts of the dialog of the mean and span.
-    struct MeanAndSpan {
-        Panel title, prompt, heading, explanation;
-        TextBox txtMean, txtSpan;
-    };
-    /// A dialog for one field, opened from its cell.
-    struct Value {
-        Panel title, sense, limits;
-        TextBox txtValue;
-        std::string field;
-    };
-    /// A dialog without a number in the registry of windows.
-    struct Limits {
-        PerLevel<TextBox> txtLL, txtUL;
-    };
+    /// All dialogs, for views.
+    std::vector<const Dialog*> all() const;
+    bool isOpen(const Dialog& dialog) const;
 
-    const TextBox& alpha() const { return alpha_; }
-    const TextBox& delta() const { return delta_; }
-    const MeanAndSpan& meanAndSpan() const { return mean_; }
-    const Value& value() const { return value_; }
-    const Limits& limits() const { return limits_; }
-    const TextBox& groupName(int group) const { return groupNames_(group); }
-    const TextBox& levelName(int level) const { return levelNames_(level); }
-    const Panel& levelLabel(int level) const { return levelLabels_(level); }
-    const TextBox& maxCost() const { return maxCost_; }
+    void openAlpha();
+    void openDelta();
+    void openMean();
+    void openGroupNames();
+    void openLevelNames();
+    void openLimits();
+    void openMaxCost();
+    void openExample();
 
-    bool valueIsOpen() const { return valueOpen_; }
-    bool limitsAreOpen() const { return limitsOpen_; }
-    bool maxCostIsOpen() const { return maxCostOpen_; }
-    bool exampleIsOpen() const { return exampleOpen_; }
+    /// What a double click on a field's cell does: a choice of two goes over to the other one, and a number
+    /// opens for typing.
+    void activate(FieldRef field);
+
+    /// The dispersion of the outcome entered as ICC, or as limits of the risks.
+    void enterIcc();
+    void enterLimits();
+
     /// The raw tables of the dispersion, as the report reads them.
-    bool spreadICCIsOpen() const { return spreadICCOpen_; }
-    bool spreadTauSqIsOpen() const { return spreadTauSqOpen_; }
-
-    /// Opens the value dialog for a field by name, such as "txtNT(2)"; nothing for a field that has none.
-    void openValue(const std::string& field);
+    struct RawTable {
+        const char* name;  ///< "frmSpreadICC"
+        const char* title;
+        bool open = false;
+    };
+    const RawTable& spreadICC() const { return spreadICC_; }
+    const RawTable& spreadTauSq() const { return spreadTauSq_; }
+    void openSpreadICC() { spreadICC_.open = true; }
+    void openSpreadTauSq() { spreadTauSq_.open = true; }
 
 private:
-    void openAlpha();
-    bool applyAlpha();
-    void openDelta();
+    Dialog makeAlpha();
+    Dialog makeDelta();
+    Dialog makeMean();
+    Dialog makeGroupNames();
+    Dialog makeLevelNames();
+    Dialog makeLimits();
+    Dialog makeMaxCost();
+    Dialog makeExample();
+    Dialog makeValue();
+
+    void applyAlpha();
     void applyDelta();
-    void openMean();
     void applyMean();
-    void openGroupNames();
-    bool applyGroupNames();
-    void openLevelNames();
-    bool applyLevelNames();
-    void openLimits();
+    void applyGroupNames();
+    void applyLevelNames();
     void applyLimits();
-    void enterRisksAs(int rangeMode);
-    void openMaxCost();
+    void enterRisksAs(RangeModes mode);
     void applyMaxCost();
+    void applyExample();
+    void openValue(FieldRef field);
     void applyValue();
     bool groupNamesChanged() const;
     bool levelNamesChanged() const;
-    void closeNames(WindowId window, bool changed, bool (SmallDialogs::*apply)());
+    void closeAsking(Dialog& dialog, bool changed, const std::string& question,
+                     void (SmallDialogs::*apply)());
 
-    void whileOpen(EventRegistry& events, const char* button, WindowId window, std::function<void()> press);
-    void registerNumbers(EventRegistry& events);
-    void registerMean(EventRegistry& events);
-    void registerNameDialogs(EventRegistry& events);
-    void registerLimits(EventRegistry& events);
-    void registerMaxCost(EventRegistry& events);
-    void registerValue(EventRegistry& events);
-    void registerExample(EventRegistry& events);
-    void registerRawTables(EventRegistry& events);
-
-    void open(WindowId window) { design_.SynchForms(window, WindowAction::open); }
-    void close(WindowId window) { design_.SynchForms(window, WindowAction::unload); }
-    bool refuse(const std::string& title, const std::string& text);
-    bool holds(const char* field, double value) const;
-    bool isOpen(WindowId window) const { return design_.windows().state(window) == WindowStates::open; }
+    template <typename Self>
+    static auto listOf(Self& self);
+    std::vector<Dialog*> dialogs();
+    void show(Dialog& dialog);
+    void close(Dialog& dialog);
+    void refuse(const Dialog& dialog, const std::string& text);
+    bool holds(std::string_view field, double value) const;
 
     Design& design_;
-    TextBox alpha_;
-    TextBox delta_;
-    MeanAndSpan mean_;
-    IndexedArray<TextBox, 1, 2> groupNames_;
-    PerLevel<TextBox> levelNames_;
-    PerLevel<Panel> levelLabels_;
-    Limits limits_;
-    TextBox maxCost_;
-    Value value_;
-    bool valueOpen_ = false;
-    bool limitsOpen_ = false;
-    bool maxCostOpen_ = false;
-    bool exampleOpen_ = false;
-    bool spreadICCOpen_ = false;
-    bool spreadTauSqOpen_ = false;
+    Session& session_;
+    Dialog alpha_, delta_, mean_, groupNames_, levelNames_, limits_, maxCost_, example_, value_;
+    FieldRef valueField_;
+    RawTable spreadICC_{"frmSpreadICC", "Table of the ICC"};
+    RawTable spreadTauSq_{"frmSpreadTauSq", "Table of the effects"};
 };
 
 }  // namespace lorvane

@@ -1,18 +1,32 @@
-// Which floating windows are open, withdrawn or not loaded. Knows no window's content and no toolkit.
+// Which floating windows are open, withdrawn or not loaded, and the titles of those that always have the same
+// one. Knows no window's content and no toolkit.
 #pragma once
+
+#include <span>
 
 #include "engine/per_level.h"
 #include "platform/window_id.h"
 
 namespace lorvane {
 
-// States of a window.
-namespace WindowStates {
-inline constexpr int notLoaded = 0;
-inline constexpr int withdrawnForGood = 1;  ///< stays away until it is opened again
-inline constexpr int withdrawn = 2;         ///< comes back with WindowAction::bringBack
-inline constexpr int open = 4;
-}  // namespace WindowStates
+enum class WindowStates {
+    notLoaded = 0,
+    withdrawnForGood = 1,  ///< stays away until it is opened again
+    withdrawn = 2,         ///< comes back with WindowAction::bringBack
+    open = 4
+};
+
+/// A window with a title of its own; the others word theirs as the study stands.
+struct WindowTitle {
+    WindowId window;
+    const char* name;  ///< "frmCounts"
+    const char* title;
+};
+
+std::span<const WindowTitle> windowTitles();
+
+/// The title of one of them; it must be there.
+const char* windowTitle(WindowId window);
 
 class WindowRegistry {
 public:
@@ -22,13 +36,10 @@ public:
     /// window's state does nothing.
     void SynchForms(WindowId window, WindowAction action);
 
-    int state(WindowId window) const { return states_(static_cast<int>(window)); }
-
-    /// The state by the window's number, for reading by name.
-    const int& stateOf(int windowNumber) const { return states_(windowNumber); }
+    WindowStates state(WindowId window) const { return states_(static_cast<int>(window)); }
 
 private:
-    IndexedArray<int, 1, lastWindowId> states_;
+    IndexedArray<WindowStates, 1, lastWindowId> states_;
 };
 
 }  // namespace lorvane

@@ -25,7 +25,7 @@ double degreesOfFreedomPerUnit(const Study& s, int level) {
 bool hasGoodCells(Study& s, DistributionLibrary& library, double n) {
     s.txtNT(1) = s.txtNC(1) = n;
     AAAComputeTwoLevelHDEvents(s, library);
-    return s.counts.anyLow == 0;
+    return !s.counts.anyLow;
 }
 
 }  // namespace

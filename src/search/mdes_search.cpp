@@ -6,9 +6,9 @@
 #include <algorithm>
 #include <cmath>
 
+#include "base/leaps.h"
 #include "engine/effect_check.h"
 #include "engine/effect_metrics.h"
-#include "search/study_keeper.h"
 #include "validation/icc_span.h"
 
 namespace lorvane {
@@ -28,21 +28,21 @@ struct Scale {
     }
 };
 
-// Refreshes of the live study with other effects.
+// Refreshes of a study with other effects.
 class Trials {
 public:
-    Trials(Design& design, const Scale& scale)
-        : design_(design), field_(effectField(design.study())), scale_(scale) {}
+    Trials(StudyTrial& trial, const Scale& scale)
+        : trial_(trial), field_(effectField(trial.study)), scale_(scale) {}
 
-    void write(Count units) { design_.study().*field_ = scale_.effect(units); }
+    void write(Count units) { trial_.study.*field_ = scale_.effect(units); }
 
     /// Power of an effect. A study without power makes the trials invalid for good.
     double power(Count units) {
         write(units);
-        design_.DoRefresh(false);
+        trial_.refresh();
         ++runs_;
-        const PowerResult& result = design_.study().result;
-        valid_ = valid_ && result.xValid == 1;
+        const PowerResult& result = trial_.study.result;
+        valid_ = valid_ && result.xValid;
         return result.txtPower;
     }
 
@@ -52,18 +52,18 @@ public:
     MdesResult endOn(Count units, MdesOutcome outcome) {
         MdesResult result;
         result.power = power(units);
-        const Study& s = design_.study();
+        const Study& s = trial_.study;
         result.outcome = valid_ ? outcome : MdesOutcome::problem;
         result.effect = s.*field_;
         result.controlRate = s.txtPrev;
         result.treatedRate = s.txtEvent2;
-        result.countsAreLow = s.isBinary() && s.counts.anyLow == 1;
+        result.countsAreLow = s.isBinary() && s.counts.anyLow;
         result.runs = runs_;
         return result;
     }
 
 private:
-    Design& design_;
+    StudyTrial& trial_;
     double Study::*field_;
     Scale scale_;
     bool valid_ = true;
@@ -76,27 +76,12 @@ enum class Walk { steps, leaps };
 // that stays once it holds.
 template <typename Condition>
 Count firstWhere(Count most, Walk walk, Condition holds) {
+    if (walk == Walk::leaps)
+        return 1 + stepsWhile(most, [&](Count n) { return !holds(n); });
     Count before = 0;
-    if (walk == Walk::steps) {
-        while (before < most && !holds(before + 1))
-            ++before;
-        return before + 1;
-    }
-    const auto goesOn = [&](Count n) { return n <= most && !holds(n); };
-    Count leap = 1;
-    for (; goesOn(before + leap); leap *= 2)
-        before += leap;
-    for (leap /= 2; leap >= 1; leap /= 2) {
-        if (goesOn(before + leap))
-            before += leap;
-    }
+    while (before < most && !holds(before + 1))
+        ++before;
     return before + 1;
-}
-
-int directionOf(const Study& study) {
-    int direction = 1;
-    SetDefaultDirection(study, direction);
-    return direction;
 }
 
 constexpr double thousandth = 1000;
@@ -104,8 +89,8 @@ constexpr Count stepsOfMeans[] = {1000, 100, 10, 1};
 constexpr Count mostStepsOfMeans = 1000000000;
 
 // The power of means always grows with the effect.
-MdesResult smallestMeans(Design& design, double required) {
-    Trials trials(design, {0, thousandth, directionOf(design.study())});
+MdesResult smallestMeans(StudyTrial& trial, double required) {
+    Trials trials(trial, {0, thousandth, SetDefaultDirection(trial.study)});
     const auto reached = [&](Count units) { return trials.power(units) >= required || !trials.valid(); };
     Count d = 1;
     for (const Count step : stepsOfMeans) {
@@ -124,7 +109,7 @@ MdesResult smallestMeans(Design& design, double required) {
 // How one binary metric is searched in one direction. The first step of the climb is always firstStep units.
 struct BinaryMetric {
     Scale scale;
-    void (*range)(const Study& study, double& limit, double start, double step, int direction);
+    double (*range)(const Study& study, double start, double step, int direction);
     Count inward;  ///< move of the limit, in units, while the effect there is not admissible
     Walk walk;
 };
@@ -136,7 +121,7 @@ constexpr int finerRounds = 4;
 // Over the admissible range the power of an odds ratio rises to one peak and falls, so its wide range can be
 // leaped over. That of a risk difference is narrow and is walked step by step.
 BinaryMetric metricOf(const Study& study) {
-    const int direction = directionOf(study);
+    const int direction = SetDefaultDirection(study);
     if (study.BinaryType == BinaryTypes::riskDifference)
         return {{0, 1e7, direction}, GetRangeRD, 10000, Walk::steps};
     return {{1, direction == 1 ? 1e4 : 1e5, direction}, GetRangeOR, 1000, Walk::leaps};
@@ -144,9 +129,9 @@ BinaryMetric metricOf(const Study& study) {
 
 class BinarySearch {
 public:
-    BinarySearch(Design& design, double required)
-        : study_(design.study()), metric_(metricOf(study_)), trials_(design, metric_.scale),
-          required_(required) {}
+    BinarySearch(StudyTrial& trial, double required)
+        : study_(trial.study), metric_(metricOf(study_)), trials_(trial, metric_.scale), required_(required) {
+    }
 
     MdesResult run();
 
@@ -185,17 +170,15 @@ MdesResult BinarySearch::run() {
 }
 
 bool BinarySearch::isAdmissible(Count units) {
-    SilentDisplay silent;
     trials_.write(units);
-    ComputeES(study_, silent);
-    return study_.result.ValidES == 1 && GetOkICCTreatment(study_);
+    ComputeES(study_);
+    return study_.result.ValidES && GetOkICCTreatment(study_);
 }
 
 // The limit that the rates set, moved inward to where the ICCs of the treated group are possible.
 void BinarySearch::findLimit() {
     const Scale& scale = metric_.scale;
-    double limit = scale.null;
-    metric_.range(study_, limit, scale.null, stepOfRange, scale.direction);
+    const double limit = metric_.range(study_, scale.null, stepOfRange, scale.direction);
     limit_ = std::llround(std::fabs(limit - scale.null) * scale.unitsPerOne);
     if (isAdmissible(limit_))
         return;
@@ -272,22 +255,20 @@ double Study::*effectField(const Study& study) {
         return &Study::txtRR;
     case BinaryTypes::riskDifference:
         return &Study::txtRD;
-    default:
-        return &Study::txtP2;
+    case BinaryTypes::twoRisks:
+        break;
     }
+    return &Study::txtP2;
 }
 
-MdesResult FindMDES(Design& design, double requiredPower) {
-    const Study& study = design.study();
-    const StudyKeeper keeper(design.study());
+MdesResult FindMDES(StudyTrial trial, double requiredPower) {
+    const Study& study = trial.study;
     MdesResult nothing;
     nothing.effect = study.*effectField(study);
-    design.DoRefresh(false);
-    const bool tested = study.isMeans() || study.BinaryType == BinaryTypes::oddsRatio ||
-                        study.BinaryType == BinaryTypes::riskDifference;
-    if (study.result.xValid == 0 || !tested)
+    trial.refresh();
+    if (!study.result.xValid || !study.isTested())
         return nothing;
-    return study.isMeans() ? smallestMeans(design, requiredPower) : BinarySearch(design, requiredPower).run();
+    return study.isMeans() ? smallestMeans(trial, requiredPower) : BinarySearch(trial, requiredPower).run();
 }
 
 }  // namespace lorvane

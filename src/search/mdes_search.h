@@ -1,7 +1,7 @@
 // The search for the smallest effect that reaches a required power. Knows no window and no words.
 #pragma once
 
-#include "screen/design.h"
+#include "session/study_trial.h"
 
 namespace lorvane {
 
@@ -28,8 +28,7 @@ double Study::*effectField(const Study& study);
 /// Finds the smallest effect of a power, on the side of zero on which the study's effect lies (a null effect
 /// rises). Means: the smallest multiple of 0.001. Odds ratio and risk difference: the power may fall again
 /// beyond a peak, so the peak within the admissible range is looked for first. Risk ratio and two risks have
-/// no test and end in a problem. The study is put back. Throws ArithmeticFault, also with the study as it
-/// was.
-MdesResult FindMDES(Design& design, double requiredPower);
+/// no test and end in a problem. Throws ArithmeticFault.
+MdesResult FindMDES(StudyTrial trial, double requiredPower);
 
 }  // namespace lorvane

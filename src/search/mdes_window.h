@@ -6,6 +6,7 @@
 
 #include "platform/control_registry.h"
 #include "platform/event_registry.h"
+#include "screen/design.h"
 #include "search/mdes_texts.h"
 
 namespace lorvane {
@@ -20,7 +21,7 @@ public:
         problem,
     };
 
-    /// Follows the refreshes of a screen, which must outlive it.
+    /// The screen must outlive it.
     explicit MdesWindow(Design& design);
     MdesWindow(const MdesWindow&) = delete;
     MdesWindow& operator=(const MdesWindow&) = delete;
@@ -28,33 +29,28 @@ public:
     void registerNames(ControlRegistry& registry) const;
     void registerEvents(EventRegistry& events);
 
+    /// Brings the panel into step with a change of the session.
+    void follow(const Changed& changed);
+
     State state() const noexcept { return state_; }
     const Panel& prompt() const noexcept { return pnlMDESTop_; }
     const Panel& firstLine() const noexcept { return pnlMDESMid_; }
     const Panel& secondLine() const noexcept { return pnlMDES_; }
     const Panel& figureName() const noexcept { return pnlFigureName_; }
     const Panel& figureNumber() const noexcept { return pnlFigureNumber_; }
+    /// Whether there is a figure, and what stands before its number: "d = ".
+    bool hasFigure() const noexcept { return !pnlFigureNumber_.Caption.empty(); }
+    std::string figureWords() const { return pnlFigureName_.Caption + " = "; }
     const Button& compute() const noexcept { return cmdComputeMDES_; }
     const Button& closeButton() const noexcept { return cmdMDESClose_; }
 
 private:
-    /// The effect field that a search wrote: what it held before and what it holds since.
-    struct LentEffect {
-        double Study::*field = nullptr;
-        double before = 0;
-        double found = 0;
-    };
-
     bool isOpen() const;
-    void refresh();
     void computeEffect();
-    void lend(double found);
-    void takeBack();
     void close();
     void show(State state, const MdesLines& lines, const MdesFigure& figure = {});
 
     Design& design_;
-    LentEffect lent_;
     double prompted_ = 0;  ///< required power that the prompt tells
     bool computing_ = false;
     State state_ = State::resting;

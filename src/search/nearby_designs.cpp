@@ -69,7 +69,7 @@ private:
             cheapest_ = found;
     }
 
-    bool isLow() const { return bench_.study().isBinary() && bench_.study().counts.anyLow == 1; }
+    bool isLow() const { return bench_.study().isBinary() && bench_.study().counts.anyLow; }
 
     TrialBench& bench_;
     const OptimalOptions& options_;

@@ -79,20 +79,21 @@ double cheapestRatio(const Study& s, const Weights& w, const OptimalOptions& opt
     return std::sqrt((lower.W / upper.W) * (upper.U / lower.U));
 }
 
-void writeRatios(const Study& s, const OptimalOptions& options, SizeRatios& ratios) {
+SizeRatios ratiosOf(const Study& s, const OptimalOptions& options) {
+    SizeRatios ratios;
     const Weights weights = weightsOf(s);
     for (int level = 1; level < s.NumLevels; ++level) {
         const bool manual = options.manual(level);
         ratios(level) = manual ? options.numReps(level) : cheapestRatio(s, weights, options, level);
         requireFinite("computeOptimalRatios", {ratios(level)});
     }
+    return ratios;
 }
 
 void checkReadiness(Study& s, bool fullyByHand) {
     for (int level = 1; level <= s.NumLevels; ++level) {
         CheckQ(s, s.txtRsq(level), s.txtQ(level), level);
-        const bool fixed = s.txtModel(level) == SamplingModels::fixed;
-        CheckModel(s, fixed ? SamplingModels::fixed : SamplingModels::random, level);
+        CheckModel(s, s.txtModel(level), level);
         if (level > 1)
             CheckICC(s, s.txtICC(level), level);
     }
@@ -107,18 +108,18 @@ void checkReadiness(Study& s, bool fullyByHand) {
     ResolveValidOptimal(s, fullyByHand);
 }
 
-// True when the ratios were written.
-bool computeRatios(Study& s, const OptimalOptions& options, SizeRatios& ratios) {
+using Ratios = std::optional<SizeRatios>;
+
+Ratios computeRatios(Study& s, const OptimalOptions& options) {
     checkReadiness(s, isFullyByHand(s, options));
-    if (s.result.xValidOptimal == 0)
-        return false;
-    writeRatios(s, options, ratios);
-    return true;
+    return s.result.xValidOptimal ? Ratios(ratiosOf(s, options)) : std::nullopt;
 }
 
-void computeTwoLevelRatio(Study& s, const OptimalOptions& options, SizeRatios& ratios) {
-    if (computeRatios(s, options, ratios))
-        ratios(1) = roundHalfToEven(ratios(1));
+Ratios computeTwoLevelRatio(Study& s, const OptimalOptions& options) {
+    Ratios ratios = computeRatios(s, options);
+    if (ratios)
+        (*ratios)(1) = roundHalfToEven((*ratios)(1));
+    return ratios;
 }
 
 bool isFixedAt(const OptimalOptions& options, bool m1, bool m2, bool m3) {
@@ -127,8 +128,8 @@ bool isFixedAt(const OptimalOptions& options, bool m1, bool m2, bool m3) {
 
 void clearSummary(LevelFlags& flags) {
     for (int level = lowestLevel; level <= highestLevel; ++level) {
-        if (flags(level) == 0)
-            flags(0) = 0;
+        if (!flags(level))
+            flags(0) = false;
     }
 }
 
@@ -137,8 +138,8 @@ void clearSummary(LevelFlags& flags) {
 void resetReadiness(PowerResult& result) {
     for (LevelFlags* flags : {&result.xValidQ, &result.xValidModel, &result.xValidCost, &result.xValidICC,
                               &result.xValidOmega, &result.xValidTauSq})
-        flags->fill(1);
-    result.xValidOptimal = result.xValidES = result.xValidTotICC = 1;
+        flags->fill(true);
+    result.xValidOptimal = result.xValidES = result.xValidTotICC = true;
 }
 
 bool isFullyByHand(const Study& s, const OptimalOptions& options) {
@@ -152,72 +153,74 @@ bool isFullyByHand(const Study& s, const OptimalOptions& options) {
 void ResolveValidOptimal(Study& s, bool fullyByHand) {
     PowerResult& r = s.result;
     clearSummary(r.xValidQ);
-    const bool always = r.xValidQ(0) == 1 && r.xValidES == 1 && r.xValidTotICC == 1 &&
-                        s.outcome.ValidICC(0) == 1 && s.effect.ValidTauSq(0) == 1;
+    const bool always =
+        r.xValidQ(0) && r.xValidES && r.xValidTotICC && s.outcome.ValidICC(0) && s.effect.ValidTauSq(0);
     if (!always)
-        r.xValidOptimal = 0;
+        r.xValidOptimal = false;
     if (fullyByHand)
         return;
     for (LevelFlags* flags : {&r.xValidModel, &r.xValidCost, &r.xValidICC, &r.xValidOmega, &r.xValidTauSq}) {
         clearSummary(*flags);
-        if ((*flags)(0) == 0)
-            r.xValidOptimal = 0;
+        if (!(*flags)(0))
+            r.xValidOptimal = false;
     }
 }
 
-void ComputeTwoLevelHDOptimal(Study& s, const OptimalOptions& options, SizeRatios& ratios) {
-    computeTwoLevelRatio(s, options, ratios);
+Ratios ComputeTwoLevelHDOptimal(Study& s, const OptimalOptions& options) {
+    return computeTwoLevelRatio(s, options);
 }
 
-void ComputeTwoLevelRBStudentsOptimal(Study& s, const OptimalOptions& options, SizeRatios& ratios) {
-    computeTwoLevelRatio(s, options, ratios);
+Ratios ComputeTwoLevelRBStudentsOptimal(Study& s, const OptimalOptions& options) {
+    return computeTwoLevelRatio(s, options);
 }
 
-void ComputeThreeLevelHDOptimal(Study& s, const OptimalOptions& options, SizeRatios& ratios) {
-    computeRatios(s, options, ratios);
+Ratios ComputeThreeLevelHDOptimal(Study& s, const OptimalOptions& options) {
+    return computeRatios(s, options);
 }
 
-void ComputeThreeLevelRBStudentsOptimal(Study& s, const OptimalOptions& options, SizeRatios& ratios) {
-    computeRatios(s, options, ratios);
+Ratios ComputeThreeLevelRBStudentsOptimal(Study& s, const OptimalOptions& options) {
+    return computeRatios(s, options);
 }
 
-void ComputeThreeLevelRBClassesOptimal(Study& s, const OptimalOptions& options, SizeRatios& ratios) {
-    computeRatios(s, options, ratios);
+Ratios ComputeThreeLevelRBClassesOptimal(Study& s, const OptimalOptions& options) {
+    return computeRatios(s, options);
 }
 
-void ComputeFourLevelHDOptimal(Study& s, const OptimalOptions& options, SizeRatios& ratios) {
-    computeRatios(s, options, ratios);
+Ratios ComputeFourLevelHDOptimal(Study& s, const OptimalOptions& options) {
+    return computeRatios(s, options);
 }
 
-void ComputeFourLevelRBClassesOptimal(Study& s, const OptimalOptions& options, SizeRatios& ratios) {
-    computeRatios(s, options, ratios);
+Ratios ComputeFourLevelRBClassesOptimal(Study& s, const OptimalOptions& options) {
+    return computeRatios(s, options);
 }
 
-void ComputeFourLevelRBTeachersOptimal(Study& s, const OptimalOptions& options, SizeRatios& ratios) {
-    computeRatios(s, options, ratios);
+Ratios ComputeFourLevelRBTeachersOptimal(Study& s, const OptimalOptions& options) {
+    return computeRatios(s, options);
 }
 
 // With level 2 alone set by hand, level 3 takes omega times ICC in the place of the variance of level 2, and
 // no R-squared of levels 3 and 4. The difference from the rule is deliberate.
-void ComputeFourLevelRBStudentsOptimal(Study& s, const OptimalOptions& options, SizeRatios& ratios) {
-    if (!computeRatios(s, options, ratios) || !isFixedAt(options, false, true, false))
-        return;
+Ratios ComputeFourLevelRBStudentsOptimal(Study& s, const OptimalOptions& options) {
+    Ratios ratios = computeRatios(s, options);
+    if (!ratios || !isFixedAt(options, false, true, false))
+        return ratios;
     const double n2 = options.numReps(2);
     const double cost = s.txtCostB(4) / (n2 * s.txtCostB(2) + s.txtCostB(3));
     const double variance = (GetOmega(s, 2) * s.txtICC(2) + GetTauSq(s, 3) * n2) / (GetTauSq(s, 4) * n2);
-    ratios(3) = std::sqrt(cost * variance);
-    requireFinite("ComputeFourLevelRBStudentsOptimal", {ratios(3)});
+    (*ratios)(3) = std::sqrt(cost * variance);
+    requireFinite("ComputeFourLevelRBStudentsOptimal", {(*ratios)(3)});
+    return ratios;
 }
 
-void computeOptimalRatios(Study& s, const OptimalOptions& options, SizeRatios& ratios) {
-    using Routine = void (*)(Study&, const OptimalOptions&, SizeRatios&);
+Ratios computeOptimalRatios(Study& s, const OptimalOptions& options) {
+    using Routine = Ratios (*)(Study&, const OptimalOptions&);
     // A row a number of levels from 2, a column a randomized level from 1.
     static constexpr Routine routines[3][4] = {
         {ComputeTwoLevelRBStudentsOptimal, ComputeTwoLevelHDOptimal},
         {ComputeThreeLevelRBStudentsOptimal, ComputeThreeLevelRBClassesOptimal, ComputeThreeLevelHDOptimal},
         {ComputeFourLevelRBStudentsOptimal, ComputeFourLevelRBClassesOptimal,
          ComputeFourLevelRBTeachersOptimal, ComputeFourLevelHDOptimal}};
-    routines[s.NumLevels - 2][s.RandomizedLevel - 1](s, options, ratios);
+    return routines[s.NumLevels - 2][s.RandomizedLevel - 1](s, options);
 }
 
 }  // namespace lorvane

@@ -6,6 +6,8 @@
 // n W(k + 1) and cost U(k) + U(k + 1) / n; seen from above, at W(k) / n + W(k + 1) and n U(k) + U(k + 1).
 #pragma once
 
+#include <optional>
+
 #include "engine/study.h"
 #include "search/optimal_types.h"
 
@@ -14,21 +16,21 @@ namespace lorvane {
 /// Size of each level below the top per unit of the level above.
 using SizeRatios = IndexedArray<double, 1, highestFreeLevel>;
 
-/// The nine routines. Each runs the checks of readiness; where the search may run it writes the ratios: sizes
-/// set by hand as they are, the others by formula. Two-level designs round theirs, halves to even. The
-/// study's dispersions must be in step (a refresh has run).
-void ComputeTwoLevelHDOptimal(Study& study, const OptimalOptions& options, SizeRatios& ratios);
-void ComputeThreeLevelHDOptimal(Study& study, const OptimalOptions& options, SizeRatios& ratios);
-void ComputeFourLevelHDOptimal(Study& study, const OptimalOptions& options, SizeRatios& ratios);
-void ComputeTwoLevelRBStudentsOptimal(Study& study, const OptimalOptions& options, SizeRatios& ratios);
-void ComputeThreeLevelRBStudentsOptimal(Study& study, const OptimalOptions& options, SizeRatios& ratios);
-void ComputeFourLevelRBStudentsOptimal(Study& study, const OptimalOptions& options, SizeRatios& ratios);
-void ComputeThreeLevelRBClassesOptimal(Study& study, const OptimalOptions& options, SizeRatios& ratios);
-void ComputeFourLevelRBClassesOptimal(Study& study, const OptimalOptions& options, SizeRatios& ratios);
-void ComputeFourLevelRBTeachersOptimal(Study& study, const OptimalOptions& options, SizeRatios& ratios);
+/// The nine routines. Each runs the checks of readiness; where the search may run it gives the ratios: sizes
+/// set by hand as they are, the others by formula. Nothing where it may not. Two-level designs round theirs,
+/// halves to even. The study's dispersions must be in step (a refresh has run).
+std::optional<SizeRatios> ComputeTwoLevelHDOptimal(Study& study, const OptimalOptions& options);
+std::optional<SizeRatios> ComputeThreeLevelHDOptimal(Study& study, const OptimalOptions& options);
+std::optional<SizeRatios> ComputeFourLevelHDOptimal(Study& study, const OptimalOptions& options);
+std::optional<SizeRatios> ComputeTwoLevelRBStudentsOptimal(Study& study, const OptimalOptions& options);
+std::optional<SizeRatios> ComputeThreeLevelRBStudentsOptimal(Study& study, const OptimalOptions& options);
+std::optional<SizeRatios> ComputeFourLevelRBStudentsOptimal(Study& study, const OptimalOptions& options);
+std::optional<SizeRatios> ComputeThreeLevelRBClassesOptimal(Study& study, const OptimalOptions& options);
+std::optional<SizeRatios> ComputeFourLevelRBClassesOptimal(Study& study, const OptimalOptions& options);
+std::optional<SizeRatios> ComputeFourLevelRBTeachersOptimal(Study& study, const OptimalOptions& options);
 
 /// The routine of the study's design.
-void computeOptimalRatios(Study& study, const OptimalOptions& options, SizeRatios& ratios);
+std::optional<SizeRatios> computeOptimalRatios(Study& study, const OptimalOptions& options);
 
 /// Whether all levels below the top are set by hand; model, cost and dispersion do not count then.
 bool isFullyByHand(const Study& study, const OptimalOptions& options);

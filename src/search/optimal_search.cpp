@@ -7,7 +7,6 @@
 #include "search/least_sizes.h"
 #include "search/nearby_designs.h"
 #include "search/optimal_ratios.h"
-#include "search/study_keeper.h"
 #include "search/trial_bench.h"
 
 namespace lorvane {
@@ -17,7 +16,7 @@ namespace {
 constexpr double largestSize = 100000000;
 constexpr double largestFirstTop = 110;  // by then a valid design must have been met
 constexpr int runsBetweenLooks = 1000;
-constexpr int slackOfTop = 5;  // so near to its least size a top level with covariates is told of
+constexpr int slackOfTop = 5;  // a top level with covariates this near to its least size gets a note
 
 // Steps of the descent: how far a level shrinks at once, and how far above its least size it must be.
 struct Descent {
@@ -38,7 +37,7 @@ public:
 
 private:
     bool prepareSizes();
-    void raiseLevel1(SizeRatios& ratios);
+    SizeRatios withLevel1Raised(const SizeRatios& ratios);
     void writeLowerSizes(const SizeRatios& ratios);
     void leaveRoomForCovariates(int level, double ratio);
     bool isOver() const { return result_.ending != OptimalEnding::found; }
@@ -64,25 +63,24 @@ private:
 
 // The sizes of the levels below the top; false when the search may not run.
 bool Search::prepareSizes() {
-    SizeRatios ratios;
     resetReadiness(s_.result);
-    computeOptimalRatios(s_, options_, ratios);
-    if (s_.result.xValidOptimal == 1 && s_.isBinary() && !options_.allowLowCellCounts)
-        raiseLevel1(ratios);
-    if (s_.result.xValidOptimal == 0)
+    const std::optional<SizeRatios> ratios = computeOptimalRatios(s_, options_);
+    if (!ratios)
         return false;
-    writeLowerSizes(ratios);
+    const bool mayRaise = s_.isBinary() && !options_.allowLowCellCounts;
+    writeLowerSizes(mayRaise ? withLevel1Raised(*ratios) : *ratios);
     return true;
 }
 
-void Search::raiseLevel1(SizeRatios& ratios) {
+// Level 1 set by hand moves the sizes of the levels above it.
+SizeRatios Search::withLevel1Raised(const SizeRatios& ratios) {
     const std::optional<double> least = GetMinN(s_, bench_.library());
     if (!least || ratios(1) >= *least)
-        return;
+        return ratios;
     result_.level1Raised = true;
     options_.manual(1) = true;
     options_.numReps(1) = *least;
-    computeOptimalRatios(s_, options_, ratios);
+    return computeOptimalRatios(s_, options_).value_or(ratios);
 }
 
 void Search::writeLowerSizes(const SizeRatios& ratios) {
@@ -111,9 +109,9 @@ bool Search::findFirstValid() {
     double n = Getmin(s_, top());
     bench_.trySize(top(), n);
     bool raised = false;
-    while (s_.result.xValid == 0) {
+    while (!s_.result.xValid) {
         if (n >= largestFirstTop) {
-            s_.result.Adjusteddf = 2;
+            s_.result.Adjusteddf = SizeAdjustments::noSolution;
             end(OptimalEnding::noSolution);
             return false;
         }
@@ -122,7 +120,7 @@ bool Search::findFirstValid() {
     }
     first_ = n;
     if (raised && s_.result.txtPower > options_.power)
-        s_.result.Adjusteddf = 1;
+        s_.result.Adjusteddf = SizeAdjustments::topRaised;
     return true;
 }
 
@@ -131,7 +129,7 @@ void Search::raiseTop(double step) {
     while (!bench_.reachesPower() && !isOver()) {
         const double n = bench_.size(top()) + step;
         bench_.trySize(top(), n);
-        if (s_.result.txtCostProblem == 1)
+        if (s_.result.txtCostProblem)
             end(OptimalEnding::costOverflow);
         else if (n > largestSize)
             end(OptimalEnding::noSolution);
@@ -196,7 +194,7 @@ void Search::CallFindM() {
         bench_.setSize(top(), first.sizes(top()) + i);
         DoTweak();
         record();
-        result_.aTrialFailed = result_.aTrialFailed || s_.result.xValid == 0;
+        result_.aTrialFailed = result_.aTrialFailed || !s_.result.xValid;
     }
     chooseBest();
 }
@@ -210,7 +208,7 @@ void Search::chooseBest() {
     }
     bench_.setSizes(result_.cheapest().sizes);
     bench_.compute();
-    if (s_.result.txtCostProblem == 1)
+    if (s_.result.txtCostProblem)
         end(OptimalEnding::costOverflow);
 }
 
@@ -225,48 +223,27 @@ bool Search::covariatesAreTight() const {
 
 void Search::run() {
     end(OptimalEnding::found);
-    s_.result.Adjusteddf = 0;
+    s_.result.Adjusteddf = SizeAdjustments::none;
     if (!prepareSizes())
         end(OptimalEnding::notReady);
     if (!isOver())
         CallFindM();
     if (isOver())
         return;
-    result_.topRaisedForDf = s_.result.Adjusteddf == 1;
+    result_.topRaisedForDf = s_.result.Adjusteddf == SizeAdjustments::topRaised;
     result_.covariatesAreTight = covariatesAreTight();
     result_.nearby = cheaperNearby(bench_, options_, result_.cheapest());
 }
 
-// What a run leaves in the study beside its sizes: why it could not run, and how it ended.
-void keepOutcome(const PowerResult& outcome, PowerResult& result) {
-    result.xValidQ = outcome.xValidQ;
-    result.xValidModel = outcome.xValidModel;
-    result.xValidCost = outcome.xValidCost;
-    result.xValidICC = outcome.xValidICC;
-    result.xValidOmega = outcome.xValidOmega;
-    result.xValidTauSq = outcome.xValidTauSq;
-    result.xValidES = outcome.xValidES;
-    result.xValidTotICC = outcome.xValidTotICC;
-    result.xValidOptimal = outcome.xValidOptimal;
-    result.Adjusteddf = outcome.Adjusteddf;
-    result.txtCostProblem = outcome.txtCostProblem;
-}
-
 }  // namespace
 
-OptimalResult searchOptimalDesign(Study& study, DistributionLibrary& library, const OptimalOptions& options,
-                                  Progress& progress) {
+OptimalResult searchOptimalDesign(StudyTrial trial, const OptimalOptions& options, Progress& progress) {
     OptimalResult result;
-    PowerResult outcome;
-    {
-        const StudyKeeper keeper(study);
-        study.result.txtCostProblem = 0;
-        Search search(study, library, options, progress, result);
-        search.run();
-        result.runs = search.runs();
-        outcome = study.result;
-    }
-    keepOutcome(outcome, study.result);
+    trial.study.result.txtCostProblem = false;
+    Search search(trial.study, trial.library(), options, progress, result);
+    search.run();
+    result.runs = search.runs();
+    result.flags = trial.study.result;
     return result;
 }
 

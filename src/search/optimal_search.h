@@ -1,7 +1,6 @@
 // The search for the cheapest design that reaches a required power: the sizes of the lower levels start from
 // the ratios that cost least, the size of the top level follows from the power, and a few larger top levels
-// are tried with smaller levels below. Every trial is a run of the computation on the study itself, whose
-// sizes are put back at the end. Knows no window.
+// are tried with smaller levels below. Knows no window.
 #pragma once
 
 #include <cstdint>
@@ -9,9 +8,9 @@
 #include <vector>
 
 #include "engine/study.h"
-#include "platform/distribution_library.h"
 #include "platform/progress.h"
 #include "search/optimal_types.h"
+#include "session/study_trial.h"
 
 namespace lorvane {
 
@@ -42,13 +41,12 @@ struct OptimalResult {
     std::vector<SizeChange> changes;  ///< for the degrees of freedom of covariates
     std::optional<Trial> nearby;      ///< a cheaper design found next to the best one
     std::int64_t runs = 0;            ///< runs of the computation
+    PowerResult flags;                ///< readiness, Adjusteddf and txtCostProblem as the run left them
 
     const Trial& cheapest() const { return trials[best]; }
 };
 
-/// Runs the search. The study must have been refreshed and have xValid 1. Its sizes are put back, whatever
-/// happens; the flags of readiness, Adjusteddf and txtCostProblem tell the outcome. Throws ArithmeticFault.
-OptimalResult searchOptimalDesign(Study& study, DistributionLibrary& library, const OptimalOptions& options,
-                                  Progress& progress);
+/// Runs the search on a study that has a power. Throws ArithmeticFault.
+OptimalResult searchOptimalDesign(StudyTrial trial, const OptimalOptions& options, Progress& progress);
 
 }  // namespace lorvane

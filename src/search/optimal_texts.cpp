@@ -11,7 +11,7 @@ namespace {
 
 constexpr int decimalsOfMyStr = 2;
 
-bool iccIs(const Study& s, int metric) { return s.IccMetric == metric; }
+bool iccIs(const Study& s, IccMetrics metric) { return s.IccMetric == metric; }
 
 // A rule of readiness: when it fails, and what it says. The rules for one flag differ by metric and outcome.
 struct Rule {
@@ -19,12 +19,10 @@ struct Rule {
     ReadinessProblem problem;
 };
 
-bool dispersionOfOutcomeIsBad(const Study& s) { return s.outcome.ValidICC(0) == 0; }
-bool dispersionOfEffectIsBad(const Study& s) { return s.effect.ValidTauSq(0) == 0; }
-bool dispersionOfOutcomeIsZero(const Study& s) { return s.result.xValidICC(0) == 0; }
-bool dispersionOfEffectIsZero(const Study& s) {
-    return s.result.xValidTauSq(0) == 0 || s.result.xValidOmega(0) == 0;
-}
+bool dispersionOfOutcomeIsBad(const Study& s) { return !s.outcome.ValidICC(0); }
+bool dispersionOfEffectIsBad(const Study& s) { return !s.effect.ValidTauSq(0); }
+bool dispersionOfOutcomeIsZero(const Study& s) { return !s.result.xValidICC(0); }
+bool dispersionOfEffectIsZero(const Study& s) { return !s.result.xValidTauSq(0) || !s.result.xValidOmega(0); }
 
 template <bool (*fails)(const Study&)>
 bool withIcc(const Study& s) {
@@ -38,18 +36,18 @@ template <bool (*fails)(const Study&)>
 bool withSpanOfRisks(const Study& s) {
     return fails(s) && iccIs(s, IccMetrics::span) && s.isBinary();
 }
-template <bool (*fails)(const Study&), int metric>
+template <bool (*fails)(const Study&), TauSqMetrics metric>
 bool withMetric(const Study& s) {
     return fails(s) && s.TauSqMetric == metric;
 }
 
 const std::vector<Rule>& rules() {
     static const std::vector<Rule> all = {
-        {[](const Study& s) { return s.result.xValidModel(0) == 0; },
+        {[](const Study& s) { return !s.result.xValidModel(0); },
          {"Model is fixed",
           "Optimal design cannot be computed when using a fixed-effect model at any level.",
           {"pnlModel"}}},
-        {[](const Study& s) { return s.result.xValidES == 0; },
+        {[](const Study& s) { return !s.result.xValidES; },
          {"Effect size is zero", "Enter an effect size. Then click <Compute>.", {"pnlEffectSize"}}},
         {withIcc<dispersionOfOutcomeIsBad>,
          {"Problem with ICC", "Please fix problem with the ICCs. Then click <Compute>.", {"pnlICC"}}},
@@ -81,7 +79,7 @@ const std::vector<Rule>& rules() {
          {"Range of risks is zero",
           "Set the range of risks to value greater than zero. Then click <Compute>.",
           {"pnlICC"}}},
-        {[](const Study& s) { return s.result.xValidCost(0) == 0; },
+        {[](const Study& s) { return !s.result.xValidCost(0); },
          {"Cost is zero",
           "Set all costs to values greater than zero. Then click <Compute>.",
           {"pnlCostT", "pnlCostC"}}},
@@ -95,11 +93,11 @@ const std::vector<Rule>& rules() {
           {"pnlTauSq"}}},
         {withMetric<dispersionOfEffectIsZero, TauSqMetrics::omega>,
          {"Omega is zero", "Set all omega to value greater than zero. Then click <Compute>.", {"pnlTauSq"}}},
-        {[](const Study& s) { return s.result.xValidQ(0) == 0; },
+        {[](const Study& s) { return !s.result.xValidQ(0); },
          {"Number of covariates is zero",
           "Set the number of covariates to value greater than zero. Then click <Compute>.",
           {"pnlQ", "pnlRsq"}}},
-        {[](const Study& s) { return s.result.xValidTotICC == 0; },
+        {[](const Study& s) { return !s.result.xValidTotICC; },
          {"Total ICC exceeds 0.999",
           "The total of the ICC values, summed across levels, cannot exceed 0.999.",
           {"pnlICC"}}}};
@@ -148,6 +146,25 @@ std::vector<ReadinessProblem> readinessProblems(const Study& study) {
             problems.push_back(rule.problem);
     }
     return problems;
+}
+
+OptimalFailure optimalFailure(OptimalEnding ending, const std::vector<ReadinessProblem>& problems) {
+    switch (ending) {
+    case OptimalEnding::noSolution:
+        return {"",
+                "The program has not been able to find a solution. Please save the study and send it to the "
+                "makers of Lorvane, so that they can look into it."};
+    case OptimalEnding::costOverflow:
+        return {"", "Cannot compute because the cost has exceeded the computer's memory."};
+    case OptimalEnding::stopped:
+        return {"", "The search was stopped. Click <Compute> to start it again."};
+    case OptimalEnding::notReady:
+    case OptimalEnding::found:
+        break;
+    }
+    if (problems.empty())
+        return {wizardTitle, modifyData};
+    return {problems.back().title, problems.back().text};
 }
 
 std::string MyStr(double value) {

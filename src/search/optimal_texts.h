@@ -5,8 +5,8 @@
 #include <vector>
 
 #include "engine/study.h"
-#include "screen/currency.h"
 #include "search/optimal_search.h"
+#include "session/currency.h"
 
 namespace lorvane {
 
@@ -22,6 +22,16 @@ std::vector<ReadinessProblem> readinessProblems(const Study& study);
 
 /// The shortest text of a number with at most two decimals.
 std::string MyStr(double value);
+
+inline constexpr const char* wizardTitle = "  Optimal design wizard";
+inline constexpr const char* modifyData = "Please modify data and try again.            ";
+
+/// Why a run gave no design.
+struct OptimalFailure {
+    std::string title;  ///< empty where there is none
+    std::string text;
+};
+OptimalFailure optimalFailure(OptimalEnding ending, const std::vector<ReadinessProblem>& problems);
 
 /// The notes of a finished run, a paragraph each. The options are those of the run.
 std::vector<std::string> optimalNotes(const Study& study, const OptimalResult& result,

@@ -7,27 +7,23 @@
 #include "base/money.h"
 #include "base/names.h"
 #include "base/number_text.h"
-#include "screen/spin.h"
 #include "search/optimal_texts.h"
+#include "session/field_words.h"
+#include "session/spin_step.h"
+#include "session/structure.h"
 
 namespace lorvane {
 
 namespace {
 
-constexpr const char* wizardTitle = "  Optimal design wizard";
-constexpr const char* modifyData = "Please modify data and try again.            ";
 constexpr const char* setOptions = "Set options above, then click <Compute>";
 constexpr const char* numbersAreShown = "Numbers are shown here. Click <Paste> to copy to the main screen.";
-constexpr const char* noSolution =
-    "The program has not been able to find a solution. Please save the study and send it to the makers of "
-    "Lorvane, so that they can look into it.";
-constexpr const char* outOfMemory = "Cannot compute because the cost has exceeded the computer's memory.";
-constexpr const char* stopped = "The search was stopped. Click <Compute> to start it again.";
 constexpr const char* pasted = "Click <Reset> to modify options or <Close> to close this panel";
 constexpr int resetButton = 1, computeButton = 2, pasteButton = 3, closeButton = 4;
 constexpr double smallestSize = 1;
 constexpr double largestSize = 1000000;
 constexpr int powerDecimals = 5;
+constexpr int shownPowerDecimals = 4;
 
 // Number of the outline and the cells of every field that a reason marks, from the lowest level that has it.
 struct MarkedField {
@@ -51,6 +47,20 @@ std::string joined(const std::vector<std::string>& paragraphs, const char* betwe
     for (const std::string& paragraph : paragraphs)
         text += (text.empty() ? "" : between) + paragraph;
     return text;
+}
+
+OptimalWindow::State stateAfter(OptimalEnding ending) {
+    switch (ending) {
+    case OptimalEnding::found:
+        return OptimalWindow::State::result;
+    case OptimalEnding::notReady:
+    case OptimalEnding::noSolution:
+        return OptimalWindow::State::problem;
+    case OptimalEnding::costOverflow:
+    case OptimalEnding::stopped:
+        break;
+    }
+    return OptimalWindow::State::message;
 }
 
 void mark(Design& design, const ReadinessProblem& problem) {
@@ -95,8 +105,7 @@ private:
 
 }  // namespace
 
-OptimalWindow::OptimalWindow(Design& design, DistributionLibrary& library, Progress& progress)
-    : design_(design), library_(library), progress_(progress) {
+OptimalWindow::OptimalWindow(Design& design, Progress& progress) : design_(design), progress_(progress) {
     pnlAdjustOuter_.Visible = false;
     pnlAdjustInnerTitle_.Caption = "Notes";
     for (const auto& [button, caption] : {std::pair{resetButton, "Reset"},
@@ -104,18 +113,31 @@ OptimalWindow::OptimalWindow(Design& design, DistributionLibrary& library, Progr
                                           {pasteButton, "Paste"},
                                           {closeButton, "Close"}})
         cmdOpt_(button).Caption = caption;
+    writeHeads();
     DisplayOptimalOptions();
-    design_.follow(RefreshFollower::optimal, [this] { ReDisplayOptimal(); });
 }
 
 void OptimalWindow::registerNames(ControlRegistry& registry) const {
-    const std::pair<const char*, const Panel*> panels[] = {
-        {"pnlFindPower", &pnlFindPower_},       {"pnlOptimalTitle", &pnlOptimalTitle_},
-        {"pnlOptimalInner", &pnlOptimalInner_}, {"pnlOptimalCost", &pnlOptimalCost_},
-        {"pnlOptimalNote", &pnlOptimalNote_},   {"pnlAdjustOuter", &pnlAdjustOuter_},
-        {"pnlAdjustInner", &pnlAdjustInner_},   {"pnlAdjustInnerTitle", &pnlAdjustInnerTitle_}};
+    const std::pair<const char*, const Panel*> panels[] = {{"pnlFindPower", &pnlFindPower_},
+                                                           {"pnlOptimalTitle", &pnlOptimalTitle_},
+                                                           {"pnlOptimalInner", &pnlOptimalInner_},
+                                                           {"pnlOptimalCost", &pnlOptimalCost_},
+                                                           {"pnlOptimalNote", &pnlOptimalNote_},
+                                                           {"pnlAdjustOuter", &pnlAdjustOuter_},
+                                                           {"pnlAdjustInner", &pnlAdjustInner_},
+                                                           {"pnlAdjustInnerTitle", &pnlAdjustInnerTitle_},
+                                                           {"pnlProblem", &pnlProblem_},
+                                                           {"pnlCostWords", &pnlCostWords_},
+                                                           {"pnlCostNumber", &pnlCostNumber_},
+                                                           {"lblLevel", &lblLevel_},
+                                                           {"lblGroup(1)", &lblGroup_(1)},
+                                                           {"lblGroup(2)", &lblGroup_(2)},
+                                                           {"lblPlot", &lblPlot_},
+                                                           {"lblPlotSize", &lblPlotSize_},
+                                                           {"lblPlotBest", &lblPlotBest_}};
     for (const auto& [name, panel] : panels)
         registry.add(std::string("frmOptimal.") + name, *panel);
+    registry.add("frmOptimal.State", [this]() -> ControlValue { return static_cast<double>(state_); });
     for (int button = resetButton; button <= closeButton; ++button)
         registry.add(indexedName("frmOptimal.cmdOpt", button), cmdOpt_(button));
     for (int level = lowestLevel; level <= highestLevel; ++level) {
@@ -125,6 +147,7 @@ void OptimalWindow::registerNames(ControlRegistry& registry) const {
         };
         registry.add(named("optPanelName"), row.optPanelName);
         registry.add(named("pnlRole"), row.pnlRole);
+        registry.add(named("pnlSearched"), row.pnlSearched);
         registry.add(named("OptimalpnlNT"), row.OptimalpnlNT);
         registry.add(named("OptimalpnlNC"), row.OptimalpnlNC);
         registry.add(named("OptimalpnlNB"), row.OptimalpnlNB);
@@ -133,17 +156,17 @@ void OptimalWindow::registerNames(ControlRegistry& registry) const {
         registry.add(named("optAuto"), row.optAuto);
         registry.add(named("optManual"), row.optManual);
         registry.add(named("txtNumReps"), &row.txtNumReps);
+        registry.add(named("txtNumReps") + ".Text", &row.size.Text);
+        registry.add(named("txtNumReps") + ".Visible", &row.size.Visible);
         registry.add(named("OptimalspnNT") + ".Visible", &row.OptimalspnNT);
         registry.add(named("OptimalspnNC") + ".Visible", &row.OptimalspnNC);
         registry.add(named("OptimalspnNB") + ".Visible", &row.OptimalspnNB);
     }
     registry.addGrid("vsA", vsA_);
+    registry.addGrid("frmOptimal.vsTrials", vsTrials_);
 }
 
 void OptimalWindow::registerEvents(EventRegistry& events) {
-    events.onTool("gfrmOptimal", [this] { open(); });
-    events.onTool("Find optimal n per cluster", [this] { openAndCompute(false); });
-    events.onTool("Find M", [this] { openAndCompute(true); });
     for (int level = lowestLevel; level <= highestFreeLevel; ++level)
         registerRow(events, level);
     registerButtons(events);
@@ -177,12 +200,17 @@ void OptimalWindow::registerButtons(EventRegistry& events) {
     events.onClick("frmOptimal.cmdAdjustClose", [this] { pnlAdjustOuter_.Visible = false; });
 }
 
-bool OptimalWindow::isOpen() const {
-    return design_.windows().state(WindowId::frmOptimal) == WindowStates::open;
+bool OptimalWindow::isOpen() const { return design_.isOpen(WindowId::frmOptimal); }
+
+// An edit takes the result away: it must not be pasted onto another study.
+void OptimalWindow::follow(const Changed& changed) {
+    writeHeads();
+    if (changed.reach == Reach::study || changed.reach == Reach::anew)
+        ReDisplayOptimal();
 }
 
 void OptimalWindow::open() {
-    if (design_.study().result.xValid != 1) {
+    if (!design_.study().result.xValid) {
         design_.ask(wizardTitle, modifyData);
         return;
     }
@@ -224,9 +252,19 @@ void OptimalWindow::DisplayOptimalOptions() {
         row.optAuto = {"Use optimal number", true};
         row.optManual = {"Set manually", false};
         const double size = s.isBlocked(level) ? s.txtNB(level) : s.txtNT(level);
-        row.txtNumReps = std::clamp(size, smallestSize, largestSize);
+        setSize(level, std::clamp(size, smallestSize, largestSize));
     }
     requiredPower_.reset();
+}
+
+void OptimalWindow::setSize(int level, double size) {
+    rows_(level).txtNumReps = size;
+    rows_(level).size.Text = shortestText(size);
+}
+
+void OptimalWindow::writeHeads() {
+    for (int group = 1; group <= lblGroup_.last; ++group)
+        lblGroup_(group).Caption = design_.study().txtGroupName(group);
 }
 
 double OptimalWindow::requiredPower() const { return requiredPower_.value_or(design_.study().ReqPower); }
@@ -239,15 +277,19 @@ void OptimalWindow::ReDisplayOptimal() {
                             percentText(requiredPower()) + ", using the following settings";
     for (int level = lowestLevel; level <= highestLevel; ++level)
         writeRow(level);
-    shown_ = false;
-    pnlOptimalCost_.Caption.clear();
-    pnlOptimalNote_.Caption.clear();
-    pnlAdjustOuter_.Visible = false;
-    vsA_.rows.clear();
+    forgetResult();
     clearProblems();
-    say("", setOptions);
+    say(State::message, "", setOptions);
     showButtons(true, true, false, true);
     primary_ = computeButton;
+}
+
+void OptimalWindow::forgetResult() {
+    for (Panel* panel : {&pnlOptimalCost_, &pnlCostNumber_, &pnlOptimalNote_})
+        panel->Caption.clear();
+    pnlAdjustOuter_.Visible = false;
+    vsA_.rows.clear();
+    vsTrials_.rows.clear();
 }
 
 void OptimalWindow::writeRow(int level) {
@@ -257,12 +299,15 @@ void OptimalWindow::writeRow(int level) {
     row.isTop = level == s.NumLevels;
     row.optPanelName.Caption = s.txtName(level);
     row.pnlRole.Caption = design_.screen().pnlLevel(level).Caption;
+    row.role = design_.screen().roles(level);
     const bool free = level < s.NumLevels;
     row.optAuto.Visible = row.optManual.Visible = free;
     row.optAuto.Enabled = row.optManual.Enabled = true;
     const bool manual = free && isManual(level);
     row.OptimalspnNT = row.OptimalspnNC = manual && !s.isBlocked(level);
     row.OptimalspnNB = manual && s.isBlocked(level);
+    row.arrows =
+        indexedName(s.isBlocked(level) ? "frmOptimal.OptimalspnNB" : "frmOptimal.OptimalspnNT", level);
     if (row.isTop)
         writeCells(level, "Find", "Find number");
     else if (manual)
@@ -297,9 +342,17 @@ void OptimalWindow::showButtons(bool reset, bool compute, bool paste, bool close
     cmdOpt_(closeButton).Visible = close;
 }
 
-void OptimalWindow::say(std::string title, std::string text) {
+// With a result the rows show what was found, in the place of what is searched for and of the sizes to set.
+void OptimalWindow::say(State state, std::string title, std::string text) {
+    state_ = state;
+    pnlProblem_.Caption = trimmed(title);
     pnlOptimalTitle_.Caption = std::move(title);
     pnlOptimalInner_.Caption = std::move(text);
+    for (int level = lowestLevel; level <= highestLevel; ++level) {
+        LevelRow& row = rows_(level);
+        row.pnlSearched.Visible = row.isTop && !hasResult();
+        row.size.Visible = (row.OptimalspnNT || row.OptimalspnNB) && !hasResult();
+    }
 }
 
 void OptimalWindow::choose(int level, bool manual) {
@@ -311,13 +364,8 @@ void OptimalWindow::choose(int level, bool manual) {
     ReDisplayOptimal();
 }
 
-void OptimalWindow::setByHand(int level, double size) {
-    rows_(level).txtNumReps = size;
-    choose(level, true);
-}
-
 void OptimalWindow::writeNumber(int level, double size) {
-    rows_(level).txtNumReps = roundHalfToEven(size);
+    setSize(level, roundHalfToEven(size));
     ReDisplayOptimal();
 }
 
@@ -341,91 +389,70 @@ OptimalOptions OptimalWindow::options() const {
 }
 
 void OptimalWindow::ComputeOptimalDesign() {
-    if (design_.study().result.xValid != 1) {
-        say(wizardTitle, modifyData);
+    if (!design_.study().result.xValid) {
+        say(State::problem, wizardTitle, modifyData);
         return;
     }
     const WhileRunning running(running_);
     const OptimalOptions options = this->options();
     for (int level = lowestLevel; level <= highestLevel; ++level)
         writeRow(level);
-    shown_ = false;
+    forgetResult();
     showButtons(false, false, false, false);
-    say("", setOptions);
+    say(State::message, "", setOptions);
     pnlOptimalInner_.Caption +=
         "                          Iterating (" + std::to_string(options.iterations) + " iterations) .";
     for (int level = lowestLevel; level <= highestFreeLevel; ++level)
         rows_(level).optAuto.Enabled = rows_(level).optManual.Enabled = !isManual(level);
     Dots dots(pnlOptimalInner_.Caption, progress_);
-    result_ = searchOptimalDesign(design_.study(), library_, options, dots);
+    Session& session = design_.session();
+    result_ = searchOptimalDesign(session.trial(), options, dots);
+    session.keepSearchOutcome(result_.flags);
     if (result_.aTrialFailed)
         design_.ask(wizardTitle,
                     "The program has encountered a problem in trying to find the optimal design.");
     // The refresh takes some of the flags back that tell why the search cannot run.
     const std::vector<ReadinessProblem> problems = readinessProblems(design_.study());
-    refreshUnchanged();
+    session.refresh();
     for (int level = lowestLevel; level <= highestLevel; ++level)
         writeRow(level);
     show(options, problems);
 }
 
-// The study is as it was before the run, also as far as the disk is concerned.
-void OptimalWindow::refreshUnchanged() {
-    const bool asSaved = design_.isAsSaved();
-    design_.DoRefresh(true);
-    if (asSaved)
-        design_.noteAsSaved();
-}
-
 void OptimalWindow::show(const OptimalOptions& options, const std::vector<ReadinessProblem>& problems) {
-    switch (result_.ending) {
-    case OptimalEnding::found:
+    if (result_.ending == OptimalEnding::found)
         showFound(options);
-        break;
-    case OptimalEnding::notReady:
-        showNotReady(problems);
-        break;
-    case OptimalEnding::noSolution:
-        pnlOptimalCost_.Caption = "Solution not found. ";
-        showWithout("", noSolution);
-        break;
-    case OptimalEnding::costOverflow:
-        showWithout("", outOfMemory);
-        break;
-    case OptimalEnding::stopped:
-        showWithout("", stopped);
-        break;
-    }
+    else
+        showNone(problems);
 }
 
-void OptimalWindow::showWithout(std::string title, std::string text) {
-    say(std::move(title), std::move(text));
+void OptimalWindow::showNone(const std::vector<ReadinessProblem>& problems) {
+    if (result_.ending == OptimalEnding::notReady) {
+        for (const ReadinessProblem& problem : problems)
+            mark(design_, problem);
+    }
+    const OptimalFailure failure = optimalFailure(result_.ending, problems);
+    say(stateAfter(result_.ending), failure.title, failure.text);
+    if (result_.ending == OptimalEnding::noSolution) {
+        pnlOptimalCost_.Caption = "Solution not found. ";
+        pnlProblem_.Caption = trimmed(pnlOptimalCost_.Caption);
+    }
     showButtons(true, true, false, true);
     primary_ = computeButton;
-}
-
-// All failing fields are marked; the last reason is the one that is read.
-void OptimalWindow::showNotReady(const std::vector<ReadinessProblem>& problems) {
-    for (const ReadinessProblem& problem : problems)
-        mark(design_, problem);
-    if (problems.empty())
-        showWithout(wizardTitle, modifyData);
-    else
-        showWithout(problems.back().title, problems.back().text);
 }
 
 void OptimalWindow::showFound(const OptimalOptions& options) {
     const Currency& currency = design_.settings().currency;
     const std::vector<std::string> notes = optimalNotes(design_.study(), result_, options, currency);
-    shown_ = true;
     showSizes();
     showTrials();
-    costFigure_ = optimalCostText(result_, currency);
-    pnlOptimalCost_.Caption = "Cost = " + costFigure_;
+    showTable();
+    pnlCostNumber_.Caption = optimalCostText(result_, currency);
+    pnlOptimalCost_.Caption = pnlCostWords_.Caption + pnlCostNumber_.Caption;
     pnlOptimalNote_.Caption = numbersAreShown;
     std::vector<std::string> paragraphs = {pnlOptimalCost_.Caption, numbersAreShown};
     paragraphs.insert(paragraphs.end(), notes.begin(), notes.end());
-    say("", joined(paragraphs, "\n"));
+    say(stateAfter(result_.ending), "", joined(paragraphs, "\n"));
     pnlAdjustInner_.Caption = joined(notes, "\n\n");
     pnlAdjustOuter_.Visible = !notes.empty();
     showButtons(true, true, true, true);
@@ -439,7 +466,7 @@ void OptimalWindow::showSizes() {
         const std::string size = shortestText(sizes(level));
         writeCells(level, size, size);
         if (!isManual(level))
-            rows_(level).txtNumReps = std::min(sizes(level), largestSize);
+            setSize(level, std::min(sizes(level), largestSize));
     }
 }
 
@@ -461,16 +488,31 @@ void OptimalWindow::showTrials() {
     }
 }
 
+// The trials for people to read, in a table and in words beside their plot.
+void OptimalWindow::showTable() {
+    const Study& s = design_.study();
+    Grid::Row heads;
+    for (int level = s.NumLevels; level >= lowestLevel; --level)
+        heads.emplace_back(trimmed(s.txtName(level)));
+    const std::string units = inSentence(heads.front());
+    lblPlotSize_.Caption = "Number of " + units + (s.isBlocked(s.NumLevels) ? "" : " per group");
+    heads.insert(heads.end(), {"Cost", "Power"});
+    vsTrials_.rows = {std::move(heads)};
+    for (const Trial& trial : result_.trials) {
+        Grid::Row& row = vsTrials_.rows.emplace_back();
+        for (int level = s.NumLevels; level >= lowestLevel; --level)
+            row.push_back(shortestText(trial.sizes(level)));
+        row.push_back(groupedText(trial.cost));
+        row.push_back(fixedText(trial.power, shownPowerDecimals));
+    }
+}
+
 void OptimalWindow::paste() {
-    if (!shown_)
+    if (!hasResult())
         return;
     const WhileRunning running(running_);
-    Study& s = design_.study();
-    const LevelSizes& sizes = result_.cheapest().sizes;
-    for (int level = lowestLevel; level <= s.NumLevels; ++level)
-        s.txtNT(level) = s.txtNC(level) = s.txtNB(level) = sizes(level);
-    design_.DoRefresh(true);
-    say("", pasted);
+    pasteSizes(design_.session(), result_.cheapest().sizes);
+    say(State::result, "", pasted);
     pnlOptimalNote_.Caption = pasted;
     showButtons(true, false, false, true);
     primary_ = closeButton;

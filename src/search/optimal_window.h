@@ -18,24 +18,44 @@ namespace lorvane {
 
 class OptimalWindow {
 public:
+    /// What the band below the levels tells.
+    enum class State {
+        message,  ///< what to do, or that the search goes on
+        problem,
+        result
+    };
+
     /// The row of one level.
     struct LevelRow {
         bool Visible = false;  ///< the study has the level
         bool isTop = false;    ///< its number is searched for: it has no options
-        Panel optPanelName;    ///< plural name of the units
-        Panel pnlRole;         ///< "(Nested)", "(Randomized)" or "(Blocked)"
+        Panel pnlSearched{"The number that is searched for", false};  ///< until it is found
+        Panel optPanelName;                                           ///< plural name of the units
+        Panel pnlRole;  ///< "(Nested)", "(Randomized)" or "(Blocked)"
+        LevelRole role = LevelRole::nested;
         Option optAuto, optManual;
         double txtNumReps = 1;                           ///< size set by hand, or found
+        TextBox size;                                    ///< the box to set it
+        std::string arrows;                              ///< name of the arrows of the box
         Panel OptimalpnlNT, OptimalpnlNC, OptimalpnlNB;  ///< what each arm, or the block, will have
         bool OptimalspnNT = false, OptimalspnNC = false, OptimalspnNB = false;  ///< arrows are shown
     };
 
-    OptimalWindow(Design& design, DistributionLibrary& library, Progress& progress);
+    OptimalWindow(Design& design, Progress& progress);
     OptimalWindow(const OptimalWindow&) = delete;
     OptimalWindow& operator=(const OptimalWindow&) = delete;
 
     void registerNames(ControlRegistry& registry) const;
     void registerEvents(EventRegistry& events);
+
+    /// Brings the wizard into step with a change of the session.
+    void follow(const Changed& changed);
+
+    /// Opens the wizard, or tells why it cannot be used.
+    void open();
+
+    /// Opens it and searches at once, with all lower levels left to the search or as the study has them.
+    void openAndCompute(bool byHand);
 
     /// Rewrites the level rows for the present levels, everything left to the search.
     void DisplayOptimalOptions();
@@ -46,21 +66,24 @@ public:
     /// The whole run. The study is as before afterwards. Throws ArithmeticFault.
     void ComputeOptimalDesign();
 
-    /// A level is set by hand at a size of 1 or more, or left to the search.
-    void setByHand(int level, double size);
-
     /// The power that a run must reach when it is not the study's own.
     void requirePower(double power) { requiredPower_ = power; }
 
     /// Writes the sizes found into the study; nothing without a result.
     void paste();
 
+    State state() const noexcept { return state_; }
+
     const LevelRow& row(int level) const { return rows_(level); }
-    const Panel& pnlFindPower() const { return pnlFindPower_; }        ///< the title line
-    const Panel& pnlOptimalTitle() const { return pnlOptimalTitle_; }  ///< title of a problem; else empty
-    const Panel& pnlOptimalInner() const { return pnlOptimalInner_; }  ///< the running text
+    const Panel& lblLevel() const { return lblLevel_; }                  ///< head of the names
+    const Panel& lblGroup(int group) const { return lblGroup_(group); }  ///< heads of the arms
+    const Panel& pnlFindPower() const { return pnlFindPower_; }          ///< the title line
+    const Panel& pnlOptimalTitle() const { return pnlOptimalTitle_; }    ///< title of a problem; else empty
+    const Panel& pnlOptimalInner() const { return pnlOptimalInner_; }    ///< the running text
     const Panel& pnlOptimalCost() const { return pnlOptimalCost_; }  ///< "Cost = $115,600"; empty without one
-    const std::string& costFigure() const { return costFigure_; }    ///< "$115,600"
+    const Panel& pnlCostWords() const { return pnlCostWords_; }      ///< "Cost = "
+    const Panel& pnlCostNumber() const { return pnlCostNumber_; }    ///< "$115,600"
+    const Panel& pnlProblem() const { return pnlProblem_; }          ///< what the band says of a problem
     const Panel& pnlOptimalNote() const { return pnlOptimalNote_; }  ///< what to do with the sizes found
     const Button& cmdOpt(int button) const { return cmdOpt_(button); }  ///< Reset, Compute, Paste, Close
     int primaryButton() const { return primary_; }                      ///< the next sensible one
@@ -70,52 +93,63 @@ public:
     const Grid& vsA() const {
         return vsA_;
     }  ///< a row a level and one each for cost and power; a column a trial
+
+    /// The trials as they are read: the heads, then a row a trial with its sizes, cost and power.
+    const Grid& vsTrials() const { return vsTrials_; }
+    /// Title of the plot of the trials, what it has across, and the word at the cheapest one.
+    const Panel& lblPlot() const { return lblPlot_; }
+    const Panel& lblPlotSize() const { return lblPlotSize_; }
+    const Panel& lblPlotBest() const { return lblPlotBest_; }
+
     /// The trials of the last run while their result is on display; null otherwise.
     const OptimalResult* result() const { return hasResult() ? &result_ : nullptr; }
     bool isRunning() const noexcept { return running_; }
 
 private:
     bool isOpen() const;
-    bool hasResult() const { return shown_; }
+    bool hasResult() const { return state_ == State::result; }
     bool isManual(int level) const { return rows_(level).optManual.Value; }
     void registerRow(EventRegistry& events, int level);
     void registerButtons(EventRegistry& events);
-    void open();
-    void openAndCompute(bool byHand);
     void pressCompute();
     void close();
     void choose(int level, bool manual);
     void spin(int level, int direction);
     void writeNumber(int level, double size);
+    void writeHeads();
+    void forgetResult();
     void writeRow(int level);
+    void setSize(int level, double size);
     void writeCells(int level, const std::string& arms, const std::string& block);
     void clearProblems();
     void showButtons(bool reset, bool compute, bool paste, bool close);
     OptimalOptions options() const;
     double requiredPower() const;
-    void refreshUnchanged();
     void show(const OptimalOptions& options, const std::vector<ReadinessProblem>& problems);
+    void showNone(const std::vector<ReadinessProblem>& problems);
     void showFound(const OptimalOptions& options);
     void showSizes();
     void showTrials();
-    void showNotReady(const std::vector<ReadinessProblem>& problems);
-    void showWithout(std::string title, std::string text);
-    void say(std::string title, std::string text);
+    void showTable();
+    void say(State state, std::string title, std::string text);
 
     Design& design_;
-    DistributionLibrary& library_;
     Progress& progress_;
     IndexedArray<LevelRow, 1, 4> rows_;
     Panel pnlFindPower_, pnlOptimalTitle_, pnlOptimalInner_, pnlOptimalCost_, pnlOptimalNote_;
+    Panel pnlProblem_, pnlCostWords_{"Cost = "}, pnlCostNumber_;
     Panel pnlAdjustOuter_, pnlAdjustInnerTitle_, pnlAdjustInner_;
+    Panel lblLevel_{"Level"};
+    IndexedArray<Panel, 1, 2> lblGroup_;
+    Panel lblPlot_{"Cost of each trial"}, lblPlotSize_, lblPlotBest_{"lowest cost"};
     IndexedArray<Button, 1, 4> cmdOpt_;
     Grid vsA_;
-    std::string costFigure_;
+    Grid vsTrials_;
     OptimalResult result_;
     std::optional<double> requiredPower_;
+    State state_ = State::message;
     int primary_ = 2;
     bool running_ = false;  ///< refreshes of a run do not reach the wizard
-    bool shown_ = false;    ///< the result is on display
 };
 
 }  // namespace lorvane

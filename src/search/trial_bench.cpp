@@ -11,7 +11,7 @@ void TrialBench::setSizes(const LevelSizes& sizes) {
 }
 
 void TrialBench::compute() {
-    docompute(study_, library_, silent_);
+    docompute(study_, library_);
     ++runs_;
 }
 
@@ -21,7 +21,7 @@ Trial TrialBench::trial() const {
         trial.sizes(level) = size(level);
     trial.cost = study_.result.txtCost;
     trial.power = study_.result.txtPower;
-    trial.valid = study_.result.xValid == 1;
+    trial.valid = study_.result.xValid;
     return trial;
 }
 

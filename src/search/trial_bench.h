@@ -3,7 +3,6 @@
 
 #include <cstdint>
 
-#include "engine/compute_display.h"
 #include "engine/study.h"
 #include "platform/distribution_library.h"
 #include "search/optimal_types.h"
@@ -28,7 +27,7 @@ public:
     }
 
     /// A trial without a valid answer counts as below the required power.
-    bool reachesPower() const { return study_.result.xValid == 1 && study_.result.txtPower >= power_; }
+    bool reachesPower() const { return study_.result.xValid && study_.result.txtPower >= power_; }
 
     /// The sizes of the study's levels, and what the last run gave.
     Trial trial() const;
@@ -41,7 +40,6 @@ private:
     Study& study_;
     DistributionLibrary& library_;
     double power_;
-    SilentDisplay silent_;
     std::int64_t runs_ = 0;
 };
 

@@ -8,6 +8,9 @@ namespace lorvane {
 
 namespace {
 
+constexpr int controlArm = 1;
+constexpr int treatedArm = 2;
+
 void writeArm(CellCountsPanel& panel, int arm, double n, double rate) {
     const int events = 2 * arm - 1;
     panel.pnlN(arm).Caption = shortestText(n);
@@ -17,19 +20,44 @@ void writeArm(CellCountsPanel& panel, int arm, double n, double rate) {
     panel.pnlMean(events + 1).Caption = fixedText(n * (1 - rate), 1);
 }
 
+void writeHeads(const Study& study, CellCountsPanel& panel) {
+    for (int cell = 1; cell <= panel.lblGroup.last; ++cell) {
+        const bool control = CellCountsPanel::armOf(cell) == controlArm;
+        panel.lblGroup(cell).Caption = (control ? study.controlName() : study.treatedName()) +
+                                       (cell % 2 == 1 ? ", events" : ", non-events");
+    }
+}
+
+void showLines(CountLines lines, CellCountsPanel& panel) {
+    panel.lblPctBad.Visible = lines.shares;
+    for (Panel* head : {&panel.lblN, &panel.lblRate, &panel.lblMean})
+        head->Visible = lines.numbers;
+    for (int cell = 1; cell <= panel.lblGroup.last; ++cell) {
+        panel.lblGroup(cell).Visible = panel.pnlPctBad(cell).Visible = lines.shares;
+        panel.pnlRate(cell).Visible = panel.pnlMean(cell).Visible = lines.numbers;
+        panel.pnlN(CellCountsPanel::armOf(cell)).Visible = lines.numbers;
+    }
+}
+
 }  // namespace
 
 void CellColor(Panel& cell, double share) {
     cell.Caption = fixedText(share * 100, 2) + "%";
-    cell.BackColor = share >= lowShare ? problemColour : normalBackground;
+    cell.trouble = share >= lowShare;
+    cell.BackColor = cell.trouble ? problemColour : normalBackground;
 }
 
-void writeCellCounts(const Study& study, CellCountsPanel& panel) {
+void writeCellCounts(const Study& study, CountLines lines, CellCountsPanel& panel) {
+    writeHeads(study, panel);
+    showLines(lines, panel);
+    if (!study.isBinary())
+        return;
     writeArm(panel, controlArm, study.txtNC(1), study.txtPrev);
     writeArm(panel, treatedArm, study.txtNT(1), study.txtEvent2);
-    for (int cell = 1; cell <= 4; ++cell)
+    for (int cell = 1; cell <= panel.pnlPctBad.last; ++cell)
         CellColor(panel.pnlPctBad(cell), study.counts.share(cell));
-    const bool low = study.counts.anyLow == 1;
+    const bool low = study.counts.anyLow;
+    panel.pnlTitle.trouble = low;
     panel.pnlTitle.Caption = low ? "Cell counts are low" : "Cell counts are Ok";
     panel.pnlTitle.BackColor = low ? problemColour : normalBackground;
 }

@@ -14,7 +14,6 @@ namespace {
 
 constexpr std::size_t iccColumns = 17;
 constexpr std::size_t tauSqColumns = 14;
-constexpr double spanOfOneSd = 4;
 
 template <typename Column>
 std::string& cell(Grid::Row& row, Column column) {
@@ -25,14 +24,16 @@ std::string example(double lower, double upper, int decimals) {
     return fixedText(lower, decimals) + " to " + fixedText(upper, decimals);
 }
 
-void limitsOfOutcome(const Study& s, double span, double& lower, double& upper) {
-    if (s.isMeans()) {
-        lower = s.txtMean - span / 2;
-        upper = s.txtMean + span / 2;
-    } else {
-        bool truncated = false;
-        GetRange(s.txtPrev, span, lower, upper, truncated);
-    }
+struct Limits {
+    double lower;
+    double upper;
+};
+
+Limits limitsOfOutcome(const Study& s, double span) {
+    if (s.isMeans())
+        return {s.txtMean - span / 2, s.txtMean + span / 2};
+    const ShiftedRange range = GetRange(s.txtPrev, span);
+    return {range.lower, range.upper};
 }
 
 double sdOfLevel(const Study& s, int level) { return spanOfLevel(s, level) / spanOfOneSd; }
@@ -46,20 +47,11 @@ double shareOfLevel(const Study& s, int level) {
     return share;
 }
 
-bool hasLimits(const Study& s) {
-    return s.isMeans() || s.BinaryType == BinaryTypes::oddsRatio ||
-           s.BinaryType == BinaryTypes::riskDifference;
-}
-
-void limitsOfEffect(const Study& s, double span, double& lower, double& upper) {
+Limits limitsOfEffect(const Study& s, double span) {
     const bool oddsRatio = s.isBinary() && s.BinaryType == BinaryTypes::oddsRatio;
     const double centre = s.isMeans() ? s.txtd : oddsRatio ? std::log(s.txtOR) : s.txtRD;
-    lower = centre - span / 2;
-    upper = centre + span / 2;
-    if (oddsRatio) {
-        lower = std::exp(lower);
-        upper = std::exp(upper);
-    }
+    const Limits limits{centre - span / 2, centre + span / 2};
+    return oddsRatio ? Limits{std::exp(limits.lower), std::exp(limits.upper)} : limits;
 }
 
 Grid::Row iccCells(const Study& s, int level, bool sumIsGood) {
@@ -95,11 +87,11 @@ Grid::Row tauSqCells(const Study& s, int level) {
     const TauSqRow row = tauSqRow(s, level);
     const int decimals = s.isMeans() ? 2 : 3;
     cell(cells, Level) = cell(cells, LevelC) = s.txtName(level);
-    if (s.effect.ValidTauSq(0) == 0)
+    if (!s.effect.ValidTauSq(0))
         return cells;
     cell(cells, TauSqW) = shortestText(row.tauSquared);
     cell(cells, SpanW) = shortestText(row.span);
-    if (s.effect.ValidOmega(level) == 1)
+    if (s.effect.ValidOmega(level))
         cell(cells, OmegaW) = shortestText(row.omega);
     cell(cells, TauSqC) = shortestText(row.cumulativeTauSquared);
     cell(cells, SpanC) = shortestText(row.cumulativeSpan);
@@ -137,25 +129,33 @@ IccRow iccRow(const Study& s, int level) {
         variance += sdOfLevel(s, k) * sdOfLevel(s, k);
     }
     row.cumulativeSD = std::sqrt(variance);
-    limitsOfOutcome(s, spanOfOneSd * row.SD, row.lower, row.upper);
-    limitsOfOutcome(s, spanOfOneSd * row.cumulativeSD, row.cumulativeLower, row.cumulativeUpper);
+    const Limits own = limitsOfOutcome(s, spanOfOneSd * row.SD);
+    row.lower = own.lower;
+    row.upper = own.upper;
+    const Limits cumulative = limitsOfOutcome(s, spanOfOneSd * row.cumulativeSD);
+    row.cumulativeLower = cumulative.lower;
+    row.cumulativeUpper = cumulative.upper;
     return row;
 }
 
 TauSqRow tauSqRow(const Study& s, int level) {
     TauSqRow row;
     row.level = level;
-    row.hasLimits = hasLimits(s);
+    row.hasLimits = s.isTested();
     row.tauSquared = s.effect.txtTauSq(level);
     row.span = s.effect.txtSpan(level);
     row.omega = s.effect.txtOmega(level);
     for (int k = s.NumLevels; k >= level; --k)
         row.cumulativeTauSquared += s.effect.txtTauSq(k);
     row.cumulativeSpan = spanOfOneSd * std::sqrt(row.cumulativeTauSquared);
-    if (row.hasLimits) {
-        limitsOfEffect(s, row.span, row.lower, row.upper);
-        limitsOfEffect(s, row.cumulativeSpan, row.cumulativeLower, row.cumulativeUpper);
-    }
+    if (!row.hasLimits)
+        return row;
+    const Limits own = limitsOfEffect(s, row.span);
+    row.lower = own.lower;
+    row.upper = own.upper;
+    const Limits cumulative = limitsOfEffect(s, row.cumulativeSpan);
+    row.cumulativeLower = cumulative.lower;
+    row.cumulativeUpper = cumulative.upper;
     return row;
 }
 

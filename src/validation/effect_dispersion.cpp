@@ -9,25 +9,26 @@ namespace lorvane {
 
 namespace {
 
-constexpr double spanOfOneSd = 4;
 constexpr double widestSpanOfRiskDifferences = 1.99;
 
-void setFlags(EffectDispersion& effect, int level, int flag) {
+void setFlags(EffectDispersion& effect, int level, bool flag) {
     effect.ValidTauSq(level) = effect.ValidSpan(level) = effect.ValidOmega(level) = flag;
     effect.ShowTauSq(level) = effect.ShowSpan(level) = effect.ShowOmega(level) = flag;
 }
 
-void setAllFlags(EffectDispersion& effect, int flag) {
+void setAllFlags(EffectDispersion& effect, bool flag) {
     for (int level = 2; level <= highestLevel; ++level)
         setFlags(effect, level, flag);
     effect.ValidTauSq(0) = flag;
 }
 
 void hideOmega(EffectDispersion& effect, int level) {
-    effect.ValidOmega(level) = effect.ShowOmega(level) = 0;
+    effect.ValidOmega(level) = effect.ShowOmega(level) = false;
 }
 
-void hideSpan(EffectDispersion& effect, int level) { effect.ValidSpan(level) = effect.ShowSpan(level) = 0; }
+void hideSpan(EffectDispersion& effect, int level) {
+    effect.ValidSpan(level) = effect.ShowSpan(level) = false;
+}
 
 // Without variance at a level omega has no meaning; that matters only where omega is what the user enters.
 TauSqMessage judgeZeroIcc(Study& s) {
@@ -36,7 +37,7 @@ TauSqMessage judgeZeroIcc(Study& s) {
         if (s.txtICC(level) != 0)
             continue;
         if (s.TauSqMetric == TauSqMetrics::omega) {
-            setFlags(s.effect, level, 0);
+            setFlags(s.effect, level, false);
             message = TauSqMessage::omegaUndefined;
         } else {
             hideOmega(s.effect, level);
@@ -101,7 +102,7 @@ void convertLevel(Study& s, int level) {
         effect.txtTauSq(level) = s.txtDRange(level) * s.txtDRange(level) / (spanOfOneSd * spanOfOneSd);
         deriveOmega(s, level, effect.txtTauSq(level));
         break;
-    default:
+    case TauSqMetrics::tauSquared:
         effect.txtTauSq(level) = s.txtTauSq(level);
         deriveSpan(s, level, effect.txtTauSq(level));
         deriveOmega(s, level, effect.txtTauSq(level));
@@ -114,8 +115,8 @@ bool rangeOfRiskDifferencesIsTooWide(Study& s) {
         return false;
     bool tooWide = false;
     for (int level = firstBlockedLevel(s); level <= s.NumLevels; ++level) {
-        if (s.effect.ValidSpan(level) == 1 && s.effect.txtSpan(level) > widestSpanOfRiskDifferences) {
-            s.effect.ValidTauSq(level) = s.effect.ValidSpan(level) = 0;
+        if (s.effect.ValidSpan(level) && s.effect.txtSpan(level) > widestSpanOfRiskDifferences) {
+            s.effect.ValidTauSq(level) = s.effect.ValidSpan(level) = false;
             tooWide = true;
         }
     }
@@ -127,10 +128,10 @@ void summarise(Study& s) {
     EffectDispersion& effect = s.effect;
     for (int level = firstBlockedLevel(s); level <= s.NumLevels; ++level) {
         if (effect.txtTauSq(level) < 0)
-            effect.ValidTauSq(level) = 0;
-        const bool omegaAtFault = s.TauSqMetric == TauSqMetrics::omega && effect.ValidOmega(level) == 0;
-        if (effect.ValidTauSq(level) == 0 || effect.ValidSpan(level) == 0 || omegaAtFault)
-            effect.ValidTauSq(0) = 0;
+            effect.ValidTauSq(level) = false;
+        const bool omegaAtFault = s.TauSqMetric == TauSqMetrics::omega && !effect.ValidOmega(level);
+        if (!effect.ValidTauSq(level) || !effect.ValidSpan(level) || omegaAtFault)
+            effect.ValidTauSq(0) = false;
     }
 }
 
@@ -138,11 +139,11 @@ void summarise(Study& s) {
 void keepDerivedForms(Study& s) {
     const EffectDispersion& effect = s.effect;
     for (int level = firstBlockedLevel(s); level <= s.NumLevels; ++level) {
-        if (s.TauSqMetric != TauSqMetrics::tauSquared && effect.ValidTauSq(level) == 1)
+        if (s.TauSqMetric != TauSqMetrics::tauSquared && effect.ValidTauSq(level))
             s.txtTauSq(level) = effect.txtTauSq(level);
-        if (s.TauSqMetric != TauSqMetrics::spanOfEffects && effect.ValidSpan(level) == 1)
+        if (s.TauSqMetric != TauSqMetrics::spanOfEffects && effect.ValidSpan(level))
             s.txtDRange(level) = effect.txtSpan(level);
-        if (s.TauSqMetric != TauSqMetrics::omega && effect.ValidOmega(level) == 1)
+        if (s.TauSqMetric != TauSqMetrics::omega && effect.ValidOmega(level))
             s.txtOmega(level) = effect.txtOmega(level);
     }
 }
@@ -183,17 +184,17 @@ const char* tauSqMessageText(TauSqMessage message) {
 int firstBlockedLevel(const Study& study) { return study.isHierarchical() ? 0 : study.RandomizedLevel + 1; }
 
 TauSqMessage SynchTauSq(Study& study) {
-    setAllFlags(study.effect, 1);
+    setAllFlags(study.effect, true);
     if (study.isHierarchical())
         return TauSqMessage::none;
     TauSqMessage message = TauSqMessage::iccNotValid;
-    if (study.outcome.ValidICC(0) == 1)
+    if (study.outcome.ValidICC(0))
         message = convert(study);
     else
-        setAllFlags(study.effect, 0);
+        setAllFlags(study.effect, false);
     copyToLimits(study);
     summarise(study);
-    if (study.outcome.ValidICC(0) == 1)
+    if (study.outcome.ValidICC(0))
         keepDerivedForms(study);
     return message;
 }

@@ -13,7 +13,6 @@ namespace lorvane {
 
 namespace {
 
-constexpr double spanOfOneSd = 4;
 constexpr double largestSumOfIcc = 0.99;
 constexpr double smallestDelta = 0.0001;
 constexpr double largestDelta = 0.1;
@@ -29,9 +28,9 @@ double sumOfIcc(const Study& s) {
 }
 
 void trustAll(OutcomeDispersion& outcome) {
-    outcome.ValidICC.fill(1);
-    outcome.ShowICC.fill(1);
-    outcome.ShowSpan.fill(1);
+    outcome.ValidICC.fill(true);
+    outcome.ShowICC.fill(true);
+    outcome.ShowSpan.fill(true);
 }
 
 // Means, span entered: each level's share of the total variance, level 1 included. Without any span the ICCs
@@ -141,10 +140,10 @@ IccVerdict Verdict::judge() {
 
 // A risk ratio and two risks have no words of their own.
 void Verdict::judgeEffect() {
-    if (s_.result.ValidES == 1)
+    if (s_.result.ValidES)
         return;
-    s_.outcome.ValidICC(0) = 0;
-    s_.outcome.ShowICC.fill(0);
+    s_.outcome.ValidICC(0) = false;
+    s_.outcome.ShowICC.fill(false);
     if (s_.BinaryType == BinaryTypes::oddsRatio || s_.BinaryType == BinaryTypes::riskDifference)
         say(IccMessage::effectAtFault);
 }
@@ -153,13 +152,13 @@ void Verdict::judgeRisks() {
     const bool oddsRatio = s_.BinaryType == BinaryTypes::oddsRatio;
     for (int level = 2; level <= s_.NumLevels; ++level) {
         if (s_.txtMRange(level) >= 1.0) {
-            s_.outcome.ValidICC(level) = 0;
+            s_.outcome.ValidICC(level) = false;
             if (oddsRatio || s_.BinaryType == BinaryTypes::riskDifference)
                 say(IccMessage::spanReachesOne, level);
         }
-        if (oddsRatio && s_.logit.ok(level) == 0) {
-            const int code = s_.logit.error(level);
-            s_.outcome.ValidICC(level) = 0;
+        if (oddsRatio && !s_.logit.ok(level)) {
+            const LogitErrors code = s_.logit.error(level);
+            s_.outcome.ValidICC(level) = false;
             say(IccMessage::logitAtFault, level);
             if (code == LogitErrors::prevalenceTooLow || code == LogitErrors::prevalenceTooHigh)
                 verdict_.offerDelta = true;
@@ -170,22 +169,22 @@ void Verdict::judgeRisks() {
 void Verdict::judgeIndividuals() {
     if (s_.txtMRange(1) >= smallestSpanOfIndividuals)
         return;
-    s_.outcome.ValidICC(1) = 0;
-    s_.outcome.ShowICC.fill(0);
+    s_.outcome.ValidICC(1) = false;
+    s_.outcome.ShowICC.fill(false);
     say(IccMessage::individualsHaveNoSpan, 1);
 }
 
 void Verdict::clearAboveIndividuals() {
     for (int level = 2; level <= highestLevel; ++level)
-        s_.outcome.ValidICC(level) = 0;
+        s_.outcome.ValidICC(level) = false;
 }
 
 void Verdict::judgeSums() {
-    const bool effectIsGood = s_.result.ValidES == 1;
+    const bool effectIsGood = s_.result.ValidES;
     verdict_.sumIsGood = effectIsGood && GetOkICC(s_);
     if (!verdict_.sumIsGood) {
         clearAboveIndividuals();
-        s_.outcome.ShowSpan.fill(0);
+        s_.outcome.ShowSpan.fill(false);
         say(IccMessage::sumOutOfRange);
     }
     if (!effectIsGood || !GetOkICCTreatment(s_)) {
@@ -208,10 +207,10 @@ void Verdict::tellTruncation() {
 // The column that the user types in always shows.
 void Verdict::summarise() {
     for (int level = 1; level <= highestLevel; ++level) {
-        if (s_.outcome.ValidICC(level) == 0)
-            s_.outcome.ValidICC(0) = 0;
+        if (!s_.outcome.ValidICC(level))
+            s_.outcome.ValidICC(0) = false;
     }
-    (s_.IccMetric == IccMetrics::icc ? s_.outcome.ShowICC : s_.outcome.ShowSpan).fill(1);
+    (s_.IccMetric == IccMetrics::icc ? s_.outcome.ShowICC : s_.outcome.ShowSpan).fill(true);
 }
 
 void copyToLimits(Study& s) {
@@ -251,26 +250,19 @@ double MaxICC(const Study& study) {
     return std::min(1 / ((1 - p) * (p * 16)), 1.0);
 }
 
-void GetRange(double mean, double span, double& lower, double& upper, bool& truncated) {
-    truncated = false;
-    lower = mean - span / 2;
-    upper = mean + span / 2;
-    if (lower < 0) {
-        upper += std::fabs(lower);
-        lower = 0;
-        truncated = true;
-    }
-    if (upper > 1) {
-        lower -= upper - 1;
-        upper = 1;
-        truncated = true;
-    }
+ShiftedRange GetRange(double mean, double span) {
+    ShiftedRange range{mean - span / 2, mean + span / 2, false};
+    if (range.lower < 0)
+        range = {0, range.upper + std::fabs(range.lower), true};
+    if (range.upper > 1)
+        range = {range.lower - (range.upper - 1), 1, true};
+    return range;
 }
 
-IccVerdict SynchICC(Study& study, ComputeDisplay& display) {
+IccVerdict SynchICC(Study& study) {
     study.limits.txtDelta = std::clamp(study.limits.txtDelta, smallestDelta, largestDelta);
-    ComputeES(study, display);
-    if (study.result.ValidES == 1) {
+    ComputeES(study);
+    if (study.result.ValidES) {
         trustAll(study.outcome);
         const bool possible =
             study.IccMetric != IccMetrics::icc || (GetOkICC(study) && GetOkICCTreatment(study));

@@ -1,7 +1,6 @@
 // ICC and span of every level, two views of one dispersion: keeps them in step and judges them.
 #pragma once
 
-#include "engine/compute_display.h"
 #include "engine/study.h"
 
 namespace lorvane {
@@ -27,10 +26,9 @@ struct IccVerdict {
 
 /// Brings ICC and span of every level into agreement by ICC Metric, derives the logit variances of a binary
 /// study and judges the values; the outcome stands in study.outcome, index 0 being the summary that the
-/// computation reads. Entered values stay as they are. A span is four standard deviations. Checks the effect
-/// first, since the rates belong to it; display is for that check alone.
+/// computation reads. Entered values stay as they are. Checks the effect first, since the rates belong to it.
 /// Throws ArithmeticFault for an ICC or a span that no formula can turn (a negative ICC, as a file can hold).
-IccVerdict SynchICC(Study& study, ComputeDisplay& display);
+IccVerdict SynchICC(Study& study);
 
 /// True when the ICCs of levels 2 to NumLevels sum to 0.99 or less.
 bool GetOkICC(const Study& study);
@@ -46,6 +44,11 @@ double MaxICC(const Study& study);
 
 /// Range of a span around a mean, shifted to lie within 0 and 1. The lower limit is not held at 0 a second
 /// time. For tables only, never for a power.
-void GetRange(double mean, double span, double& lower, double& upper, bool& truncated);
+struct ShiftedRange {
+    double lower;
+    double upper;
+    bool truncated;
+};
+ShiftedRange GetRange(double mean, double span);
 
 }  // namespace lorvane

@@ -11,8 +11,8 @@ namespace lorvane {
 
 namespace {
 
-void fail(LogitRange& range, int code) {
-    range.ok = 0;
+void fail(LogitRange& range, LogitErrors code) {
+    range.ok = false;
     range.code = code;
 }
 
@@ -28,7 +28,7 @@ void checkLimits(LogitRange& range, double prevalence) {
         fail(range, LogitErrors::excludesPrevalence);
 }
 
-// The lower limit is looked at before the upper one, so a span too wide for both ends as cut at the upper.
+// The lower limit is looked at first. A span that is too wide for both limits counts as cut at the upper one.
 void placeSpan(LogitRange& range, double span, double prevalence, double delta) {
     range.LL = prevalence - span / 2;
     range.UL = prevalence + span / 2;
@@ -48,11 +48,9 @@ void placeSpan(LogitRange& range, double span, double prevalence, double delta) 
         fail(range, LogitErrors::prevalenceTooLow);
     if (prevalence >= 1 - delta)
         fail(range, LogitErrors::prevalenceTooHigh);
-    if (range.ok == 1 && 1 - 2 * delta <= span)
+    if (range.ok && 1 - 2 * delta <= span)
         fail(range, LogitErrors::spanTooWide);
 }
-
-double rateOfLogOdds(double logOdds) { return std::exp(logOdds) / (std::exp(logOdds) + 1); }
 
 }  // namespace
 
@@ -62,7 +60,7 @@ LogitRange GetLogitV(const Study& study, double span, double prevalence, const L
         checkLimits(result, prevalence);
     else
         placeSpan(result, span, prevalence, study.limits.txtDelta);
-    if (result.ok == 0)
+    if (!result.ok)
         return result;
     const double width = Logit(result.UL) - Logit(result.LL);
     result.variance = width * width / 16;
@@ -89,16 +87,10 @@ std::string GetErrMsg(const Study& study, int level) {
                fixedText(study.txtPrev, 3);
     case LogitErrors::cumulativeTooWide:
         return "The cumulative span of risks cannot exceed 1.0";
-    default:
-        return "";
+    case LogitErrors::none:
+        break;
     }
-}
-
-std::string CheckLogitT(double variance, double prevalence, double oddsRatio) {
-    const double a = Logit(prevalence) + std::log(oddsRatio);
-    const double lower = rateOfLogOdds(a - 2 * std::sqrt(variance));
-    const double upper = rateOfLogOdds(a + 2 * std::sqrt(variance));
-    return "LL = " + fixedText(lower, 4) + ",   UL = " + fixedText(upper, 4);
+    return "";
 }
 
 }  // namespace lorvane

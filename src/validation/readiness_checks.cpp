@@ -13,7 +13,7 @@ constexpr double resetSpanOfIndividuals = 10;
 
 void clearUnlessPositive(LevelFlags& flags, double value, int level) {
     if (value <= 0)
-        flags(level) = 0;
+        flags(level) = false;
 }
 
 bool levelHoldsValues(const Study& s, int level) {
@@ -31,7 +31,7 @@ bool levelHoldsValues(const Study& s, int level) {
 void CheckES(Study& study) {
     const bool null = study.isMeans() ? std::fabs(study.txtd) <= largestNullEffect : study.ComputedOR == 1.0;
     if (null)
-        study.result.xValidES = 0;
+        study.result.xValidES = false;
 }
 
 void CheckTotICC(Study& study) {
@@ -39,7 +39,7 @@ void CheckTotICC(Study& study) {
     for (int level = 2; level <= study.NumLevels; ++level)
         sum += study.txtICC(level);
     if (sum >= largestTotalIcc)
-        study.result.xValidTotICC = 0;
+        study.result.xValidTotICC = false;
 }
 
 void CheckCost(Study& study, double cost, int level) {
@@ -58,9 +58,9 @@ void CheckTauSq(Study& study, double tauSquared, int level) {
     clearUnlessPositive(study.result.xValidTauSq, tauSquared, level);
 }
 
-void CheckModel(Study& study, int model, int level) {
+void CheckModel(Study& study, double model, int level) {
     if (model == SamplingModels::fixed)
-        study.result.xValidModel(level) = 0;
+        study.result.xValidModel(level) = false;
 }
 
 bool NeedOk(const Study& study) {

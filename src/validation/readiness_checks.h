@@ -20,7 +20,7 @@ void CheckOmega(Study& study, double omega, int level);
 void CheckTauSq(Study& study, double tauSquared, int level);
 
 /// Clears xValidModel(level) when the level's sampling model is fixed.
-void CheckModel(Study& study, int model, int level);
+void CheckModel(Study& study, double model, int level);
 
 /// True when the study holds an effect, a dispersion, covariates or a span of individuals that differ from
 /// what a reset leaves.

@@ -7,6 +7,7 @@
 
 #include "app/application.h"
 #include "base/arithmetic_fault.h"
+#include "persistence/scenario_cells.h"
 #include "support/test_platform.h"
 
 namespace lorvane {
@@ -52,11 +53,20 @@ protected:
         return "done";
     }
 
+    // Appends a scenario: a new study after a change.
+    void addScenario(ScenarioGrid& grid, const std::string& name, const std::string& description,
+                     const Session::Change& change) {
+        Session session(library, detectCurrency(locale), clock);
+        session.edit({"", Reach::anew, IfFault::show}, change);
+        SaveScenario(grid, session.state(), name, description);
+    }
+
     TestPlatform outside;
     DistributionLibrary& library = outside.library;
     const SystemLocale& locale = outside.locale;
     MemoryFileStore& files = outside.files;
     ScriptedDialogs& messages = outside.messages;
+    SteadyClock clock;
     Application app{outside.platform()};
 };
 

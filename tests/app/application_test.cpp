@@ -1,6 +1,5 @@
 // The program without a face: changes that are whole or not at all, and events that are always announced.
 #include "app_bench.h"
-#include "persistence/scenario_cells.h"
 #include "persistence/study_file.h"
 
 namespace lorvane {
@@ -22,12 +21,9 @@ protected:
     }
     void saveTwoScenarios(const std::string& path) {
         ScenarioGrid grid;
-        for (const auto& [name, d] : {std::pair{"Small", 0.2}, {"Large", 0.8}}) {
-            Design design(library, locale, messages);
-            design.study().txtd = d;
-            design.DoRefresh(true);
-            SaveScenario(grid, design, name, std::string(name) + " effect");
-        }
+        for (const auto& [name, d] : {std::pair{"Small", 0.2}, {"Large", 0.8}})
+            addScenario(grid, name, std::string(name) + " effect",
+                        [d = d](SessionState& state) { state.study.txtd = d; });
         SaveGrid(files, path, grid);
     }
 };
@@ -72,7 +68,7 @@ TEST_F(App, ARefusalKeepsBothStatesOfTheDirtyFlag) {
         if (!dirty)
             app.save("clean");
         EXPECT_NE(setting({{"txtd", 11.0}}), "done");
-        EXPECT_EQ(app.design().settings().StudyDirty, dirty);
+        EXPECT_EQ(app.session().isDirty(), dirty);
     }
 }
 
@@ -89,16 +85,15 @@ TEST_F(App, AnArithmeticFaultOfAChangeIsUndone) {
 
 TEST_F(App, AStudyThatCannotBeComputedOpensAndRecovers) {
     ScenarioGrid grid;
-    Design design(library, locale, messages);
-    design.study().txtNT(1) = design.study().txtNC(1) = 0;
-    SaveScenario(grid, design, "Empty", "");
+    addScenario(grid, "Empty", "",
+                [](SessionState& state) { state.study.txtNT(1) = state.study.txtNC(1) = 0; });
     SaveGrid(files, "faulty", grid);
     app.open("faulty");
     EXPECT_EQ(text("pnlPower.Caption"), "Please modify data");
-    EXPECT_FALSE(app.hasPower());
-    EXPECT_NE(app.whyNoPower().find("please modify the values"), std::string::npos);
+    EXPECT_FALSE(hasPower(app.session()));
+    EXPECT_NE(whyNoPower(app.session()).find("please modify the values"), std::string::npos);
     app.set(Values{{"txtNT(1)", 10.0}, {"txtNC(1)", 10.0}, {"txtd", 0.7}});
-    EXPECT_TRUE(app.hasPower()) << "a study that was saved in trouble is not lost";
+    EXPECT_TRUE(hasPower(app.session())) << "a study that was saved in trouble is not lost";
 }
 
 TEST_F(App, DesignChoicesComeFirstWhateverTheOrder) {
@@ -126,7 +121,7 @@ TEST_F(App, DesignChoicesComeFirstWhateverTheOrder) {
 TEST_F(App, TheLastOfTwoValuesOfAFieldCounts) {
     app.set(Values{{"txtd", 1.0}, {"DType", 2.0}, {"txtd", 2.0}, {"DType", 1.0}});
     EXPECT_EQ(study().txtd, 2);
-    EXPECT_EQ(study().DType, 1);
+    EXPECT_EQ(study().DType, DTypes::within);
     app.set(Values{{"NumLevels", 3.0}, {"NumLevels", 4.0}});
     EXPECT_EQ(study().NumLevels, 4);
 }
@@ -145,11 +140,11 @@ TEST_F(App, SetHoldsTheLimitsOfTheDialogsAndLoadDoesNot) {
 }
 
 TEST_F(App, ParseReadsEveryKind) {
-    EXPECT_EQ(std::get<double>(app.parse("txtd", " -0.5 ").value), -0.5);
-    EXPECT_EQ(std::get<double>(app.parse("NumLevels", "3").value), 3);
-    EXPECT_EQ(std::get<std::string>(app.parse("txtName(1)", " 1 ").value), " 1 ");
+    EXPECT_EQ(std::get<double>(parseAssignment("txtd", " -0.5 ").value), -0.5);
+    EXPECT_EQ(std::get<double>(parseAssignment("NumLevels", "3").value), 3);
+    EXPECT_EQ(std::get<std::string>(parseAssignment("txtName(1)", " 1 ").value), " 1 ");
     for (const auto& [word, flag] : {std::pair{"true", true}, {"FALSE", false}, {"1", true}, {" 0 ", false}})
-        EXPECT_EQ(std::get<bool>(app.parse("Link N2", word).value), flag) << word;
+        EXPECT_EQ(std::get<bool>(parseAssignment("Link N2", word).value), flag) << word;
     const std::tuple<const char*, const char*, const char*> refused[] = {
         {"txtd", "1e999", "txtd takes a number, not \"1e999\"."},
         {"txtd", "0,5", "txtd takes a number, not \"0,5\"."},
@@ -158,7 +153,7 @@ TEST_F(App, ParseReadsEveryKind) {
         {"txtDD", "1", "There is no field \"txtDD\"; the nearest is \"txtd\"."},
         {"link m3", "1", "There is no field \"link m3\"; the nearest is \"Link N3\"."}};
     for (const auto& [name, word, problem] : refused)
-        EXPECT_EQ(problemOf([&, n = name, w = word] { app.parse(n, w); }), problem);
+        EXPECT_EQ(problemOf([&, n = name, w = word] { parseAssignment(n, w); }), problem);
     EXPECT_EQ(problemOf([&] { app.tool("Add levels"); }),
               "There is no tool \"Add levels\"; the nearest is \"Add a level\".");
 }
@@ -171,13 +166,13 @@ TEST_F(App, ScenariosOpenRestoreAndSaveWithTheStudy) {
     EXPECT_EQ(study().txtd, 0.2) << "the first scenario where there is no state of the screen";
     app.restoreScenario("Large");
     EXPECT_EQ(study().txtd, 0.8);
-    EXPECT_TRUE(app.design().settings().StudyDirty);
+    EXPECT_TRUE(app.session().isDirty());
     EXPECT_EQ(problemOf([&] { app.restoreScenario("large one"); }),
               "There is no scenario \"large one\"; the nearest is \"Large\".");
     EXPECT_NE(problemOf([&] { app.restoreScenario(std::string(SystemScenarioName)); }), "done");
     app.set(Values{{"txtd", 0.6}});
     app.save("again");
-    EXPECT_FALSE(app.design().settings().StudyDirty);
+    EXPECT_FALSE(app.session().isDirty());
     app.load(Values{});
     app.open("again");
     EXPECT_EQ(study().txtd, 0.6) << "the state of the screen";
@@ -200,10 +195,11 @@ TEST_F(App, WhyNoPowerSpeaksForEveryGate) {
         {{{"DataType", 2.0}, {"BinaryType", 4.0}}, "The effect metric \"event rate in each group\" has no"}};
     for (const auto& [values, words] : gates) {
         app.load(Values{{"txtd", 0.5}});
-        EXPECT_TRUE(app.hasPower());
+        EXPECT_TRUE(hasPower(app.session()));
         app.load(values);
-        EXPECT_FALSE(app.hasPower()) << words;
-        EXPECT_TRUE(app.whyNoPower().starts_with(words)) << app.whyNoPower() << "\n  wanted " << words;
+        EXPECT_FALSE(hasPower(app.session())) << words;
+        EXPECT_TRUE(whyNoPower(app.session()).starts_with(words))
+            << whyNoPower(app.session()) << "\n  wanted " << words;
     }
 }
 
@@ -212,15 +208,24 @@ TEST_F(App, AnEventIsAnnouncedAfterAFaultAndThePowerAsksForData) {
     app.whenShown([&] { seen.push_back(text("pnlPower.Caption")); });
     fail();
     EXPECT_EQ(seen, std::vector<std::string>{"Please modify data"});
-    EXPECT_FALSE(app.hasPower());
-    EXPECT_TRUE(app.whyNoPower().ends_with("please modify the values entered last."));
+    EXPECT_FALSE(hasPower(app.session()));
+    EXPECT_TRUE(whyNoPower(app.session()).ends_with("please modify the values entered last."));
     EXPECT_THROW(app.click("nothing"), UseProblem);
     EXPECT_THROW(app.close("nothing"), UseProblem);
     EXPECT_EQ(seen.size(), 3u);
-    EXPECT_THROW(app.spin("spnNothing", 1), UseProblem);
-    EXPECT_THROW(app.spin("spnModel(5)", 1), UseProblem);
     EXPECT_THROW(app.type("nothing", ""), UseProblem);
     EXPECT_EQ(seen.size(), 3u);
+}
+
+TEST_F(App, ArrowsThatDoNotExistAreRefusedByTheirName) {
+    int redrawn = 0;
+    app.whenShown([&] { ++redrawn; });
+    const auto before = state();
+    for (const std::string arrows : {"spnNT(5)", "spnNT(0)", "spnNT", "spnXX", "spnModel(5)", "txtNT(2)", "",
+                                     "frmDisplayICC.spnQ(2)", "frmDisplayTauSq.spnIcc(2)"})
+        EXPECT_EQ(problemOf([&] { app.spin(arrows, 1); }), "There are no arrows \"" + arrows + "\".");
+    EXPECT_EQ(changedSince(before), "");
+    EXPECT_EQ(redrawn, 0);
 }
 
 TEST_F(App, AfterAFaultARefusalIsStillToldAsWhatItIs) {
@@ -234,13 +239,13 @@ TEST_F(App, AfterAFaultARefusalIsStillToldAsWhatItIs) {
 // An R-squared above 1, as a file can hold it, makes the variance negative as soon as the ICC grows.
 TEST_F(App, AfterAFaultWhyNoPowerNeverSaysValid) {
     app.load(Values{{"ICC Metric", 1.0}, {"txtRsq(2)", 3.0}, {"txtQ(2)", 1.0}, {"txtd", 0.5}});
-    ASSERT_TRUE(app.hasPower());
+    ASSERT_TRUE(hasPower(app.session()));
     bool failed = false;
     for (int i = 0; i < 20 && !failed; ++i)
         failed = problemOf([&] { app.spin("spnIcc(2)", 1); }) != "done";
     ASSERT_TRUE(failed);
-    EXPECT_FALSE(app.hasPower());
-    EXPECT_TRUE(app.whyNoPower().ends_with("please modify the values entered last."));
+    EXPECT_FALSE(hasPower(app.session()));
+    EXPECT_TRUE(whyNoPower(app.session()).ends_with("please modify the values entered last."));
 }
 
 TEST_F(App, ARefusalOpensNoWindowThatWasClosed) {
@@ -254,7 +259,7 @@ TEST_F(App, ARefusalOpensNoWindowThatWasClosed) {
 
 TEST_F(App, ToolsWithoutASubjectAreThereAndDisabled) {
     for (const char* name : {"gfrmPrint", "Graph", "gfrmTips"}) {
-        const Tool* tool = app.design().tools().find(name);
+        const Tool* tool = app.commands().find(name);
         ASSERT_NE(tool, nullptr) << name;
         EXPECT_FALSE(tool->Enabled) << name;
         EXPECT_EQ(problemOf([&] { app.tool(name); }), "The tool \"" + std::string(name) +
@@ -262,8 +267,8 @@ TEST_F(App, ToolsWithoutASubjectAreThereAndDisabled) {
                                                           tool->ToolTipText + ").");
     }
     app.tool("Add a level");
-    EXPECT_FALSE(app.design().tools().find("Graph")->Enabled) << "also after an event";
-    EXPECT_TRUE(app.design().tools().find("gfrmDetails")->Enabled);
+    EXPECT_FALSE(app.commands().find("Graph")->Enabled) << "also after an event";
+    EXPECT_TRUE(app.commands().find("gfrmDetails")->Enabled);
 }
 
 }  // namespace

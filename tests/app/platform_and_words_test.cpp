@@ -9,7 +9,6 @@
 #include "cli/json_text.h"
 #include "cli/script_words.h"
 #include "os/environment_locale.h"
-#include "persistence/scenario_cells.h"
 #include "persistence/study_file.h"
 
 namespace lorvane {
@@ -54,8 +53,9 @@ TEST(Registry, ReadsTheLiveValueOfEveryKind) {
     EXPECT_EQ(names.names().front(), "real");
     for (const char* name : {"panel", "Real", "grid", ""})
         EXPECT_FALSE(names.read(name).has_value()) << name;
-    EXPECT_EQ(names.grid("grid"), &grid);
-    EXPECT_EQ(names.grid("real"), nullptr);
+    grid.rows = {{"a", "b"}};
+    EXPECT_EQ(names.grid("grid").value().rows, grid.rows);
+    EXPECT_FALSE(names.grid("real").has_value());
     EXPECT_EQ(names.gridNames(), std::vector<std::string>{"grid"});
 }
 
@@ -164,17 +164,21 @@ TEST(Words, TellWhatIsWrong) {
 
 class Printing : public AppBench {
 protected:
+    const Study& study() const { return session.study(); }
     void make(const Values& values) {
-        app.load(values);
-        app.save("s");
+        loadValues(session, values);
+        store.save(session, "s");
     }
     int power(bool json, const std::vector<std::string>& settings = {}, const std::string& scenario = "") {
         out.str("");
         errors.str("");
-        return printPower({"s", settings, scenario, json}, app, out, errors);
+        return printPower({"s", settings, scenario, json}, commands);
     }
 
     std::ostringstream out, errors;
+    Session session{library, detectCurrency(locale), clock};
+    StudyStore store{files, "/program"};
+    CommandLine commands{session, store, out, errors};
 };
 
 TEST_F(Printing, PowerOfAStudyThatHasOne) {
@@ -229,19 +233,19 @@ TEST_F(Printing, PowerThatThereIsNot) {
 }
 
 TEST_F(Printing, NewStudiesAndWrongSettings) {
-    EXPECT_EQ(makeNew({"made", {"NumLevels=3", "txtName(1)=a = b"}}, app, out), ExitCodes::done);
+    EXPECT_EQ(makeNew({"made", {"NumLevels=3", "txtName(1)=a = b"}}, commands), ExitCodes::done);
     EXPECT_EQ(out.str(), "The file made has been saved.\n");
-    app.load(Values{});
-    app.open("made");
+    loadValues(session, {});
+    store.open(session, "made");
     EXPECT_EQ(study().NumLevels, 3);
     EXPECT_EQ(study().txtName(1), "a = b");
     EXPECT_EQ(problemOf([&] {
-                  makeNew({"bad", {"txtd"}}, app, out);
+                  makeNew({"bad", {"txtd"}}, commands);
               }),
               "--set takes FIELD=VALUE, not \"txtd\".");
-    EXPECT_THROW(makeNew({"bad", {"txtd=99"}}, app, out), UseProblem);
+    EXPECT_THROW(makeNew({"bad", {"txtd=99"}}, commands), UseProblem);
     EXPECT_FALSE(files.files.contains("bad"));
-    EXPECT_THROW(printScenarios({"none", false}, app, out), FileProblem);
+    EXPECT_THROW(printScenarios({"none", false}, commands), FileProblem);
 }
 
 class PrintedScenarios : public Printing {
@@ -252,16 +256,15 @@ protected:
         add(1, "Größe");
     }
     void add(double size, const char* name) {
-        Design design(library, locale, messages);
-        design.study().txtNT(2) = design.study().txtNC(2) = size;
-        design.study().txtCostT(2) = 1000;
-        design.DoRefresh(true);
-        SaveScenario(grid, design, name, "x");
+        addScenario(grid, name, "x", [&](SessionState& state) {
+            state.study.txtNT(2) = state.study.txtNC(2) = size;
+            state.study.txtCostT(2) = 1000;
+        });
     }
     std::string print(bool json) {
         SaveGrid(files, "s", grid);
         out.str("");
-        EXPECT_EQ(printScenarios({"s", json}, app, out), ExitCodes::done);
+        EXPECT_EQ(printScenarios({"s", json}, commands), ExitCodes::done);
         return out.str();
     }
 

@@ -37,12 +37,6 @@ TEST(NumberText, AZeroHasNoSign) {
     EXPECT_EQ(shortestText(-0.0), "0");
 }
 
-TEST(NumberText, FormatsCountTheirDecimals) {
-    for (std::size_t decimals = 0; decimals < DecimalFormats.size(); ++decimals)
-        EXPECT_EQ(formatNumber(2.0 / 3, DecimalFormats[decimals]),
-                  fixedText(2.0 / 3, static_cast<int>(decimals)));
-}
-
 TEST(NumberText, GroupsThousands) {
     EXPECT_EQ(groupedText(0), "0");
     EXPECT_EQ(groupedText(999), "999");

@@ -19,6 +19,7 @@
 #include "desktop/menus.h"
 #include "desktop/panels.h"
 #include "os/disk_file_store.h"
+#include "qt/qt_clipboard.h"
 #include "support/test_library.h"
 
 namespace lorvane::desktop {
@@ -109,8 +110,9 @@ protected:
     WatchedMessageBoxes messages;
     MemorySettings settings;
     SlowProgress progress;
+    QtClipboard clipboard;
     Application application{{distributions, locale, files, messages, messages.scripted, settings, "/program",
-                             nullptr, &progress}};
+                             nullptr, &progress, &clipboard}};
     Desk desk{application, messages};
     MainWindow window{desk};
     Panels panels{desk, window};

@@ -27,7 +27,7 @@ class Files : public DesktopBench {
 protected:
     QString path(const char* name) const { return folder.filePath(QString::fromUtf8(name)); }
     std::string local(const char* name) const { return path(name).toStdString(); }
-    int stateOf(WindowId id) const { return desk.design().windows().state(id); }
+    WindowStates stateOf(WindowId id) const { return desk.design().windows().state(id); }
     RecordTable& table() { return *panel("frmScenarios").findChild<RecordTable*>(); }
     StartPage& page() { return *panel("frmStart").findChild<StartPage*>(); }
     std::vector<std::string> names() const {

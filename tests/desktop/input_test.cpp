@@ -11,7 +11,9 @@
 #include <set>
 
 #include "desktop/kit/painted_text.h"
+#include "desktop/kit/record_table.h"
 #include "desktop_bench.h"
+#include "session/field_book.h"
 
 namespace lorvane::desktop {
 namespace {
@@ -120,8 +122,8 @@ TEST_F(Edit, ARefusalKeepsTheDialogAndTheStudy) {
          {"ICC Metric", 1.0}});
     const auto fields = [&] {
         std::vector<FieldValue> values;
-        for (const StudyField& field : application.fields().all())
-            values.push_back(readField(field));
+        forEachField(
+            [&](FieldRef field) { values.push_back(readField(application.session().state(), field)); });
         return values;
     };
     const std::vector<FieldValue> before = fields();
@@ -220,6 +222,41 @@ TEST_F(Keyboard, TabReachesEveryControlAndBack) {
     }
 }
 
+TEST_F(Keyboard, UndoAndCopyServeWhatHasTheFocus) {
+    const double first = study().txtNT(2);
+    clickArrow("pnlNT(2)", 1);
+    for (const auto& [letter, more, size] : {std::tuple{Qt::Key_Z, Qt::NoModifier, first},
+                                             {Qt::Key_Y, Qt::NoModifier, first + 1},
+                                             {Qt::Key_Z, Qt::NoModifier, first},
+                                             {Qt::Key_Z, Qt::ShiftModifier, first + 1}}) {
+        key(letter, Qt::ControlModifier | more);
+        EXPECT_EQ(study().txtNT(2), size) << letter << " " << more;
+    }
+    const auto copied = [&] {
+        key(Qt::Key_C, Qt::ControlModifier);
+        return QGuiApplication::clipboard()->text().toStdString();
+    };
+    EXPECT_TRUE(copied().starts_with("Power = "));
+    cell("pnlNT(2)").setFocus();
+    key(Qt::Key_Return);
+    type("17");
+    key(Qt::Key_Z, Qt::ControlModifier);
+    EXPECT_EQ(study().txtNT(2), first + 1) << "a text that is being typed has an undo of its own";
+    key(Qt::Key_Escape);
+    set({{"txtd", 0.4}});
+    tool("gfrmMDES");
+    key(Qt::Key_Return);
+    EXPECT_TRUE(copied().starts_with(application.mdesWindow().firstLine().Caption));
+    key(Qt::Key_Z, Qt::ControlModifier);
+    EXPECT_EQ(study().txtd, 0) << "the effect that was entered before 0.4";
+    tool("Add scenario");
+    tool("gfrmScenarios");
+    auto* table = panel("frmScenarios").findChild<RecordTable*>();
+    table->setFocus();
+    key(Qt::Key_A, Qt::ControlModifier);
+    EXPECT_TRUE(copied().starts_with("Name\t"));
+}
+
 TEST_F(Keyboard, KeysStepAndOpenTheFocusedCell) {
     cell("pnlNT(2)").setFocus();
     const double first = study().txtNT(2);
@@ -253,7 +290,7 @@ TEST_F(Keyboard, EveryMenuOpensByItsLetter) {
         key(Qt::Key_Escape);
         key(Qt::Key_Escape);
     }
-    EXPECT_EQ(letters.size(), 15U);
+    EXPECT_EQ(letters.size(), 16U);
 }
 
 TEST_F(Keyboard, EveryControlHasAName) {

@@ -12,25 +12,30 @@
 namespace lorvane {
 namespace {
 
-/// Keeps what it is asked to show.
-struct RecordingDisplay final : ComputeDisplay {
-    std::string calls;
-    void note(std::string_view what) { calls.append(what).append("; "); }
-    void note(const std::string& what, int number) { note(what + std::to_string(number)); }
-    void openWindow(WindowId window) override { note("open ", static_cast<int>(window)); }
-    void withdrawWindow(WindowId window) override { note("withdraw ", static_cast<int>(window)); }
-    void showEffect() override { note("effect"); }
-    void showEffectProblem() override { note("effect problem"); }
-    void askForData(std::string_view request) override { note(request); }
-    void showPower() override { note("power"); }
-    void showCost() override { note("cost"); }
-    void restoreCovariateColours() override {}
-    void clearOutlines() override { note("clear"); }
-    void outlineCovariates(int level) override { note("covariates ", level); }
-    void outlineLevel(int level) override { note("level ", level); }
-    void tellProblem(std::string_view text, std::string_view title) override { note(title), note(text); }
-    void openProblemWindow() override { note("problem window"); }
-};
+/// An outcome as a text: what is in the way, what is asked for, the cells at fault, title and message.
+std::string textOf(const ComputeOutcome& outcome) {
+    static constexpr const char* obstacles[] = {"none", "effect", "icc", "tauSq", "data"};
+    std::string text = obstacles[static_cast<int>(outcome.obstacle)];
+    const auto note = [&](std::string_view what) { text.append("; ").append(what); };
+    note(outcome.request);
+    for (int level = lowestLevel; level <= highestLevel; ++level) {
+        if (outcome.covariatesAtFault(level))
+            note("covariates " + std::to_string(level));
+        if (outcome.levelAtFault(level))
+            note("level " + std::to_string(level));
+    }
+    note(outcome.problem.title);
+    note(outcome.problem.message);
+    return text;
+}
+
+constexpr const char* powerStands = "none; ; ; Valid";
+const std::string dfProblem =
+    "Problem with degrees of freedom; There are insufficient degrees of freedom.\n\n"
+    "Try increasing the number of units and/or decreasing the number of covariates. ";
+const std::string covariateProblem = "Problem with number of covariates; It is not possible for R-squared at "
+                                     "any level to be greater than zero "
+                                     "when there are no covariates at that level. ";
 
 /// Ten clusters of ten in each arm, ICC 0.1, d 0.5, a cost of 20, and the results of an earlier computation.
 Study goodStudy() {
@@ -38,7 +43,7 @@ Study goodStudy() {
     s.txtNT(2) = s.txtNC(2) = 10;
     s.txtICC(2) = 0.1, s.txtd = 0.5, s.txtCostT(2) = 2;
     s.result.txtPower = 0.4321, s.result.xLambda = 1.25, s.result.txtCritT = 2.5;
-    s.result.xValid = 1, s.result.txtCost = 77;
+    s.result.xValid = true, s.result.txtCost = 77;
     return s;
 }
 
@@ -46,20 +51,18 @@ bool keepsEarlierPower(const Study& s) { return s.result.txtPower == 0.4321 && s
 
 std::string refresh(Study& s) {
     NumericDistributionLibrary library;
-    RecordingDisplay display;
-    ComputeES(s, display);
-    docompute(s, library, display);
-    return display.calls;
+    ComputeES(s);
+    return textOf(docompute(s, library));
 }
 
 /// Critical value and powers from another library's noncentral t distribution in extended precision.
 TEST(DocomputeTest, TwoLevelSliceFromInputToPower) {
     Study s = goodStudy();
-    EXPECT_EQ(refresh(s), "clear; power; withdraw 15; ; Valid; cost; ");
+    EXPECT_EQ(refresh(s), powerStands);
     EXPECT_NEAR(s.result.xLambda, std::sqrt(50) * 0.5 / std::sqrt(1.9), 1e-14);
     EXPECT_NEAR(s.result.txtCritT, 2.1009220402410385, 1e-13);
     EXPECT_NEAR(s.result.txtPower, 0.67955751195954178, 1e-13);
-    s.txtd = -0.5, s.txtTails = 1;
+    s.txtd = -0.5, s.txtTails = Tails::one;
     refresh(s);
     EXPECT_NEAR(s.result.txtPower, 0.79441246877582465, 1e-13) << "the direction does not matter";
 }
@@ -79,41 +82,57 @@ TEST(DocomputeTest, GatesStopInTheirOrderAndTellTheCost) {
     Study entered = goodStudy();
     const auto check = [&entered](const std::string& expected) {
         Study s = entered;
-        EXPECT_EQ(refresh(s), expected + " cost; ");
-        EXPECT_TRUE(s.result.xValid == 0 && s.result.txtCost == 20 && keepsEarlierPower(s)) << expected;
+        EXPECT_EQ(refresh(s), expected);
+        EXPECT_TRUE(!s.result.xValid && s.result.txtCost == 20 && keepsEarlierPower(s)) << expected;
+        EXPECT_EQ(s.result.ValidES, entered.txtPrev > 0) << expected;
     };
-    entered.effect.ValidTauSq(0) = 0, check("Please modify tau-squared; open 5; ; ;");
-    entered.TauSqMetric = 2, check("Please modify span of effects; open 5; ; ;");
-    entered.TauSqMetric = 3, check("Please modify omega; open 5; ; ;");
-    entered.outcome.ValidICC(0) = 0, check("Please modify span of means; open 4; ; ;");
-    entered.DataType = 2, check("withdraw 16; effect; Please modify span of risks; open 4; ; ;");
-    entered.IccMetric = 1, check("withdraw 16; effect; Please modify ICC; open 4; ; ;");
+    entered.effect.ValidTauSq(0) = false, check("tauSq; Please modify tau-squared; ; ");
+    entered.TauSqMetric = TauSqMetrics::spanOfEffects, check("tauSq; Please modify span of effects; ; ");
+    entered.TauSqMetric = TauSqMetrics::omega, check("tauSq; Please modify omega; ; ");
+    entered.outcome.ValidICC(0) = false, check("icc; Please modify span of means; ; ");
+    entered.DataType = DataTypes::binary, check("icc; Please modify span of risks; ; ");
+    entered.IccMetric = IccMetrics::icc, check("icc; Please modify ICC; ; ");
     entered.txtPrev = 0;
-    check("open 16; effect problem; Please modify effect size data; open 16; Problem with the effect size; "
-          "Please modify the effect size;");
+    check("effect; Please modify effect size data; Problem with the effect size; Please modify the effect "
+          "size");
 }
 
 /// The last problem of df, covariates and sum of ICCs has the word; the sum alone does not stop the power.
-TEST(DocomputeTest, ProblemsAreOutlinedAndTheLastOneTold) {
-    const char* df = "Problem with degrees of freedom; There are insufficient degrees of freedom.\n\n"
-                     "Try increasing the number of units and/or decreasing the number of covariates. ; ";
-    const auto check = [](double Q2, double Q1, double Rsq1, int ValidTotICC, const std::string& shown,
-                          const std::string& told) {
+TEST(DocomputeTest, CellsAtFaultAreTheirOwnAndTheLastProblemIsTold) {
+    const auto check = [](double Q2, double Q1, double Rsq1, bool sumIsGood, const std::string& told) {
         Study s = goodStudy();
-        s.txtQ(2) = Q2, s.txtQ(1) = Q1, s.txtRsq(1) = Rsq1, s.result.xValidTotICC = ValidTotICC;
-        EXPECT_EQ(refresh(s), "clear; Please modify data; " + shown + "problem window; " + told + "cost; ");
-        EXPECT_TRUE(s.result.xValid == 0 && keepsEarlierPower(s)) << told;
+        s.txtQ(2) = Q2, s.txtQ(1) = Q1, s.txtRsq(1) = Rsq1, s.result.xValidTotICC = sumIsGood;
+        EXPECT_EQ(refresh(s), "data; Please modify data; " + told);
+        EXPECT_TRUE(!s.result.xValid && keepsEarlierPower(s)) << told;
         s.txtQ.fill(0), s.txtRsq.fill(0);
-        EXPECT_EQ(refresh(s), "clear; power; withdraw 15; ; Valid; cost; ") << "flags do not stay";
+        EXPECT_EQ(refresh(s), powerStands) << "flags do not stay";
     };
-    check(18, 0, 0, 1, "", df);
-    check(19, 0, 0, 1, "level 2; ", df);
-    check(17, 181, 0.5, 1, "level 1; ", df);
-    check(19, 0, 0.1, 1, "covariates 1; level 2; ",
-          "Problem with number of covariates; It is not possible for R-squared at any level to be greater "
-          "than zero when there are no covariates at that level. ; ");
-    check(0, 0, 0.1, 0, "covariates 1; ",
-          "Problem with the ICC; The ICC for all levels cannot sum to more than 0.999; ");
+    check(18, 0, 0, true, dfProblem);
+    check(19, 0, 0, true, "level 2; " + dfProblem);
+    check(17, 181, 0.5, true, "level 1; " + dfProblem);
+    check(19, 0, 0.1, true, "covariates 1; level 2; " + covariateProblem);
+    check(0, 0, 0.1, false,
+          "covariates 1; Problem with the ICC; The ICC for all levels cannot sum to more than 0.999");
+}
+
+/// Fixed blocks leave the test to the individuals, so that nothing but the level itself is at fault.
+TEST(DocomputeTest, OneLevelAtFaultStopsThePower) {
+    for (int level = lowestLevel; level <= highestLevel; ++level) {
+        Study s = studyOf(4, 1);
+        s.txtNB.fill(2), s.txtNT(1) = s.txtNC(1) = 10, s.txtd = 0.5;
+        for (int blocked = 2; blocked <= 4; ++blocked)
+            s.txtModel(blocked) = SamplingModels::fixed;
+        const std::string number = std::to_string(level) + "; ";
+        s.txtRsq(level) = 0.1;
+        EXPECT_EQ(refresh(s), "data; Please modify data; covariates " + number + covariateProblem);
+        EXPECT_FALSE(s.result.xValid);
+        s.txtQ(level) = 1;
+        EXPECT_EQ(refresh(s), powerStands);
+        s.txtQ(level) = 999;
+        EXPECT_EQ(refresh(s), "data; Please modify data; level " + number + dfProblem);
+        EXPECT_FALSE(s.result.xValid);
+        EXPECT_EQ(s.result.xValidTestdf, level > 1);
+    }
 }
 
 /// Formulas that cannot go on: no individuals, a negative variance of means, a negative logit variance.
@@ -125,7 +144,7 @@ TEST(DocomputeTest, ArithmeticFaultLeavesTheCostAndTheEarlierPower) {
         s.DataType = kind == 2 ? DataTypes::binary : DataTypes::means;
         EXPECT_THROW(refresh(s), ArithmeticFault) << kind;
         EXPECT_TRUE(s.result.txtCost == 20 && keepsEarlierPower(s) && s.result.xLambda == 1.25 &&
-                    s.result.xValid == 0)
+                    !s.result.xValid)
             << kind;
     }
 }
@@ -161,7 +180,7 @@ TEST(CellScreeningTest, LimitsAndShares) {
         for (const double n : {3.0, 3.499, 3.5, 3.501}) {
             s.txtNT(1) = n, normal.answer = answer;
             AAAComputeTwoLevelHDEvents(s, normal);
-            EXPECT_TRUE(s.counts.low(1) == (answer == 0.1) && s.counts.anyLow == 1) << n;
+            EXPECT_TRUE(s.counts.low(1) == (answer == 0.1) && s.counts.anyLow) << n;
             EXPECT_EQ(s.counts.share(3), n > 3.5 ? answer : 1) << n;
         }
     }
@@ -193,18 +212,15 @@ TEST(EffectMetricsTest, ConversionsAndRanges) {
     const double rates[][2] = {{0.4, 0.6}, {0.0009, 0.5}, {0.9991, 0.5}, {0.5, 0.9995}, {0.5, 0.0005}};
     for (const auto& [p, q] : rates) {
         for (const bool ratio : {true, false}) {
-            double OR = 77;
-            bool valid = p != 0.4;
-            ratio ? GetORfromRR(q / p, p, valid, OR) : GetORfromRD(q - p, p, valid, OR);
-            EXPECT_TRUE(valid == (p == 0.4) && std::fabs(OR - (valid ? 2.25 : 77)) < 1e-13) << p << ' ' << q;
+            const auto OR = ratio ? GetORfromRR(q / p, p) : GetORfromRD(q - p, p);
+            EXPECT_EQ(OR.has_value(), p == 0.4) << p << ' ' << q;
+            EXPECT_NEAR(OR.value_or(2.25), 2.25, 1e-13);
         }
     }
     Study s;
     s.txtPrev = 0.4, s.limits.txtDelta = 0.05;
     const auto last = [&s](auto range, double start, double step) {
-        double limit = 0;
-        range(s, limit, start, std::fabs(step), step > 0 ? 1 : -1);
-        return limit;
+        return range(s, start, std::fabs(step), step > 0 ? 1 : -1);
     };
     EXPECT_EQ(last(GetRangeOR, 1, 1), 28);  // 0.95 / 0.05 * 1.5 is 28.5
     EXPECT_NEAR(last(GetRangeOR, 1, -0.01), 0.08, 1e-12);
@@ -213,29 +229,26 @@ TEST(EffectMetricsTest, ConversionsAndRanges) {
     EXPECT_EQ(last(GetRangeRD, 0.7, 0.01), 0.7) << "the next value is out already";
     s.limits.txtDelta = 0.0001, s.txtPrev = 0.00011;  // about ninety million steps of 1, in a moment
     EXPECT_NEAR(last(GetRangeOR, 1, 1) * 0.00011 / 0.99989, 9999, 1e-3);
-    double lower = 77, upper = 77;
-    GetRangeP2(lower, upper, 0.05, 1);
-    EXPECT_TRUE(lower == 77 && upper == 0.95);
+    EXPECT_TRUE(GetRangeP2(0.05, 1) == 0.95 && GetRangeP2(0.05, -1) == 0.05);
 }
 
-/// Where the effect tells none, the direction that was passed in stays.
+/// Up for a null effect, and for a risk ratio and two risks, which no search takes.
 TEST(EffectMetricsTest, Direction) {
-    for (int k = 0; k < 30; ++k) {
-        const int sign = k % 3 - 1, passedIn = k % 2 == 0 ? 1 : -1;
-        Study s;
-        s.DataType = k < 6 ? DataTypes::means : DataTypes::binary, s.BinaryType = k / 6;
-        s.txtd = s.txtRD = 0.1 * sign, s.txtOR = s.txtRR = 1 + 0.1 * sign;
-        int direction = passedIn;
-        SetDefaultDirection(s, direction);
-        const bool told = s.isMeans() || (s.BinaryType % 2 == 1 && sign != 0);
-        EXPECT_EQ(direction, !told ? passedIn : sign < 0 ? -1 : 1) << k;
+    for (int type = 0; type <= 4; ++type) {
+        for (const int sign : {-1, 0, 1}) {
+            Study s;
+            s.DataType = type == 0 ? DataTypes::means : DataTypes::binary;
+            s.BinaryType = type == 0 ? BinaryTypes::oddsRatio : BinaryTypes(type);
+            s.txtd = s.txtRD = 0.1 * sign, s.txtOR = s.txtRR = s.txtP2 = 1 + 0.1 * sign;
+            EXPECT_EQ(SetDefaultDirection(s), s.isTested() && sign < 0 ? -1 : 1) << type << ' ' << sign;
+        }
     }
 }
 
 /// A binary study whose effect is checked.
-Study studyWithEffect(int BinaryType, double prev, double effect, double delta = 0.001) {
+Study studyWithEffect(BinaryTypes type, double prev, double effect, double delta = 0.001) {
     Study s = goodStudy();
-    s.DataType = DataTypes::binary, s.BinaryType = BinaryType, s.decimals.txtRR = 4;
+    s.DataType = DataTypes::binary, s.BinaryType = type, s.decimals.txtRR = 4;
     s.txtPrev = prev, s.limits.txtDelta = delta, s.ComputedOR = 77;
     s.txtOR = s.txtRR = s.txtRD = s.txtP2 = effect;
     refresh(s);
@@ -250,7 +263,7 @@ TEST(EffectCheckTest, RatesAndLimits) {
                               {4, 0.0009, 0.5, 0.001, 0.5, 0},  {4, 0.9991, 0.5, 0.001, 0.5, 0},
                               {2, 0.1, 9.01, 0.1, 0.901, 0},    {4, 0.1, 0.9, 0.1, 0.9, 1}};
     for (const auto& [type, p, effect, delta, q, valid] : rows) {
-        const Study s = studyWithEffect(static_cast<int>(type), p, effect, delta);
+        const Study s = studyWithEffect(BinaryTypes(static_cast<int>(type)), p, effect, delta);
         const double OR = valid == 1 ? q / (1 - q) / (p / (1 - p)) : 77;
         EXPECT_EQ(s.result.ValidES, valid) << p << ' ' << effect;
         EXPECT_NEAR(s.txtEvent2, q, 1e-15);
@@ -260,12 +273,12 @@ TEST(EffectCheckTest, RatesAndLimits) {
 }
 
 TEST(EffectCheckTest, Words) {
-    EXPECT_EQ(effectProblemText(studyWithEffect(1, 0.5, 3999)),
+    EXPECT_EQ(effectProblemText(studyWithEffect(BinaryTypes::oddsRatio, 0.5, 3999)),
               "An event rate of 0.5000 in the control group, coupled with an odds ratio of 3999.00, implies "
               "that the event rate for the treated group is 0.9998.\n\nPlease modify these values so that "
               "the event rate in the treated group is less than 0.9990.\nTo modify the limits click the "
               "<Options> menu.");
-    const std::string text = effectProblemText(studyWithEffect(2, 0.0004, 1000));
+    const std::string text = effectProblemText(studyWithEffect(BinaryTypes::riskRatio, 0.0004, 1000));
     EXPECT_NE(text.find("coupled with risk ratio of 1000.000, "), std::string::npos) << text;
     EXPECT_NE(text.find("in the control group is greater than 0.0010."), std::string::npos) << text;
 }

@@ -1,24 +1,12 @@
 // A saved and reopened study is the same study, cell for cell and name for name.
 #include <gtest/gtest.h>
 
-#include "app/application.h"
-#include "persistence/study_file.h"
+#include "file_bench.h"
 #include "support/random_study.h"
 #include "support/test_platform.h"
 
 namespace lorvane {
 namespace {
-
-std::vector<ControlValue> stateOf(const Application& application) {
-    std::vector<ControlValue> values;
-    for (const std::string& name : application.names().names()) {
-        const bool ofSession = name == "StudyDirty" || name == "CurrentFile" || name == "Design.Caption" ||
-                               name.starts_with("window:") || name.starts_with("tool:gfrm");
-        if (!ofSession)
-            values.push_back(*application.names().read(name));
-    }
-    return values;
-}
 
 TEST(RoundTrip, RandomStudiesComeBackAsTheyWere) {
     TestPlatform outside;
@@ -32,10 +20,10 @@ TEST(RoundTrip, RandomStudiesComeBackAsTheyWere) {
         // A second save starts from the same screen as the reopened one.
         const std::string first = files.files["study"];
         const double power = application.design().study().result.txtPower;
-        withPower += application.hasPower();
+        withPower += hasPower(application.session());
         application.load(std::vector<Assignment>{});
         application.open("study");
-        ASSERT_EQ(application.design().study().result.txtPower, application.hasPower() ? power : 0);
+        ASSERT_EQ(application.design().study().result.txtPower, hasPower(application.session()) ? power : 0);
         application.save("study");
         ASSERT_EQ(files.files["study"], first);
     }
@@ -61,14 +49,12 @@ TEST(RoundTrip, ScenariosKeepTheirOrderAndSummary) {
     Application application(outside.platform());
     application.save("study");
     ScenarioGrid grid = LoadGrid(files, "study");
-    const std::size_t base = grid.addBlock("Copy");
-    for (std::size_t k = 1; k <= ScenarioGrid::blockRows; ++k) {
-        for (std::size_t column = 1; column < ScenarioGrid::columns; ++column)
-            grid.setText(base + k, column, std::string(grid.text(k, column)));
-    }
-    grid.setText(base + 1, 22, "as it was");
-    grid.setText(base + 1, 23, "812.5");
-    grid.setText(base + 1, 24, "1234567");
+    Scenario copy = grid.scenario(0);
+    copy.name = "Copy";
+    copy.block.put(1, descriptionColumn, "as it was");
+    copy.block.put(1, powerColumn, "812.5");
+    copy.block.put(1, costColumn, "1234567");
+    grid.add(std::move(copy));
     SaveGrid(files, "study", grid);
     application.open("study");
     ASSERT_EQ(application.scenarios().size(), 1u);

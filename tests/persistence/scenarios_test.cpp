@@ -1,41 +1,24 @@
 // Scenarios as a whole: what is restored is what was kept, also when names do not tell scenarios apart.
 #include <gtest/gtest.h>
 
-#include "persistence/study_file.h"
+#include "file_bench.h"
 #include "support/random_study.h"
 #include "support/test_platform.h"
 
 namespace lorvane {
 namespace {
 
-using State = std::vector<ControlValue>;
-
-// The names of everything on the screen that is the study's, and not the session's.
-const std::vector<std::string>& studyNames(const Application& application) {
-    static std::vector<std::string> names;
-    for (const std::string& name : names.empty() ? application.names().names() : std::vector<std::string>()) {
-        const bool ofSession = name == "StudyDirty" || name == "CurrentFile" || name == "Design.Caption" ||
-                               name == "ScenarioNumber" || name.starts_with("frmScenarios") ||
-                               name.starts_with("frmLimits.txt") || name.starts_with("window:") ||
-                               name.starts_with("tool:gfrm");
-        if (!ofSession)
-            names.push_back(name);
-    }
-    return names;
-}
-
-State stateOf(const Application& application) {
-    State values;
-    for (const std::string& name : studyNames(application))
-        values.push_back(*application.names().read(name));
-    return values;
+// The list of scenarios goes on whichever of them is restored, and a dialog keeps what it was opened with.
+bool isOfSession(const std::string& name) {
+    return name == "ScenarioNumber" || name.starts_with("frmScenarios") || name.starts_with("frmLimits.txt");
 }
 
 std::string firstDifference(const Application& application, const State& before) {
     const State now = stateOf(application);
     for (std::size_t i = 0; i < now.size(); ++i) {
-        if (now[i] != before[i])
-            return studyNames(application)[i];
+        const std::string& name = studyNames(application)[i];
+        if (now[i] != before[i] && !isOfSession(name))
+            return name;
     }
     return "";
 }
@@ -46,6 +29,10 @@ protected:
     std::size_t count() const { return app.scenarioWindow().vsNames().rows.size() - 1; }
     void select(std::vector<std::size_t> rows) { app.select("frmScenarios.vsNames", rows); }
     void press(int button) { app.click("frmScenarios.cmdScenarios(" + std::to_string(button) + ")"); }
+    void name(const std::string& name) {
+        app.type("frmScenariosName.txtScenariosName", name);
+        app.click("frmScenariosName.cmdScenarioNameOk(0)");
+    }
     double d() const { return app.design().study().txtd; }
 
     // A file with scenarios of these names; the n-th has a d of n tenths.
@@ -57,7 +44,7 @@ protected:
         app.save("named");
         ScenarioGrid grid = LoadGrid(outside.files, "named");
         for (std::size_t i = 0; i < names.size(); ++i)
-            grid.renameBlock(i * ScenarioGrid::blockRows, names[i]);
+            ReplaceName(grid, i, names[i], "");
         SaveGrid(outside.files, "named", grid);
         app.open("named");
     }
@@ -101,8 +88,7 @@ TEST_F(Scenarios, NamesThatDoNotDifferAreToldApartByPosition) {
     press(1);
     EXPECT_EQ(d(), 0.1 * 3);
     press(3);
-    app.type("frmScenariosName.txtScenariosName", "Third");
-    app.click("frmScenariosName.cmdScenarioNameOk(0)");
+    name("Third");
     EXPECT_EQ(row(1)[1] + row(2)[1] + row(3)[1], "SamesameThird");
     select({1});
     press(2);
@@ -120,8 +106,7 @@ TEST_F(Scenarios, ADialogForANameClosesWhenItsRowGoes) {
     press(3);
     press(2);
     EXPECT_EQ(app.design().windows().state(WindowId::frmScenariosName), WindowStates::notLoaded);
-    app.type("frmScenariosName.txtScenariosName", "Lost");
-    app.click("frmScenariosName.cmdScenarioNameOk(0)");
+    name("Lost");
     EXPECT_EQ(count(), 1u);
     EXPECT_EQ(row(1)[1], "One");
 }
@@ -134,7 +119,7 @@ TEST_F(Scenarios, AGivenNumberIsSkippedAndOddOnesStartAnew) {
     EXPECT_EQ(row(4)[1], "Scenario 0006");
     for (const char* number : {"2147483647", "-7"}) {
         ScenarioGrid grid = LoadGrid(outside.files, "named");
-        grid.setText(grid.rowCount() - ScenarioGrid::blockRows + 46, 2, number);
+        setCell(grid, grid.rowCount() - ScenarioGrid::blockRows + 46, 2, number);
         SaveGrid(outside.files, "odd", grid);
         app.open("odd");
         app.tool("Add scenario");
@@ -144,13 +129,34 @@ TEST_F(Scenarios, AGivenNumberIsSkippedAndOddOnesStartAnew) {
 
 TEST_F(Scenarios, EveryChangeOfTheListIsUnsavedWork) {
     openWithNames({"One"});
-    for (const int button : {0, 2}) {
+    const std::function<void()> changes[] = {[&] { press(0); },
+                                             [&] {
+                                                 press(3);
+                                                 name("Another");
+                                             },
+                                             [&] { press(2); }};
+    for (const auto& change : changes) {
         app.save("named");
+        select({1});
+        EXPECT_FALSE(app.session().isDirty());
         EXPECT_FALSE(app.unsavedStudy().has_value());
-        press(button);
-        EXPECT_TRUE(app.design().settings().StudyDirty);
+        change();
+        EXPECT_TRUE(app.session().isDirty());
         EXPECT_TRUE(app.unsavedStudy().has_value());
     }
+    EXPECT_EQ(count(), 1u);
+}
+
+TEST_F(Scenarios, ASaveLeavesTheSelectionAndANameThatIsBeingTyped) {
+    openWithNames({"One", "Two"});
+    select({2});
+    press(3);
+    app.type("frmScenariosName.txtScenariosName", "Typed");
+    app.save("named");
+    EXPECT_EQ(app.scenarioWindow().vsNames().selected, std::vector<std::size_t>{2});
+    EXPECT_TRUE(app.scenarioWindow().nameIsOpen());
+    app.click("frmScenariosName.cmdScenarioNameOk(0)");
+    EXPECT_EQ(row(2)[1], "Typed");
 }
 
 TEST_F(Scenarios, NoMoreThanAFileHolds) {

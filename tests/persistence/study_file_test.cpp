@@ -6,6 +6,7 @@
 #include <functional>
 
 #include "app/application.h"
+#include "file_bench.h"
 #include "persistence/scenario_cells.h"
 #include "support/test_platform.h"
 
@@ -29,7 +30,7 @@ protected:
             const Study& after = application.design().study();
             EXPECT_EQ(after.txtd, before.txtd);
             EXPECT_EQ(after.txtName(1), before.txtName(1));
-            EXPECT_EQ(application.design().settings().CurrentFile, "good");
+            EXPECT_EQ(application.session().currentFile(), "good");
             return problem.what();
         }
         return "opened";
@@ -37,8 +38,17 @@ protected:
 
     std::string withCell(std::size_t row, std::size_t column, const std::string& text) {
         ScenarioGrid grid = LoadGrid(files, "good");
-        grid.setText(row, column, text);
+        setCell(grid, row, column, text);
         return studyFileText(grid);
+    }
+
+    // The good file with another name in one row of its only scenario.
+    std::string withName(std::size_t row, const std::string& name) const {
+        std::string text = files.files.at("good");
+        std::size_t line = 0;
+        for (std::size_t i = 0; i < row; ++i)
+            line = text.find('\n', line) + 1;
+        return text.replace(line, SystemScenarioName.size(), name);
     }
 
     TestPlatform outside;
@@ -65,7 +75,8 @@ TEST_F(StudyFile, WrongCellsAreNamed) {
                           {51, 2, "4", "row 52, column 3, a level of the study belongs here"},
                           {1, 23, "high", "row 2, column 24, a number belongs here"},
                           {77, 0, "Other", "row 78, column 1, the scenario has fewer than 100 rows"}}) {
-        const std::string message = openingOf(withCell(c.row, c.column, c.text));
+        const std::string message =
+            openingOf(c.column == 0 ? withName(c.row, c.text) : withCell(c.row, c.column, c.text));
         EXPECT_EQ(message, "The file \"bad\" is not a study file that can be opened: at " +
                                std::string(c.problem) + ".");
     }
@@ -118,8 +129,7 @@ TEST_F(StudyFile, OtherLineEndsAndLettersOpenAsTheSameStudy) {
 
 TEST_F(StudyFile, AFileWithoutTheScreenGivesItsFirstScenario) {
     ScenarioGrid grid = LoadGrid(files, "good");
-    for (std::size_t row = 1; row <= 100; ++row)
-        grid.setText(row, 0, "First");
+    ReplaceName(grid, 0, "First", "");
     SaveGrid(files, "scenarios", grid);
     application.load(std::vector<Assignment>{});
     application.open("scenarios");
@@ -132,7 +142,7 @@ TEST_F(StudyFile, SavingTwiceKeepsOneBlockOfTheScreen) {
     application.save("good");
     application.save("good");
     EXPECT_EQ(LoadGrid(files, "good").scenarioCount(), 1u);
-    EXPECT_FALSE(application.design().settings().StudyDirty);
+    EXPECT_FALSE(application.session().isDirty());
     EXPECT_TRUE(application.scenarios().empty());
 }
 
@@ -142,7 +152,7 @@ TEST_F(StudyFile, AFailedSaveKeepsTheOldFileAndTheDirtyFlag) {
     files.full = true;
     EXPECT_THROW(application.save("good"), FileProblem);
     EXPECT_EQ(files.files["good"], old);
-    EXPECT_TRUE(application.design().settings().StudyDirty);
+    EXPECT_TRUE(application.session().isDirty());
 }
 
 }  // namespace

@@ -35,8 +35,8 @@ protected:
     std::string text(const std::string& name) const { return std::get<std::string>(*app.names().read(name)); }
     double number(const std::string& name) const { return std::get<double>(*app.names().read(name)); }
     void setD(double d) { app.set(std::vector<Assignment>{{"txtd", d}}); }
-    bool isDirty() const { return app.design().settings().StudyDirty; }
-    std::string recent(std::size_t row) const { return app.grid("flexfiles")->rows[row][0]; }
+    bool isDirty() const { return app.session().isDirty(); }
+    std::string recent(std::size_t row) const { return app.names().grid("flexfiles")->rows[row][0]; }
     std::string onlyMessage() {
         const auto shown = outside.messages.take();
         const auto* message =
@@ -138,7 +138,7 @@ TEST_F(StudyFilesTest, AStartOpensTheFileOrTheStartScreen) {
     Application without(outside.platform());
     without.start("");
     EXPECT_EQ(without.design().windows().state(WindowId::frmStart), WindowStates::open);
-    EXPECT_FALSE(without.design().settings().StudyDirty);
+    EXPECT_FALSE(without.session().isDirty());
     Application wrong(outside.platform());
     wrong.start("/none");
     EXPECT_NE(wrong.design().screen().pnlStatus.Caption, "");
@@ -162,7 +162,7 @@ TEST_F(StudyFilesTest, UnsavedWorkIsOfferedOnceAfterACrash) {
     again.start("");
     EXPECT_EQ(again.design().study().txtd, 0.4);
     EXPECT_EQ(again.scenarios().size(), 1u);
-    EXPECT_EQ(again.design().settings().CurrentFile, "/study");
+    EXPECT_EQ(again.session().currentFile(), "/study");
     EXPECT_TRUE(again.unsavedStudy() == unsaved.kept) << "it is still unsaved";
     EXPECT_EQ(again.design().windows().state(WindowId::frmStart), WindowStates::notLoaded);
     EXPECT_EQ(outside.files.files["/study"], file);

@@ -2,8 +2,8 @@
 #include <cstdlib>
 
 #include "base/names.h"
-#include "screen/currency.h"
 #include "screen/screen_bench.h"
+#include "session/currency.h"
 
 namespace lorvane {
 namespace {
@@ -50,7 +50,7 @@ TEST_F(Screen, ValueDialogHoldsTheLimitsOfTheArrows) {
             app.click("frmValue.cmdOK");
             EXPECT_EQ(messages.script.take().size(), good ? 0u : 1u) << field << ' ' << row[good ? 3 : 2];
             expect({{field, good ? row[3] : before}, {"frmValue.Visible", good ? "false" : "true"}});
-            EXPECT_EQ(app.design().settings().StudyDirty, good);
+            EXPECT_EQ(app.session().isDirty(), good);
         }
         EXPECT_EQ(see("txtNC(2)"), field == "txtNT(2)" ? row[3] : "2") << "the linked arm";
     }
@@ -68,7 +68,7 @@ TEST(Windows, EveryStateAndAction) {
             for (const WindowAction step : path)
                 windows.SynchForms(WindowId::frmTips, step);
             windows.SynchForms(WindowId::frmTips, last);
-            reached += std::to_string(windows.state(WindowId::frmTips));
+            reached += std::to_string(static_cast<int>(windows.state(WindowId::frmTips)));
         }
         EXPECT_EQ(reached, wanted);
     }
@@ -84,7 +84,7 @@ TEST(Windows, MakeWayBySetsAndComeBack) {
         const auto states = [&] {
             std::string text;
             for (int window = 1; window <= lastWindowId; ++window)
-                text += std::to_string(bench.design.windows().stateOf(window));
+                text += std::to_string(static_cast<int>(bench.design.windows().state(WindowId(window))));
             return text;
         };
         for (int window = 2; window <= lastWindowId; ++window)
@@ -125,6 +125,15 @@ TEST_F(Screen, SettingsThatMeetStayInStep) {
     EXPECT_EQ(see("frmLimits.Visible"), "false");
     app.save("work/north.Lorvane");
     EXPECT_EQ(see("Design.Caption"), "Lorvane,  risk difference  north.Lorvane");
+}
+
+TEST_F(Screen, ThePanelOfTheIccLeadsToTheLimitsOfRisks) {
+    load("DataType=2 txtPrev=0.1 txtMRange(2)=0.4 txtDelta=0.01");
+    expect({{"frmDisplayICC.cmdDelta.Visible", "true"}, {"window:23", "0"}});
+    app.click("frmDisplayICC.cmdDelta");
+    expect({{"window:23", "4"}, {"frmDelta.txtDelta.Text", "0.0100"}, {"frmLimits.Visible", "false"}});
+    app.click("frmDisplayICC.cmdOptions");
+    expect({{"frmLimits.Visible", "true"}});
 }
 
 /// Scripts can ask for what no face offers: a level that is not in use, a dialog that is not open.

@@ -22,23 +22,28 @@ std::vector<Pace> pacesOf(const std::string& source) {
 /// One field under its arrows, with decimals and a step of its own.
 struct Walk : StudyBench {
     Walk(const Texts& row, const Pace& pace, const std::string& preset = "")
-        : control(findSpin(row[0]).value()), field(design.fields().find(row[1])) {
+        : arrows(findArrows(row[0]).value()), field(findField(row[1]).value()) {
         play(preset);
-        if (field->FmtDecDigits != nullptr)
-            *field->FmtDecDigits = pace.decimals;
-        const bool byOne = row[4] == "field" || row[4] == "whole";  // whatever the steps of other fields
-        SessionSettings& s = design.settings();
-        s.IncN(2) = s.IncCost(2) = s.IncMRange = s.IncMean = s.IncSD = byOne ? 7 : pace.step;
+        write([&](SessionState& state) {
+            if (field->decimals != nullptr)
+                state.study.decimals.*field->decimals = pace.decimals;
+            const bool byOne = row[4] == "field" || row[4] == "whole";  // whatever the steps of other fields
+            StudySettings& s = state.settings;
+            s.IncN(2) = s.IncCost(2) = s.IncMRange = s.IncMean = s.IncSD = byOne ? 7 : pace.step;
+        });
     }
+
+    /// Writes a state as it is, without a computation.
+    void write(const Session::Change& change) { session.edit({"", Reach::display}, change); }
 
     double after(double from, int direction, int clicks = 1) {
-        for (writeField(*field, from); clicks > 0; --clicks)
-            design.Spin(control, direction);
-        return std::get<double>(readField(*field));
+        for (write([&](SessionState& state) { writeField(state, field, from); }); clicks > 0; --clicks)
+            design.Spin(arrows, direction);
+        return readNumberField(session.state(), field);
     }
 
-    SpinControl control;
-    const StudyField* field;
+    FieldRef arrows;
+    FieldRef field;
 };
 
 void expectLimits(const Texts& row, const Pace& pace) {
@@ -61,15 +66,17 @@ void expectLimits(const Texts& row, const Pace& pace) {
 }
 
 TEST(Spin, EveryFieldAtBothEnds) {
-    std::vector<const SpinRow*> walked;
+    std::vector<const Field*> walked;
     for (Texts row : rowsOf("arrows.txt")) {
         row.resize(6);
-        walked.push_back(findSpin(row[0]).value().row);
+        walked.push_back(findArrows(row[0]).value().field);
         for (const Pace& pace : pacesOf(row[4]))
             expectLimits(row, pace);
     }
-    for (const SpinRow& row : spinRows())
-        EXPECT_GT(std::count(walked.begin(), walked.end(), &row), 0) << row.control;
+    for (const Field& field : fieldBook()) {
+        EXPECT_EQ(field.arrows == ArrowRule::byStep, std::count(walked.begin(), walked.end(), &field) > 0)
+            << field.stem;
+    }
 }
 
 TEST(Spin, SnapsToTheStepAndCarriesTheOtherArm) {
@@ -77,8 +84,10 @@ TEST(Spin, SnapsToTheStepAndCarriesTheOtherArm) {
         row.resize(7);
         for (const bool linked : {true, false}) {
             Walk walk(row, {0, std::stoi(row[3])});
-            walk.study.LinkN(2) = walk.study.LinkCost(2) = linked;
-            walk.play(row[6].empty() ? "" : row[6] + "=5");
+            walk.write([&](SessionState& state) {
+                state.study.LinkN(2) = state.study.LinkCost(2) = linked;
+                StudyBench::write(state, row[6].empty() ? "" : row[6] + "=5");
+            });
             EXPECT_EQ(walk.after(std::stod(row[2]), std::stoi(row[4])), std::stod(row[5]))
                 << row[0] << row[2];
             if (!row[6].empty())
@@ -90,7 +99,7 @@ TEST(Spin, SnapsToTheStepAndCarriesTheOtherArm) {
 /// Only the problem window waits for the end of a held arrow.
 TEST_F(ScreenTest, HeldArrowTicksInSilence) {
     for (int tick = 0; tick < 3; ++tick)
-        app.spin("spnQ(2)", 1, Design::SpinMode::tick);
+        app.spin("spnQ(2)", 1, ArrowHold::tick);
     expect({{"pnlPower.Caption", "Please modify data"}, {"window:15", "0"}, {"txtQ(2)", "3"}});
     app.spinReleased();
     EXPECT_EQ(see("window:15"), "4");

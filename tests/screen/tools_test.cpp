@@ -19,13 +19,13 @@ std::vector<Texts> choiceGroups() {
 }
 
 struct Tools : ScreenTest {
-    const Tool& tool(const std::string& name) const { return *app.design().tools().find(name); }
+    const Tool& tool(const std::string& name) const { return *app.commands().find(name); }
 
     /// The study has a power, or says what to modify; the tools tell how it stands.
     void expectInOrder(const std::string& clicked) const {
         const Study& s = app.design().study();
         EXPECT_TRUE(s.NumLevels >= 2 && s.NumLevels <= 4 && s.RandomizedLevel <= s.NumLevels);
-        EXPECT_EQ(see("pnlPower.Caption").starts_with("Please modify "), s.result.xValid == 0);
+        EXPECT_EQ(see("pnlPower.Caption").starts_with("Please modify "), !s.result.xValid);
         EXPECT_EQ(tool("Add a level").Enabled, s.NumLevels < 4);
         EXPECT_EQ(tool("Remove a level").Enabled, s.NumLevels > 2);
         for (const Texts& group : groups) {
@@ -61,7 +61,7 @@ struct Tools : ScreenTest {
 
 TEST_F(Tools, EachOneInEveryDesign) {
     std::set<std::string> names;
-    for (const Band& band : app.design().tools().bands()) {
+    for (const Band& band : app.commands().bands()) {
         for (const BandEntry& entry : band.entries) {
             if (entry.kind == BandEntry::Kind::tool)
                 names.insert(entry.name);

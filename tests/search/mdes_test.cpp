@@ -10,10 +10,12 @@ namespace lorvane {
 namespace {
 
 struct Mdes : testing::Test {
+    // The power of the searched study with another effect, -1 where it has none.
     double power(double effect) {
-        study.*effectField(study) = effect;
-        bench.design.DoRefresh(false);
-        return study.result.xValid == 1 ? study.result.txtPower : -1;
+        StudyTrial trial = bench.session.trial();
+        trial.study.*effectField(trial.study) = effect;
+        trial.refresh();
+        return trial.study.result.xValid ? trial.study.result.txtPower : -1;
     }
 
     std::map<std::string, ControlValue> state() {
@@ -25,18 +27,24 @@ struct Mdes : testing::Test {
 
     // A search that must leave no trace.
     MdesResult search(double required) {
-        bench.design.DoRefresh(true);
+        bench.session.edit({"values"}, [this](SessionState& state) { state.study = study; });
         const auto before = state();
-        const MdesResult result = FindMDES(bench.design, required);
+        const MdesResult result = FindMDES(bench.session.trial(), required);
         EXPECT_EQ(state(), before);
         return result;
+    }
+
+    void fill(const std::string& assignments) {
+        SessionState fresh;
+        StudyBench::write(fresh, assignments);
+        study = fresh.study;
     }
 
     void design(int levels, int randomized, RandomStudies& random) {
         study = studyOf(levels, randomized);
         study.IccMetric = IccMetrics::icc;
-        study.txtTails = random.whole(1, 2);
-        study.PowerOption = random.whole(1, 2);
+        study.txtTails = Tails(random.whole(1, 2));
+        study.PowerOption = PowerOptions(random.whole(1, 2));
         for (int level = 1; level <= levels; ++level) {
             study.txtNT(level) = random.whole(2, 12);
             study.txtNC(level) = random.whole(2, 12);
@@ -66,12 +74,12 @@ struct Mdes : testing::Test {
                      double finest);
 
     StudyBench bench;
-    Study& study = bench.study;
+    Study study;  ///< what is searched next
 };
 
 TEST_F(Mdes, MeansGiveTheSmallestThousandthOfAScan) {
     forAllDesigns(6, [&](RandomStudies& random, int direction) {
-        study.DType = random.whole(1, 2);
+        study.DType = DTypes(random.whole(1, 2));
         study.txtd = direction * 0.4;
         const double required = random.real(0.3, 0.99);
         const MdesResult result = search(required);
@@ -94,8 +102,7 @@ TEST_F(Mdes, MeansAgreeWithPeers) {
          "ICC(3)=0.05 ICC(4)=0.05",
          0.411944527437}};
     for (const auto& [values, exact] : peers) {
-        study = Study();
-        bench.play(std::string("ICC_Metric=1 ") + values);
+        fill(std::string("ICC_Metric=1 ") + values);
         const double found = search(0.8).effect;
         EXPECT_TRUE(found >= exact && found < exact + 0.001) << found << " for " << exact;
     }
@@ -151,7 +158,7 @@ TEST_F(Mdes, OddsRatioAndRiskDifferenceAgreeWithAScanOfTheAdmissibleRange) {
 /// However far the range reaches and however little the units tell, the search ends soon.
 TEST_F(Mdes, EverySearchIsShort) {
     for (const double rate : {0.00011, 0.001, 0.05, 0.5, 0.95, 0.9998}) {
-        for (const int type : {BinaryTypes::oddsRatio, BinaryTypes::riskDifference}) {
+        for (const BinaryTypes type : {BinaryTypes::oddsRatio, BinaryTypes::riskDifference}) {
             for (const double units : {2.0, 20.0, 5000.0}) {
                 for (const int direction : {1, -1}) {
                     study = Study();
@@ -163,7 +170,8 @@ TEST_F(Mdes, EverySearchIsShort) {
                     study.txtOR = 1 + direction * 1e-6;
                     study.txtNT(2) = study.txtNC(2) = units;
                     study.txtNT(1) = study.txtNC(1) = 50;
-                    EXPECT_LT(search(0.8).runs, 1500) << rate << ' ' << type << ' ' << units;
+                    EXPECT_LT(search(0.8).runs, 1500)
+                        << rate << ' ' << static_cast<int>(type) << ' ' << units;
                 }
             }
         }
@@ -206,9 +214,7 @@ TEST_F(Mdes, WordsOfEveryEnd) {
         {"OR=2 ICC(2)=0.995", "There is a problem with the design", "Please correct the error and try again"},
     };
     for (const Case& c : cases) {
-        study = Study();
-        bench.play("DataType=2 ICC_Metric=1 Prev=0.4 NT(2)=20 NC(2)=20 NT(1)=20 NC(1)=20");
-        bench.play(c.values);
+        fill(std::string("DataType=2 ICC_Metric=1 Prev=0.4 NT(2)=20 NC(2)=20 NT(1)=20 NC(1)=20 ") + c.values);
         const MdesLines lines = mdesLines(study, search(0.8));
         const bool ofRates = c.second[0] == '0';
         EXPECT_EQ(lines.first, c.first);
@@ -233,12 +239,11 @@ struct FailingLibrary final : DistributionLibrary {
 
 TEST_F(Mdes, AFaultOnTheWayPutsTheStudyBack) {
     FailingLibrary library;
-    Design failing(library, FixedLocale(), bench.messages);
-    failing.study().txtd = 0.25;
-    failing.DoRefresh(true);
+    Session failing(library, {}, bench.clock);
+    failing.edit({"effect"}, [](SessionState& state) { state.study.txtd = 0.25; });
     const double before = failing.study().result.txtPower;
     library.callsLeft = 4;
-    EXPECT_THROW(FindMDES(failing, 0.8), ArithmeticFault);
+    EXPECT_THROW(FindMDES(failing.trial(), 0.8), ArithmeticFault);
     EXPECT_EQ(failing.study().txtd, 0.25);
     EXPECT_EQ(failing.study().result.txtPower, before);
 }

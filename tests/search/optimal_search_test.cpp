@@ -9,6 +9,7 @@
 #include "search/optimal_window.h"
 #include "search/trial_bench.h"
 #include "search_bench.h"
+#include "validation/study_bench.h"
 
 namespace lorvane {
 namespace {
@@ -23,11 +24,10 @@ OptimalOptions pattern(int bits) {
 }
 
 SizeRatios ratiosOf(SearchBench& bench, const OptimalOptions& options) {
-    SizeRatios ratios;
     resetReadiness(bench.study().result);
-    computeOptimalRatios(bench.study(), options, ratios);
-    EXPECT_EQ(bench.study().result.xValidOptimal, 1);
-    return ratios;
+    const auto ratios = computeOptimalRatios(bench.study(), options);
+    EXPECT_TRUE(bench.study().result.xValidOptimal);
+    return ratios.value();
 }
 
 // Variance times cost of a design per unit of the top level, which cheap sizes make small.
@@ -76,7 +76,7 @@ TEST(OptimalRatios, FreeSizesMakeVarianceTimesCostSmallestWhateverIsFixed) {
     for (int i = 0; i < 300; ++i) {
         SearchBench bench;
         makeRandom(bench, random);
-        if (bench.study().result.xValid != 1)
+        if (!bench.study().result.xValid)
             continue;
         for (int bits = 0; bits < 1 << (bench.study().NumLevels - 1); ++bits) {
             const OptimalOptions options = pattern(bits);
@@ -132,7 +132,7 @@ TEST(LeastSizes, TheLeastLevel1AvoidsLowCells) {
             for (double n = 1; n <= 1000 && first == 0; ++n) {
                 s.txtNT(1) = s.txtNC(1) = n;
                 AAAComputeTwoLevelHDEvents(s, bench.library);
-                first = s.counts.anyLow == 0 ? n : 0;
+                first = !s.counts.anyLow ? n : 0;
             }
             const auto found = GetMinN(s, bench.library);
             EXPECT_TRUE(first == 0 ? !found || *found > 1000 : found == first) << risk << " " << icc;
@@ -171,7 +171,7 @@ TEST(OptimalSearch, EveryTrialReachesThePowerWithNothingToSpare) {
     for (int i = 0; i < 250; ++i) {
         SearchBench bench;
         makeRandom(bench, random);
-        if (bench.study().result.xValid != 1)
+        if (!bench.study().result.xValid)
             continue;
         for (int level = 1; level <= 3; ++level) {
             bench.options.manual(level) = random() % 3 == 0;
@@ -222,31 +222,37 @@ TEST(OptimalSearch, CovariatesAndLowCellsRaiseTheSizes) {
 
 TEST(Readiness, EveryReasonIsToldByItsOwnWords) {
     struct Case {
-        int dataType;
+        DataTypes dataType;
         void (*spoil)(Study&);
         const char* title;
         const char* part;
     };
+    using enum DataTypes;
     for (const Case& c : std::initializer_list<Case>{
-             {1, [](Study& s) { s.txtModel(3) = 1; }, "Model is fixed", "fixed-effect model at any level"},
-             {1, [](Study& s) { s.txtd = 0.001; }, "Effect size is zero", "Enter an effect size"},
-             {2, [](Study& s) { s.txtOR = 1; }, "Effect size is zero", "Enter an effect size"},
-             {1, [](Study& s) { s.txtICC(2) = 0; }, "ICC is zero", "Set all ICCs"},
-             {1, [](Study& s) { s.IccMetric = 2, s.txtMRange(2) = 0; }, "Range of means is zero",
-              "range of means"},
-             {2, [](Study& s) { s.IccMetric = 2, s.txtMRange(3) = 0.2, s.txtMRange(2) = 0; },
+             {means, [](Study& s) { s.txtModel(3) = 1; }, "Model is fixed",
+              "fixed-effect model at any level"},
+             {means, [](Study& s) { s.txtd = 0.001; }, "Effect size is zero", "Enter an effect size"},
+             {binary, [](Study& s) { s.txtOR = 1; }, "Effect size is zero", "Enter an effect size"},
+             {means, [](Study& s) { s.txtICC(2) = 0; }, "ICC is zero", "Set all ICCs"},
+             {means, [](Study& s) { s.IccMetric = IccMetrics::span, s.txtMRange(2) = 0; },
+              "Range of means is zero", "range of means"},
+             {binary,
+              [](Study& s) { s.IccMetric = IccMetrics::span, s.txtMRange(3) = 0.2, s.txtMRange(2) = 0; },
               "Range of risks is zero", "range of risks"},
-             {1, [](Study& s) { s.txtCostB(3) = 0; }, "Cost is zero", "Set all costs"},
-             {2, [](Study& s) { s.txtCostT(1) = s.txtCostC(1) = 0; }, "Cost is zero", "Set all costs"},
-             {1, [](Study& s) { s.txtTauSq(3) = 0; }, "Tau-squared is zero", "Set all tau-squared"},
-             {1, [](Study& s) { s.TauSqMetric = 2, s.txtDRange(3) = 0; }, "Span of effects is zero",
-              "Set all span"},
-             {2, [](Study& s) { s.TauSqMetric = 3, s.txtOmega(3) = 0; }, "Omega is zero", "Set all omega"}}) {
+             {means, [](Study& s) { s.txtCostB(3) = 0; }, "Cost is zero", "Set all costs"},
+             {binary, [](Study& s) { s.txtCostT(1) = s.txtCostC(1) = 0; }, "Cost is zero", "Set all costs"},
+             {means, [](Study& s) { s.txtTauSq(3) = 0; }, "Tau-squared is zero", "Set all tau-squared"},
+             {means, [](Study& s) { s.TauSqMetric = TauSqMetrics::spanOfEffects, s.txtDRange(3) = 0; },
+              "Span of effects is zero", "Set all span"},
+             {binary, [](Study& s) { s.TauSqMetric = TauSqMetrics::omega, s.txtOmega(3) = 0; },
+              "Omega is zero", "Set all omega"}}) {
         SearchBench bench(3, 2, c.dataType);
         c.spoil(bench.study());
         bench.refresh();
-        ASSERT_EQ(bench.study().result.xValid, 1) << c.title;
-        EXPECT_EQ(bench.search().ending, OptimalEnding::notReady) << c.title;
+        ASSERT_TRUE(bench.study().result.xValid) << c.title;
+        const OptimalResult result = bench.search();
+        EXPECT_EQ(result.ending, OptimalEnding::notReady) << c.title;
+        bench.study().result = result.flags;
         const auto problems = readinessProblems(bench.study());
         ASSERT_EQ(problems.size(), 1u) << problems[0].title << problems.back().title;
         EXPECT_EQ(problems[0].title, std::string(c.title));
@@ -261,13 +267,13 @@ TEST(Readiness, EveryReasonIsToldByItsOwnWords) {
 TEST(Readiness, TheLastOfAllReasonsIsRead) {
     SearchBench bench;
     Study& s = bench.study();
-    s.outcome.ValidICC(0) = s.effect.ValidTauSq(0) = 0;
+    s.outcome.ValidICC(0) = s.effect.ValidTauSq(0) = false;
     for (LevelFlags* flags : {&s.result.xValidModel, &s.result.xValidICC, &s.result.xValidCost,
                               &s.result.xValidTauSq, &s.result.xValidQ})
-        (*flags)(2) = 0;
-    s.result.xValidES = s.result.xValidTotICC = 0;
+        (*flags)(2) = false;
+    s.result.xValidES = s.result.xValidTotICC = false;
     ResolveValidOptimal(s, false);
-    EXPECT_EQ(s.result.xValidOptimal, 0);
+    EXPECT_FALSE(s.result.xValidOptimal);
     std::string titles;
     for (const ReadinessProblem& problem : readinessProblems(s))
         titles += std::string(problem.title) + "; ";
@@ -319,6 +325,7 @@ struct Impatient final : Progress {
 TEST(OptimalSearch, EveryEndingPutsTheStudyBack) {
     SearchBench bench;
     Study& s = bench.study();
+    PowerResult flags;
     const auto endingOf = [&] {
         bench.refresh();
         const Study before = s;
@@ -326,43 +333,46 @@ TEST(OptimalSearch, EveryEndingPutsTheStudyBack) {
         EXPECT_EQ(s.txtNT(2), before.txtNT(2));
         EXPECT_EQ(s.txtNB(1), before.txtNB(1));
         EXPECT_EQ(s.result.txtPower, before.result.txtPower);
+        flags = result.flags;
         return result.ending;
     };
     EXPECT_EQ(endingOf(), OptimalEnding::found);
     s.txtd = 0.0012;
     s.txtCostT(2) = s.txtCostC(2) = 1000000;
     EXPECT_EQ(endingOf(), OptimalEnding::costOverflow);
-    EXPECT_EQ(s.result.txtCostProblem, 1);
+    EXPECT_TRUE(flags.txtCostProblem);
     s.txtd = 0.4;
     s.txtQ(2) = 250;
     EXPECT_EQ(endingOf(), OptimalEnding::found) << "the least size grows with the covariates";
     s.txtQ(2) = 0;
     s.txtCostT(2) = s.txtCostC(2) = 10;
     Impatient impatient;
-    EXPECT_EQ(searchOptimalDesign(s, bench.library, bench.options, impatient).ending, OptimalEnding::stopped);
+    EXPECT_EQ(searchOptimalDesign(bench.trial, bench.options, impatient).ending, OptimalEnding::stopped);
     EXPECT_EQ(s.txtNT(2), 10);
     s.txtCostT(1) = s.txtCostC(1) = 0;
     EXPECT_EQ(endingOf(), OptimalEnding::notReady);
-    EXPECT_EQ(s.result.xValidCost(1), 0);
+    EXPECT_FALSE(flags.xValidCost(1));
     bench.options.manual(1) = true;
     bench.options.numReps(1) = 20;
     EXPECT_EQ(endingOf(), OptimalEnding::found) << "set by hand, a cost of zero does not count";
 }
 
 TEST(OptimalWizard, AStoppedSearchOffersToStartAgain) {
-    SearchBench bench;
+    StudyBench bench;
     Impatient impatient;
-    OptimalWindow wizard(bench.design, bench.library, impatient);
+    OptimalWindow wizard(bench.design, impatient);
+    bench.session.follow([&](const Changed& changed) { wizard.follow(changed); });
+    bench.session.edit({"values"}, [](SessionState& state) { state.study = SearchBench().study(); });
     EventRegistry events;
     wizard.registerEvents(events);
-    events.tool("gfrmOptimal");
+    wizard.open();
     events.click("frmOptimal.cmdOpt(2)");
     EXPECT_TRUE(wizard.pnlOptimalInner().Caption.starts_with("The search was stopped."));
     EXPECT_TRUE(wizard.cmdOpt(2).Visible);
     EXPECT_FALSE(wizard.cmdOpt(3).Visible);
     EXPECT_EQ(wizard.row(1).OptimalpnlNT.Caption, "Use optimal");
     EXPECT_EQ(wizard.result(), nullptr);
-    EXPECT_EQ(bench.study().txtNT(2), 10);
+    EXPECT_EQ(bench.study.txtNT(2), 10);
 }
 
 }  // namespace

@@ -76,7 +76,7 @@ TEST(OptimalTruth, TheSearchIsNeverBelowTheOptimumAndSeldomFarAbove) {
     while (designs < 200) {
         SearchBench bench;
         makeRandom(bench, random);
-        if (bench.study().result.xValid != 1)
+        if (!bench.study().result.xValid)
             continue;
         const OptimalResult result = bench.search();
         ASSERT_EQ(result.ending, OptimalEnding::found);
@@ -90,7 +90,7 @@ TEST(OptimalTruth, TheSearchIsNeverBelowTheOptimumAndSeldomFarAbove) {
         above.push_back(100.0 * found.cost / optimum - 100);
         aboveWithNote.push_back(100.0 * noted / optimum - 100);
         const PowerResult& seen = bench.resultOf(found.sizes);
-        ASSERT_TRUE(seen.xValid == 1 && seen.txtPower >= bench.options.power) << designs;
+        ASSERT_TRUE(seen.xValid && seen.txtPower >= bench.options.power) << designs;
         ASSERT_EQ(seen.txtCost, found.cost);
     }
     const auto tell = [](const char* what, std::vector<double>& values) {

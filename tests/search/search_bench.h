@@ -5,18 +5,17 @@
 
 #include <random>
 
-#include "screen/design.h"
 #include "search/optimal_search.h"
+#include "session/computation.h"
 #include "support/test_library.h"
 
 namespace lorvane {
 
-/// A design without a face, refreshed, and its search.
+/// A study to try values on, refreshed, and its search.
 struct SearchBench {
-    explicit SearchBench(int levels = 2, int randomized = 2, int dataType = DataTypes::means) {
+    explicit SearchBench(int levels = 2, int randomized = 2, DataTypes dataType = DataTypes::means)
+        : trial(studyOf(levels, randomized), library) {
         Study& s = study();
-        s.NumLevels = levels;
-        s.RandomizedLevel = randomized;
         s.DataType = dataType;
         s.PowerOption = PowerOptions::tDistribution;
         s.IccMetric = IccMetrics::icc;
@@ -32,9 +31,14 @@ struct SearchBench {
         refresh();
     }
 
-    Study& study() { return design.study(); }
-    void refresh() { design.DoRefresh(true); }
-    OptimalResult search() { return searchOptimalDesign(study(), library, options, progress); }
+    Study& study() { return trial.study; }
+    OptimalResult search() { return searchOptimalDesign(trial, options, progress); }
+
+    // As a session computes it.
+    void refresh() {
+        trial.refresh();
+        applyModelRule(study());
+    }
 
     // The power and cost of a design, as a user would see them.
     const PowerResult& resultOf(const LevelSizes& sizes) {
@@ -45,11 +49,9 @@ struct SearchBench {
     }
 
     NumericDistributionLibrary library;
-    FixedLocale locale;
-    ScriptedDialogs dialogs;
     NoProgress progress;
     OptimalOptions options;
-    Design design{library, locale, dialogs};
+    StudyTrial trial;
 };
 
 /// Values of a small study of any design that the search can take.
@@ -63,7 +65,7 @@ inline void makeRandom(SearchBench& bench, std::mt19937& random) {
     Study& s = bench.study();
     s.NumLevels = whole(2, 4);
     s.RandomizedLevel = whole(1, s.NumLevels);
-    s.DataType = whole(1, 2);
+    s.DataType = DataTypes(whole(1, 2));
     s.BinaryType = whole(0, 1) == 0 ? BinaryTypes::oddsRatio : BinaryTypes::riskDifference;
     s.PowerOption = PowerOptions::tDistribution;
     s.txtd = real(0.3, 0.7);

@@ -5,8 +5,8 @@
 #include <string>
 #include <vector>
 
-#include "app/application.h"
 #include "base/names.h"
+#include "session/assignments.h"
 
 namespace lorvane {
 

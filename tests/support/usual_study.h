@@ -5,7 +5,7 @@
 
 namespace lorvane {
 
-inline void makeUsual(Study& s, int levels, int randomized, int dataType) {
+inline void makeUsual(Study& s, int levels, int randomized, DataTypes dataType) {
     s.NumLevels = levels;
     s.RandomizedLevel = randomized;
     s.DataType = dataType;

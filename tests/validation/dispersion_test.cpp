@@ -24,20 +24,20 @@ TEST(IccSpan, Helpers) {
     s.DataType = DataTypes::binary;
     s.txtPrev = 0.2, s.txtOR = 3, s.txtRD = 0.3;
     const double treatedIcc[] = {0.016 / (12.0 / 49), 0, 0.064, 0};  // treated rates 3/7 and 1/2
-    for (s.BinaryType = 1; s.BinaryType <= 4; ++s.BinaryType)
-        EXPECT_NEAR(GetICCTx(s, 0.1), treatedIcc[s.BinaryType - 1], 1e-15);
+    for (int type = 1; type <= 4; ++type) {
+        s.BinaryType = BinaryTypes(type);
+        EXPECT_NEAR(GetICCTx(s, 0.1), treatedIcc[type - 1], 1e-15);
+    }
     s.txtPrev = 0.05;
     EXPECT_EQ(MaxICC(s), 1);
     s.logit.error(2) = LogitErrors::cumulativeTooWide;
     EXPECT_EQ(GetErrMsg(s, 2), "The cumulative span of risks cannot exceed 1.0");
-    bool truncated = false;
-    double lower = 9, upper = 9;
-    GetRange(0.5, 1.5, lower, upper, truncated);
-    EXPECT_TRUE(lower == -0.5 && upper == 1 && truncated) << "the lower limit is not held a second time";
-    SilentDisplay silent;
+    const ShiftedRange range = GetRange(0.5, 1.5);
+    EXPECT_TRUE(range.lower == -0.5 && range.upper == 1 && range.truncated)
+        << "the lower limit is not held a second time";
     s.IccMetric = IccMetrics::icc;
     s.txtICC(2) = -0.1;
-    EXPECT_THROW(SynchICC(s, silent), ArithmeticFault);
+    EXPECT_THROW(SynchICC(s), ArithmeticFault);
 }
 
 TEST(EffectDispersion, SixDesignsAndFaults) {
@@ -64,22 +64,23 @@ TEST(EffectDispersion, CellsOfThePanel) {
 TEST(Dispersion, RoundTripsOnRandomStudies) {
     std::mt19937_64 engine(20);
     std::uniform_real_distribution<double> uniform(0.0, 1.0);
-    SilentDisplay silent;
     for (int k = 0; k < 3000; ++k) {
         Study s = studyOf(2 + k % 3, 1 + k / 3 % (1 + k % 3));
-        s.DataType = 1 + k / 2 % 2, s.txtPrev = 0.01 + 0.98 * uniform(engine);
+        s.DataType = DataTypes(1 + k / 2 % 2), s.txtPrev = 0.01 + 0.98 * uniform(engine);
         for (int level = 2; level <= 4; ++level) {
             s.txtICC(level) = 0.9 * (s.isMeans() ? 0.34 : std::min(0.34, MaxICC(s))) * uniform(engine);
             s.txtTauSq(level) = uniform(engine);
         }
         const PerLevel<double> icc = s.txtICC, tauSquared = s.txtTauSq;
-        for (s.IccMetric = 1; s.IccMetric <= 2; ++s.IccMetric) {
-            (s.IccMetric == IccMetrics::icc ? s.txtMRange : s.txtICC).fill(1);
-            SynchICC(s, silent);
+        for (const IccMetrics metric : {IccMetrics::icc, IccMetrics::span}) {
+            s.IccMetric = metric;
+            (metric == IccMetrics::icc ? s.txtMRange : s.txtICC).fill(1);
+            SynchICC(s);
         }
         PerLevel<double>* const forms[] = {&s.txtTauSq, &s.txtDRange, &s.txtOmega, &s.txtTauSq, &s.txtDRange};
-        for (s.TauSqMetric = 1; s.TauSqMetric <= 3; ++s.TauSqMetric) {
-            forms[s.TauSqMetric]->fill(-1), forms[s.TauSqMetric + 1]->fill(-1);
+        for (int metric = 1; metric <= 3; ++metric) {
+            s.TauSqMetric = TauSqMetrics(metric);
+            forms[metric]->fill(-1), forms[metric + 1]->fill(-1);
             SynchTauSq(s);
         }
         for (int level = 2; level <= s.NumLevels; ++level) {
@@ -157,7 +158,8 @@ TEST(ReadinessChecks, Boundaries) {
     for (const auto& [d, oddsRatio, icc, valid] :
          {Row{0.001, 1, 0.999, 0}, {0.0011, 1.0000001, 0.9989, 1}, {-0.001, 1, 1, 0}, {-0.5, 0.9, 0, 1}}) {
         s.txtd = d, s.ComputedOR = oddsRatio, s.txtICC(2) = icc;
-        for (s.DataType = 1; s.DataType <= 2; ++s.DataType) {
+        for (const DataTypes type : {DataTypes::means, DataTypes::binary}) {
+            s.DataType = type;
             s.result = PowerResult();
             CheckES(s);
             CheckTotICC(s);
@@ -173,23 +175,23 @@ TEST(ReadinessChecks, Boundaries) {
         EXPECT_EQ(flags, value == 1e-9 ? 4 : 0) << value;
     }
     CheckDF(s, 0, 2), CheckDF(s, -1e-8, 2), CheckDF(s, -1e-6, 3), CheckTestDF(s, 0.99999995);
-    EXPECT_TRUE(r.xValidDF(2) == 1 && r.xValidDF(3) == 0 && r.xValidTestdf == 1);
+    EXPECT_TRUE(r.xValidDF(2) && !r.xValidDF(3) && r.xValidTestdf);
     CheckTestDF(s, 0.9999), CheckQ(s, 0.3, 0, 1), CheckModel(s, 2, 2), CheckModel(s, 1, 3);
-    EXPECT_TRUE(r.xValidTestdf == 0 && r.xValidQ(1) == 0 && r.xValidModel(2) == 1 && r.xValidModel(3) == 0);
+    EXPECT_TRUE(!r.xValidTestdf && !r.xValidQ(1) && r.xValidModel(2) && !r.xValidModel(3));
     s = Study();
     s.DataType = DataTypes::binary;
     CheckQ(s, 0.3, 0, 1), CheckQ(s, 0.3, 0, 2), CheckQ(s, 0.3, 1, 3), CheckQ(s, 0, 0, 4);
-    EXPECT_TRUE(r.xValidQ(1) == 1 && r.xValidQ(2) == 0 && r.xValidQ(3) == 1 && r.xValidQ(4) == 1);
+    EXPECT_TRUE(r.xValidQ(1) && !r.xValidQ(2) && r.xValidQ(3) && r.xValidQ(4));
 }
 
 TEST(ReadinessChecks, NeedOk) {
     for (const std::string name : {"d", "RD", "OR", "Prev", "ICC(1)", "MRange(1)", "MRange(4)", "TauSq(3)",
                                    "DRange(1)", "Omega(4)", "Q(2)", "Rsq(1)"}) {
-        StudyBench bench;
-        bench.play("RR=2 P2=0.3 NT(1)=5 CostT(1)=7 Model(2)=1 Alpha=0.1");
-        EXPECT_FALSE(NeedOk(bench.study));
-        bench.play(name + "=0.3");
-        EXPECT_TRUE(NeedOk(bench.study)) << name;
+        SessionState state;
+        StudyBench::write(state, "RR=2 P2=0.3 NT(1)=5 CostT(1)=7 Model(2)=1 Alpha=0.1");
+        EXPECT_FALSE(NeedOk(state.study));
+        StudyBench::write(state, name + "=0.3");
+        EXPECT_TRUE(NeedOk(state.study)) << name;
     }
 }
 

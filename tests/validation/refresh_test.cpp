@@ -1,4 +1,4 @@
-// The refresh: what it shows, which windows it moves, and that a silent one leaves no trace.
+// What a change shows, which windows it moves, and that a trial leaves no trace.
 #include <cstdlib>
 #include <new>
 #include <regex>
@@ -37,14 +37,13 @@ std::vector<ControlValue> shown(const StudyBench& bench) {
 }
 
 /// All eighteen designs, valid and with every kind of fault that the design knows.
-TEST(Refresh, SilentOneShowsNothingAndAllocatesNothing) {
+TEST(Refresh, TrialShowsNothingAndAllocatesNothing) {
     for (int design = 0; design < 24; ++design) {
         const int levels = 2 + design / 8, randomized = 1 + design / 2 % 4, type = 1 + design % 2;
         StudyBench bench;
-        bench.study.NumLevels = levels, bench.study.RandomizedLevel = std::min(levels, randomized);
-        bench.study.DataType = type;
-        bench.play("d=0.4 OR=2 ICC_Metric=1 ICC(2)=0.1 ICC(3)=0.1 NT(1)=50 NC(1)=50 Q(2)=1 NB(2)=9 ;");
-        const Study good = bench.study;
+        bench.play("L=" + std::to_string(levels) + " R=" + std::to_string(std::min(levels, randomized)) +
+                   " DataType=" + std::to_string(type) +
+                   " d=0.4 OR=2 ICC_Metric=1 ICC(2)=0.1 ICC(3)=0.1 NT(1)=50 NC(1)=50 Q(2)=1 NB(2)=9");
         const auto before = shown(bench);
         const Grid::Row row = bench.registry.grid("frmSpreadICC.VS")->rows.at(2);
         for (const auto& [change, valid] : {std::pair{"NT(1)=80", true},
@@ -55,12 +54,14 @@ TEST(Refresh, SilentOneShowsNothingAndAllocatesNothing) {
                                             {"MRange(1)=0 ICC_Metric=2", type == 2},
                                             {"TauSq(2)=-1 TauSq(3)=-1 TauSq(4)=-1", randomized >= levels}}) {
             SCOPED_TRACE(testing::Message() << levels << ' ' << randomized << ' ' << type << ' ' << change);
-            bench.study = good;
-            bench.play(change);
+            SessionState changed = bench.session.state();
+            StudyBench::write(changed, change);
+            StudyTrial trial = bench.session.trial();
+            trial.study = changed.study;
             const long earlier = allocations;
-            bench.design.DoRefresh(false);
+            trial.refresh();
             EXPECT_EQ(allocations, earlier);
-            EXPECT_EQ(bench.study.result.xValid, valid ? 1 : 0);
+            EXPECT_EQ(trial.study.result.xValid, valid);
             EXPECT_EQ(shown(bench), before);
             EXPECT_EQ(bench.registry.grid("frmSpreadICC.VS")->rows.at(2), row);
         }
@@ -77,7 +78,7 @@ TEST(CellCounts, PanelAndItsSetting) {
                                                 {SchematicModes::automatic, "window:25=4", "window:25=1"},
                                                 {SchematicModes::on, "window:25=4", "window:25=4"}}) {
         StudyBench bench;
-        bench.design.settings().ShowCellCounts = mode;
+        bench.design.setShowCellCounts(mode);
         bench.play("DataType=2 ;");
         bench.expect(whenLow);
         EXPECT_EQ(bench.caption("frmCounts.pnlTitle"), "Cell counts are low");

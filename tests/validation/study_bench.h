@@ -8,7 +8,7 @@
 #include <sstream>
 
 #include "screen/design.h"
-#include "screen/study_fields.h"
+#include "session/field_book.h"
 #include "support/test_library.h"
 
 namespace lorvane {
@@ -18,20 +18,32 @@ namespace lorvane {
 struct StudyBench {
     NumericDistributionLibrary library;
     ScriptedDialogs messages;
-    Design design{library, FixedLocale(), messages};
-    Study& study = design.study();
+    SteadyClock clock;
+    Session session{library, detectCurrency(FixedLocale()), clock};
+    Design design{session, messages};
+    const Study& study = session.study();
     ControlRegistry registry;
 
-    StudyBench() { design.registerNames(registry); }
+    StudyBench() {
+        session.follow([this](const Changed& changed) { design.show(changed); });
+        design.registerNames(registry);
+    }
 
-    /// Writes the fields; a ";" refreshes.
-    void play(const std::string& assignments) {
+    /// Writes fields into a state, and nothing that follows from them.
+    static void write(SessionState& state, const std::string& assignments) {
         forEach(assignments, [&](const std::string& name, double value) {
-            if (name == ";")
-                return design.DoRefresh(true);
-            const StudyField* field = design.fields().find(name);
-            writeField(field ? *field : *design.fields().find("txt" + name), value);
+            const auto named = findField(name);
+            const FieldRef field = named ? *named : findField("txt" + name).value();
+            const bool isFlag = field->member.kind == FieldKind::flag;
+            writeField(state, field, isFlag ? FieldValue(value != 0) : FieldValue(value));
         });
+    }
+
+    /// Writes the fields as one edit; a ";" begins the next one.
+    void play(const std::string& assignments) {
+        std::istringstream edits(assignments);
+        for (std::string fields; std::getline(edits, fields, ';');)
+            session.edit({"values"}, [&](SessionState& state) { write(state, fields); });
     }
 
     void expect(const std::string& values, const std::string& panel = "") const {

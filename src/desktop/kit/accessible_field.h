@@ -1,14 +1,14 @@
-// What screen readers see of a field that paints itself. Knows no widget: the one that registers names
-// itself.
+// What screen readers see of a field that paints itself. Knows no widget; each class of widgets passes itself
+// in.
 #pragma once
 
 #include <QAccessibleWidget>
 
 namespace lorvane::desktop {
 
-/// A widget as a field whose text is read, stepped and opened, but not edited in place. Field is the class of
-/// the widget, which tells accessibleRole(), text(), isChangeable() and hasProblem() and takes step() and
-/// activate().
+/// Shows a widget to screen readers as a field whose text can be read, stepped and opened, but not edited in
+/// place. Field is the class of the widget. It must have accessibleRole(), text(), isChangeable(),
+/// hasProblem(), step() and activate().
 template <typename Field>
 class FieldInterface : public QAccessibleWidget, public QAccessibleTextInterface {
 public:
@@ -73,7 +73,7 @@ private:
     Field* field() const { return static_cast<Field*>(widget()); }
 };
 
-/// Makes the widgets of a class known as fields. Once is enough; more does no harm.
+/// Makes all widgets of a class known as fields, also those made later. Once is enough; more does no harm.
 template <typename Field>
 void installAccessibleFields() {
     QAccessible::installFactory([](const QString&, QObject* object) -> QAccessibleInterface* {

@@ -1,4 +1,4 @@
-// The name of a group beside its field, with the group's dot, or a plain word. Knows no group but by colour.
+// The name of a group beside its field, with a dot in the colour of the group. Shows a plain word too.
 #pragma once
 
 #include <QString>
@@ -7,14 +7,17 @@
 
 namespace lorvane::desktop {
 
+/// One line of caption text. The text is not cut, so the layout must give it the width it asks for.
 class ArmLabel : public PaintedText {
     Q_OBJECT
 
 public:
+    /// The dot before the name: none, or one in the colour of an arm.
     enum class Dot { None, Treated, Control };
 
     explicit ArmLabel(QWidget* parent = nullptr);
 
+    /// The dot and the text behind it; screen readers get the text.
     void setArm(Dot dot, const QString& name);
 
     QSize sizeHint() const override;

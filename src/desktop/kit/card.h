@@ -6,6 +6,7 @@
 
 namespace lorvane::desktop {
 
+/// What a card tells by its ground and its line.
 enum class CardTone {
     Plain,    ///< a card
     Problem,  ///< a card that tells of a problem
@@ -13,16 +14,17 @@ enum class CardTone {
     Quiet,    ///< a band with something past or unimportant
 };
 
-/// Paints the sheet of a card; for widgets that are cards and paint their content too.
+/// Paints the sheet of a card. It is for widgets that look like cards and paint their content themselves.
 void paintCard(QPainter& painter, const QRectF& bounds, CardTone tone);
 
-/// A card for other widgets. It sets no margins.
+/// A card that holds other widgets. It has no layout and no margins of its own.
 class Card : public QWidget {
     Q_OBJECT
 
 public:
     explicit Card(CardTone tone = CardTone::Plain, QWidget* parent = nullptr);
 
+    /// The tone; another one repaints the card.
     void setTone(CardTone tone);
     CardTone tone() const { return tone_; }
 

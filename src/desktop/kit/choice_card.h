@@ -11,7 +11,7 @@ namespace lorvane::desktop {
 struct Choice {
     Icon icon = Icon::New;
     QString title;
-    QString sense;  ///< one line that tells what it means
+    QString sense;  ///< one line below the title that tells what it means
 };
 
 /// A radio button as a card: siblings exclude each other, and the arrow keys go from one to the next.
@@ -21,6 +21,7 @@ class ChoiceCard : public QRadioButton {
 public:
     explicit ChoiceCard(QWidget* parent = nullptr);
 
+    /// What the card shows; screen readers get the title as name and the sense as description.
     void setChoice(const Choice& choice);
 
     QSize sizeHint() const override;

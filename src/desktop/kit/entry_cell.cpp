@@ -28,7 +28,7 @@ void EntryCell::open(const QString& text) {
     editor_->setFocus();
 }
 
-/// The editor is hidden first, so that losing the keyboard does not take the text a second time.
+/// Hides the editor first. Otherwise its loss of the keyboard would take the text a second time.
 void EntryCell::close(bool take) {
     const bool hadFocus = editor_->hasFocus();
     editor_->hide();

@@ -7,8 +7,8 @@ class QLineEdit;
 
 namespace lorvane::desktop {
 
-/// A double click, Enter or a digit opens the cell for typing; Enter or leaving it takes the text, Escape
-/// leaves it as it was.
+/// A double click, Enter or a digit opens the cell for typing. Enter, or leaving the cell, takes the typed
+/// text; Escape drops it.
 class EntryCell : public ValueCell {
     Q_OBJECT
 
@@ -16,6 +16,8 @@ public:
     explicit EntryCell(QWidget* parent = nullptr);
 
 signals:
+    /// The user has typed another text than the cell shows. The cell itself goes on showing the old one until
+    /// its owner sets a new one.
     void entered(const QString& text);
 
 protected:

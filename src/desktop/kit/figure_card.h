@@ -10,27 +10,28 @@
 
 namespace lorvane::desktop {
 
-/// "Power = " in light words and the number after it, and a quiet line below, with a check sign or without.
+/// A result in large figures: words such as "Power = " in light type, the number after them, and a quiet line
+/// below.
 struct Figure {
     QString words;
     QString number;
-    QString note;
-    bool checked = false;
+    QString note;          ///< the line below
+    bool checked = false;  ///< a check sign stands before the line
     bool operator==(const Figure&) const = default;
 };
 
-/// A mark on a bar, at a share of its length, with the text below.
+/// A mark on a bar.
 struct FigureTick {
-    double share = 0;
-    QString text;
+    double share = 0;  ///< its place, as a share of the length of the bar, 0 to 1
+    QString text;      ///< below it, shifted where it would meet the text of an end
     bool operator==(const FigureTick&) const = default;
 };
 
-/// Name and value over a bar filled to a share from 0 to 1, the texts of both ends below.
+/// A result as a bar, its name and value above, and the texts of both ends below.
 struct FigureBar {
     QString name;
     QString value;
-    double share = 0;
+    double share = 0;  ///< how far the bar is filled; below 0 shows as 0, above 1 as 1
     QString lowText;
     QString highText;
     std::optional<FigureTick> tick = {};
@@ -44,14 +45,17 @@ struct FigureTrouble {
     bool operator==(const FigureTrouble&) const = default;
 };
 
+/// What a card shows: one of the three.
 using FigureContent = std::variant<Figure, FigureBar, FigureTrouble>;
 
+/// The card takes the tone of its content. A figure that is too long for its width gets smaller type.
 class FigureCard : public PaintedText {
     Q_OBJECT
 
 public:
     explicit FigureCard(QWidget* parent = nullptr);
 
+    /// The content, an empty figure at first. Equal content repaints nothing.
     void setContent(const FigureContent& content);
     const FigureContent& content() const { return content_; }
 

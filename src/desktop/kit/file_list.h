@@ -1,5 +1,5 @@
-// A short list of files under a heading, to choose one of or to look for more. It opens no file and looks for
-// none.
+// A short list of files under a heading. The user chooses one of them, or the first row, to look for another.
+// The list opens no file and looks for none.
 #pragma once
 
 #include <vector>
@@ -22,11 +22,13 @@ struct FileEntry {
     friend bool operator==(const FileEntry&, const FileEntry&) = default;
 };
 
+/// Files are numbered from 0 in the order of the list. One row is current. A row becomes current when the
+/// pointer moves over it.
 class FileList : public QWidget {
     Q_OBJECT
 
 public:
-    /// The number of the first row, which stands for files that are not in the list. Files count from 0.
+    /// The number of the first row, which stands for files that are not in the list.
     static constexpr int More = -1;
 
     explicit FileList(QWidget* parent = nullptr);
@@ -34,10 +36,11 @@ public:
     /// The heading, and the text of the first row.
     void setTexts(const QString& heading, const QString& more);
 
-    /// The files below the first row. The current row stays current by its number, as far as it is there.
+    /// The files below the first row. The row with the number of the current one is current afterwards, or
+    /// the first row when there are too few files. Sends no signal.
     void setEntries(const std::vector<FileEntry>& entries);
 
-    /// Makes a row current and brings it into view, without a signal.
+    /// The number of the current row. Setting it brings the row into view and sends no signal.
     void setCurrent(int file);
     int current() const;
 

@@ -50,6 +50,7 @@ enum class Icon {
     PowerBar,
     PowerDigits,
     Print,
+    Redo,
     Report,
     Restore,
     Save,
@@ -60,6 +61,7 @@ enum class Icon {
     Table,
     Target,
     Trash,
+    Undo,
     Warning,
     Width,
     XAxis,
@@ -68,8 +70,9 @@ enum class Icon {
 /// Number of drawings; Icon values run from 0.
 inline constexpr int IconCount = static_cast<int>(Icon::XAxis) + 1;
 
-/// A drawing as an icon that takes the colours of the theme in use: second text at rest, accent when checked,
-/// quiet when disabled. Asked for a wider than square size (26 x 20 beside a word) it stands at the left.
+/// A drawing as an icon that takes the colours of the theme in use each time it is drawn: second text at
+/// rest, accent when checked, quiet when disabled. In a size that is wider than high, such as 26 x 20 beside
+/// a word, the drawing stands at the left.
 QIcon icon(Icon name);
 
 /// Paints a drawing in one colour into the largest square at the left of an area.

@@ -1,5 +1,5 @@
-// Painting of radio and check signs, in menus too. All else is left to Fusion, and all of it in high
-// contrast.
+// Painting of radio and check signs, in menus too. Everything else is left to Fusion; in high contrast the
+// signs are too.
 #include "desktop/kit/kit_style.h"
 
 #include <QPainter>

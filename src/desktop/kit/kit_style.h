@@ -5,12 +5,15 @@
 
 namespace lorvane::desktop {
 
+/// The signs, 16 wide and high, take the colours of the theme in use. In high contrast they are those of
+/// Fusion.
 class KitStyle : public QProxyStyle {
     Q_OBJECT
 
 public:
     KitStyle();
 
+    /// The size of the signs and their distance from the words, and their painting.
     int pixelMetric(PixelMetric metric, const QStyleOption* option, const QWidget* widget) const override;
     void drawPrimitive(PrimitiveElement element, const QStyleOption* option, QPainter* painter,
                        const QWidget* widget) const override;

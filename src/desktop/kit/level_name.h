@@ -1,4 +1,4 @@
-// The name of a level with its role below. Knows neither levels nor roles but as words.
+// The name of a level with its role below. Knows both as words only.
 #pragma once
 
 #include <QString>
@@ -7,13 +7,15 @@
 
 namespace lorvane::desktop {
 
+/// Words that are too long for the width end in three dots.
 class LevelName : public PaintedText {
     Q_OBJECT
 
 public:
     explicit LevelName(QWidget* parent = nullptr);
 
-    /// The name and the word below it; the accented word is the randomized level's.
+    /// The name and the role below it. An accented role, that of the randomized level, is stronger and in the
+    /// colour of accent.
     void setLevel(const QString& name, const QString& role, bool accented);
 
     QSize sizeHint() const override;

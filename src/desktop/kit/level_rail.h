@@ -7,15 +7,18 @@
 
 namespace lorvane::desktop {
 
+/// A line leads down from stop to stop. Below the randomized level it parts into two, one for each arm.
 class LevelRail : public QWidget {
     Q_OBJECT
 
 public:
+    /// The role of a level: a dot in both colours, a ring with the sign of chance, or a dot on each line.
     enum class Stop { Blocked, Randomized, Nested };
 
     explicit LevelRail(QWidget* parent = nullptr);
 
-    /// The roles from the top level down, and the middle of each row in this widget's coordinates.
+    /// The roles from the top level down, and the height of the middle of each row in this widget's
+    /// coordinates. Where one list is longer, its rest is left out.
     void setStops(const QList<Stop>& stops, const QList<int>& centres);
 
     QSize sizeHint() const override;

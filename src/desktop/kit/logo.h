@@ -7,13 +7,13 @@ class QIcon;
 
 namespace lorvane::desktop {
 
-/// Paints the mark, in the colours of the theme in use, as large as it fits into the middle of an area.
+/// Paints the mark in the colours of the theme in use, in the middle of an area and as large as fits into it.
 void drawLogo(QPainter& painter, const QRectF& area);
 
-/// The mark on a white plate, for windows and task bars of any colour, in the sizes that they ask for.
+/// The mark on a white plate, for windows and task bars of any colour, in sizes from 16 to 256.
 QIcon logoIcon();
 
-/// The mark at the head of the start screen.
+/// The mark at the head of the start screen, in a fixed size.
 class Logo : public QWidget {
     Q_OBJECT
 

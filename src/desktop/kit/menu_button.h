@@ -1,4 +1,4 @@
-// A flat button that shows a value and a chevron, and opens what its owner gives it. Knows no menu entry.
+// A flat button with a text and a chevron that opens a menu. Knows no menu entry.
 #pragma once
 
 #include <optional>
@@ -9,11 +9,12 @@
 
 namespace lorvane::desktop {
 
+/// The text is for the value in force, such as the alpha of the test. Its digits have one width.
 class MenuButton : public QPushButton {
     Q_OBJECT
 
 public:
-    /// Give it a menu with setMenu, or listen to clicked.
+    /// Opens nothing by itself: the owner gives it a menu with setMenu, or listens to clicked.
     explicit MenuButton(const QString& text = {}, QWidget* parent = nullptr);
 
     /// A drawing before the text.

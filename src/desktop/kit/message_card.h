@@ -7,14 +7,17 @@
 
 namespace lorvane::desktop {
 
+/// The text wraps, and the card keeps at least the height that this takes at its width.
 class MessageCard : public PaintedText {
     Q_OBJECT
 
 public:
+    /// A problem has the warning sign and the colours of a problem; a quiet remark has neither.
     enum class Kind { Problem, Quiet };
 
     explicit MessageCard(Kind kind = Kind::Problem, QWidget* parent = nullptr);
 
+    /// The kind and the text; screen readers get the text.
     void setKind(Kind kind);
     void setText(const QString& text);
     const QString& text() const { return text_; }

@@ -59,10 +59,11 @@ protected:
     }
 };
 
-/// On a dark ground, where shadows say little, a sheet above others is lighter than they are.
+/// On a dark ground a shadow is hardly seen, so the sheet is lighter than what it covers.
 Role sheetRole() { return Theme::current().isDark() ? Role::Field : Role::Card; }
 
-/// Faint sheets, each smaller than the one below and strongest about the edge, add up to a soft shadow.
+/// Paints faint sheets over each other, each smaller than the one below. Those about the size of the real
+/// sheet are the strongest. Together they are a soft shadow.
 void paintShadow(QPainter& painter, const QRectF& sheet) {
     constexpr double Spread = ShadowReach / 2.0;
     constexpr double Peak = ShadowShare * ShadowStep * 0.3989 / Spread;
@@ -107,7 +108,8 @@ NotesOverlay::NotesOverlay(QWidget* covered)
     connect(qApp, &QApplication::focusChanged, this, [this](QWidget*, QWidget* now) { keepFocus(now); });
 }
 
-// The buttons go after the overlay itself, and one with the keyboard says so.
+// The buttons are destroyed after the overlay's own part. A button with the keyboard then reports a change of
+// focus, which must not reach keepFocus any more.
 NotesOverlay::~NotesOverlay() { disconnect(qApp, nullptr, this, nullptr); }
 
 QWidget* NotesOverlay::makeSheet() {
@@ -165,7 +167,7 @@ void NotesOverlay::arrange() {
 
 // Keyboard -------------------------------------------------------------------------------------------------
 
-/// Whatever else is given the keyboard in this window gives it back.
+/// When another part of this window gets the keyboard, the button takes it back.
 void NotesOverlay::keepFocus(QWidget* now) {
     if (isVisible() && now != nullptr && now->window() == window() && !isAncestorOf(now))
         button_->setFocus();
@@ -177,7 +179,7 @@ bool NotesOverlay::focusNextPrevChild(bool) {
     return true;
 }
 
-/// Escape belongs to the notes before it is a shortcut of the window.
+/// Keeps Escape from the shortcuts of the window, so that it reaches keyPressEvent.
 bool NotesOverlay::event(QEvent* event) {
     if (event->type() == QEvent::ShortcutOverride &&
         static_cast<QKeyEvent*>(event)->key() == Qt::Key_Escape) {

@@ -12,20 +12,24 @@ namespace lorvane::desktop {
 
 class PushButton;
 
-/// Lies over its parent, hidden at first. The keyboard stays on the sheet while it is shown.
+/// Lies over its parent, hidden at first; the owner shows and hides it. While it is shown the keyboard stays
+/// on the sheet. When it is hidden the keyboard goes back to where it was.
 class NotesOverlay : public QWidget {
     Q_OBJECT
 
 public:
+    /// Becomes a child of the widget that it covers, and follows its size.
     explicit NotesOverlay(QWidget* covered);
     ~NotesOverlay() override;
 
-    /// The title and the paragraphs, parted by empty lines.
+    /// The title and the text, plain, whose empty lines part paragraphs. Longer notes than fit scroll.
     void setNotes(const QString& title, const QString& text);
+    /// The words of the button that closes; "Close notes" at first.
     void setButton(const QString& words);
 
 signals:
-    /// Button, close sign, Escape or Enter. It stays open until the owner hides it.
+    /// The user asks to close the notes, by the button, the close sign, Escape or Enter. They stay open until
+    /// the owner hides them.
     void closeRequested();
 
 protected:

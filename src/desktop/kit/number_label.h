@@ -1,4 +1,4 @@
-// A line of text with tabular digits that is only read. Knows nothing of the number.
+// A line of text with digits of one width, to be read only. Knows nothing of the number.
 #pragma once
 
 #include <QString>
@@ -9,19 +9,22 @@
 
 namespace lorvane::desktop {
 
+/// The text is neither cut nor wrapped.
 class NumberLabel : public PaintedText {
     Q_OBJECT
 
 public:
+    /// The alignment is Qt::AlignLeft, Qt::AlignRight or Qt::AlignHCenter.
     explicit NumberLabel(Qt::Alignment alignment = Qt::AlignRight, QWidget* parent = nullptr);
 
+    /// The text, which screen readers get too.
     void setText(const QString& text);
     const QString& text() const { return text_; }
 
-    /// Size and weight; Value at first.
+    /// Size and weight of the text; TextStyle::Value at first.
     void setTextStyle(TextStyle style);
 
-    /// Colour; Text at first. Disabled it is quiet.
+    /// Colour of the text; Role::Text at first. A disabled label takes Role::Quiet instead.
     void setTextRole(Role role);
 
     QSize sizeHint() const override;

@@ -1,5 +1,5 @@
-// A sheet over a window that draws outlines around what needs attention. Takes no input; knows rectangles
-// only.
+// A clear sheet over a widget that draws outlines around what needs attention. It lets all input through and
+// knows rectangles only.
 #pragma once
 
 #include <QList>
@@ -18,17 +18,20 @@ struct Outline {
 /// The distance of an outline that points at something without calling it wrong.
 inline constexpr int GuideDistance = 8;
 
+/// Stays above what is added to the covered widget later.
 class OutlineOverlay : public QWidget {
     Q_OBJECT
 
 public:
-    /// Covers the whole of a widget, above its children, and follows its size.
+    /// Becomes a child of the widget that it covers, above its other children, and follows its size.
     explicit OutlineOverlay(QWidget* covered);
 
+    /// All outlines at once; those around an empty rectangle are left out.
     void setOutlines(const QList<Outline>& outlines);
     const QList<Outline>& outlines() const { return outlines_; }
 
-    /// The rectangle around some visible widgets, in the overlay's coordinates.
+    /// The rectangle around all of these widgets that are visible, in the overlay's coordinates; empty when
+    /// none is. They must lie within the covered widget.
     QRect rectangleAround(const QList<QWidget*>& widgets) const;
 
 protected:

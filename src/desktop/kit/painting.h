@@ -8,14 +8,15 @@ class QPainter;
 
 namespace lorvane::desktop {
 
-inline constexpr double CardRadius = 8;
-inline constexpr double FieldRadius = 6;
-inline constexpr double RingWidth = 2;
+inline constexpr double CardRadius = 8;   ///< of the corners of cards and outlines
+inline constexpr double FieldRadius = 6;  ///< of the corners of fields, buttons and rows
+inline constexpr double RingWidth = 2;    ///< of the line around what has the focus or a problem
 
-/// A plate with round corners, without a line.
+/// A plate with round corners, without a line. Like all of these it leaves the painter's pen, brush and
+/// antialiasing changed.
 void fillPlate(QPainter& painter, const QRectF& bounds, double radius, const QColor& fill);
 
-/// A line with round corners that lies wholly within the bounds.
+/// A line around a plate with round corners; the whole width of the line lies within the bounds.
 void strokePlate(QPainter& painter, const QRectF& bounds, double radius, const QColor& line, double width);
 
 /// A plate with a line of 1 around it, both within the bounds.

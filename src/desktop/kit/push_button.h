@@ -10,10 +10,12 @@ class PushButton : public QPushButton {
     Q_OBJECT
 
 public:
+    /// The primary button of a window is filled with the colour of accent.
     enum class Rank { Plain, Primary };
 
     explicit PushButton(const QString& text, Rank rank = Rank::Plain, QWidget* parent = nullptr);
 
+    /// The look only; which button Enter presses is the dialog's own matter.
     void setRank(Rank rank);
     Rank rank() const { return rank_; }
 
@@ -24,6 +26,7 @@ private:
     Rank rank_;
 };
 
+/// A new button of either rank. It belongs to the parent, or to the widget whose layout takes it.
 PushButton* plainButton(const QString& text, QWidget* parent = nullptr);
 PushButton* primaryButton(const QString& text, QWidget* parent = nullptr);
 

@@ -1,5 +1,4 @@
-// The rows of a table of records and their order. Knows texts only; nothing of what they mean or how they
-// look.
+// The rows of a table of records and their order. Knows texts only, not what they mean or how they look.
 #pragma once
 
 #include <vector>
@@ -13,30 +12,34 @@ namespace lorvane::desktop {
 /// A column of the table.
 struct RecordColumn {
     QString title;
-    int width = 0;
+    int width = 0;           ///< in pixels
     bool isNumber = false;   ///< right-aligned, and sorted by value
     bool stretches = false;  ///< takes the spare width
 
     friend bool operator==(const RecordColumn&, const RecordColumn&) = default;
 };
 
-/// The texts as they were given.
+/// The texts as they were given, by row and column from 0.
 class RecordModel : public QAbstractTableModel {
     Q_OBJECT
 
 public:
     using QAbstractTableModel::QAbstractTableModel;
 
+    /// The columns from left to right. Views lose selection and current cell.
     void setColumns(std::vector<RecordColumn> columns);
     const std::vector<RecordColumn>& columns() const { return columns_; }
 
+    /// The rows from top to bottom, a text for each column. Views lose selection and current cell.
     void setRows(std::vector<QStringList> rows);
     const std::vector<QStringList>& rows() const { return rows_; }
 
-    /// The text of a cell; empty where a row is short.
+    /// The text of a cell of an existing row; empty where the row has no text for the column.
     QString text(int row, int column) const;
 
-    /// The values of a column of numbers, NaN where the text is none. Read from the texts at the first call.
+    /// The values of a column of numbers, one for each row; NaN where the text is no number. Currency,
+    /// thousands' commas and per cent signs do not count. The values of the last column that was asked for
+    /// are kept; asking for another one, or new rows, overwrites them.
     const std::vector<double>& values(int column) const;
 
     int rowCount(const QModelIndex& parent = {}) const override;

@@ -15,6 +15,7 @@
 #include <QStyle>
 #include <QStyledItemDelegate>
 
+#include "desktop/kit/copy_key.h"
 #include "desktop/kit/icons.h"
 #include "desktop/kit/number_text.h"
 #include "desktop/kit/painting.h"
@@ -115,6 +116,7 @@ RecordTable::RecordTable(QWidget* parent, const RecordRoom& room)
       order_(new RecordOrder(*records_, this)) {
     setUpView();
     setUpFlight();
+    new CopyKey(this, [this] { copySelection(); });
     connect(this, &QTableView::doubleClicked, this, &RecordTable::activate);
 }
 
@@ -263,9 +265,7 @@ void RecordTable::activate(const QModelIndex& index) {
 }
 
 void RecordTable::keyPressEvent(QKeyEvent* event) {
-    if (event->matches(QKeySequence::Copy))
-        copySelection();
-    else if (event->key() == Qt::Key_Delete)
+    if (event->key() == Qt::Key_Delete)
         emit deletePressed();
     else if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter)
         activate(currentIndex());

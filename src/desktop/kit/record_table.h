@@ -1,5 +1,5 @@
-// A table of records to look through, sort and select from. Its owner speaks of rows by the numbers in which
-// it gave them, whatever their order on the screen. Knows texts only.
+// A table of records to look through, sort and select from. Its owner gives rows in an order of its own; a
+// row goes by its number in that order, from 0, however the user has sorted the table. Knows texts only.
 #pragma once
 
 #include <vector>
@@ -13,13 +13,14 @@
 
 namespace lorvane::desktop {
 
-/// How much room rows and texts get.
+/// How much room rows and texts get, in pixels.
 struct RecordRoom {
     int rowHeight = 34;
     int headHeight = 34;
-    int cellPadding = 14;
+    int cellPadding = 14;  ///< at the left and the right of each text
 };
 
+/// A table that is only read. The user sorts by a click on a head, and selects one row or several.
 class RecordTable : public QTableView {
     Q_OBJECT
 
@@ -29,35 +30,39 @@ public:
 
     explicit RecordTable(QWidget* parent = nullptr, const RecordRoom& room = {});
 
-    /// The columns from left to right. Other columns than before take the sorting back.
+    /// The columns from left to right. Columns other than before end the sorting.
     void setColumns(const std::vector<RecordColumn>& columns);
 
-    /// The rows in their own order. Sorting, selection by number and place in the list stay; nothing happens
-    /// when the rows are those already shown.
+    /// The rows in the owner's order. The sorting, the numbers that are selected and the place scrolled to
+    /// stay, and no signal is sent. Nothing happens when the rows are those already shown.
     void setRows(std::vector<QStringList> rows);
 
     /// Selects these rows and no others, without a signal. Numbers without a row are left out.
     void setSelectedRows(const QList<int>& rows);
 
-    /// Sets one row off from the others, whatever is selected; below 0 none.
+    /// Sets one row off from the others by a tint and stronger text, whatever is selected; a number below 0
+    /// sets off none.
     void setMarkedRow(int row);
+    /// Whether the row of a cell is the one set off; for the painting of cells.
     bool isMarked(const QModelIndex& index) const { return numberOf(index) == markedRow_; }
 
-    /// The selected rows by rising number.
+    /// The numbers of the selected rows, rising.
     QList<int> selectedRows() const;
 
-    /// Scrolls no further than it takes to see a row.
+    /// Scrolls to a row, no further than it takes to see it. Nothing when there is no such row.
     void bringIntoView(int row);
 
-    /// Floods a row in the colour of selection, from empty to full or back. A decoration that ends by itself;
-    /// none while the table is hidden or the system asks for less motion.
+    /// Floods a row with the colour of selection, from empty to full for In and back for Out. This decoration
+    /// lasts a quarter of a second, and is left out while the table is hidden or the system asks for less
+    /// motion.
     void fly(int row, Flight direction);
     bool isFlying() const { return flight_.state() == QAbstractAnimation::Running; }
 
-    /// Puts the selected rows on the clipboard, in the order on the screen, as lines of tabbed texts below
-    /// the heads.
+    /// Puts the heads and the selected rows on the clipboard, as lines of texts with tabs between them, in
+    /// the order on the screen. Without a selection the clipboard stays.
     void copySelection() const;
 
+    /// The room that the table was made with, and its columns and rows in the owner's order.
     const RecordRoom& room() const { return room_; }
     const RecordModel& records() const { return *records_; }
 
@@ -66,6 +71,7 @@ signals:
     void selectionChangedByUser(const QList<int>& rows);
     /// Double click on a row, or Enter.
     void activated(int row);
+    /// The user pressed Delete. No row goes by itself.
     void deletePressed();
 
 protected:

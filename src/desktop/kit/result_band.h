@@ -10,12 +10,14 @@
 
 namespace lorvane::desktop {
 
+/// A quiet text, which wraps.
 struct BandText {
     QString text;
     bool operator==(const BandText&) const = default;
 };
 
-/// "Cost = " in light words, the number after it, and a line beside.
+/// A result: words such as "Cost = " in light type, the number after them, and a note at their right, which
+/// wraps.
 struct BandFigure {
     QString words;
     QString number;
@@ -23,21 +25,24 @@ struct BandFigure {
     bool operator==(const BandFigure&) const = default;
 };
 
+/// A problem: the title beside the warning sign and the text below, which both wrap.
 struct BandProblem {
     QString title;
     QString text;
     bool operator==(const BandProblem&) const = default;
 };
 
+/// What a band shows: one of the three.
 using BandContent = std::variant<BandText, BandFigure, BandProblem>;
 
-/// As high as its texts at the width it is given.
+/// The layout gives the band its width; it fixes its own height, as its texts need it.
 class ResultBand : public PaintedText {
     Q_OBJECT
 
 public:
     explicit ResultBand(QWidget* parent = nullptr);
 
+    /// The content, an empty text at first. The tone of the band follows from it.
     void setContent(const BandContent& content);
     const BandContent& content() const { return content_; }
 

@@ -3,22 +3,26 @@
 
 namespace lorvane::desktop {
 
-/// A scale from its lowest line upwards.
+/// The lines of an axis: the lowest, the distance between two, and how many distances there are.
 struct RoundScale {
     double low = 0;
     double step = 1;
     int steps = 5;
 
+    /// The highest line.
     double high() const { return low + steps * step; }
 };
 
-/// 1, 2, 2.5 or 5 times a power of ten: the least that is no less than a number above 0.
+/// The smallest round step that is not below a number above 0. Round steps are 1, 2, 2.5 and 5 times a power
+/// of ten.
 double roundStep(double least);
 
-/// Five round steps that hold two values from 0 up, with about as much room above as below.
+/// A scale of five round steps that holds two values of 0 or more, with about as much room above them as
+/// below. It never begins below 0.
 RoundScale fiveSteps(double low, double high);
 
-/// The distance of marks on whole numbers that gives no more than seven marks on a length.
+/// The distance of marks on whole numbers, itself whole and round, that gives no more than seven marks on a
+/// length.
 double wholeStep(double length);
 
 }  // namespace lorvane::desktop

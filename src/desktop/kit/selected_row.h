@@ -7,7 +7,8 @@ class QWidget;
 
 namespace lorvane::desktop {
 
-/// Paints the round plate of a selected row, ringed when it also has the focus.
+/// Paints the plate with round corners below the text of a selected row. A ring shows that it also has the
+/// focus.
 void paintSelectedRow(QPainter& painter, const QRectF& bounds, bool ringed);
 
 /// Whether a widget has the focus and the user is moving about by keys, so that the focus has to be seen.

@@ -9,22 +9,22 @@
 
 namespace lorvane::desktop {
 
-/// A row: its name, its range on the scale with the texts of both ends. Scores are drawn in grey.
+/// A row: its name, its range on the scale, and the texts of both ends.
 struct SpanRow {
     QString label;
     double low = 0;
     double high = 0;
-    bool isScores = false;
+    bool isScores = false;  ///< a range of single scores, drawn in grey; other ranges have a colour
     QString lowText;
     QString highText;
     bool operator==(const SpanRow&) const = default;
 };
 
-/// A mark of the scale; the origin's line is stronger.
+/// A mark of the scale: a line and the text below it.
 struct SpanMark {
     double at = 0;
     QString text;
-    bool isOrigin = false;
+    bool isOrigin = false;  ///< its line is stronger
     bool operator==(const SpanMark&) const = default;
 };
 
@@ -38,13 +38,14 @@ struct SpanScale {
     bool operator==(const SpanScale&) const = default;
 };
 
+/// Screen readers get the text of the middle as name, and the rows as description.
 class SpanPlot : public PaintedText {
     Q_OBJECT
 
 public:
     explicit SpanPlot(QWidget* parent = nullptr);
 
-    /// The height follows from the number of rows.
+    /// The rows from the top down, and their scale. The preferred height follows from the number of rows.
     void setContent(const QList<SpanRow>& rows, const SpanScale& scale);
 
     QSize sizeHint() const override;

@@ -83,7 +83,8 @@ QStatusBar::item { border: none; }
 QStatusBar QLabel { color: @secondText; font-size: 9pt; padding: 0 14px; }
 )";
 
-/// The names by which the sheet calls the roles. A name that begins another one stands after it.
+/// The names by which the sheet calls the roles. They are replaced in this order, so a longer name such as
+/// @accentFill stands before @accent, with which it begins.
 struct Name {
     const char* name;
     Role role;

@@ -7,8 +7,9 @@ namespace lorvane::desktop {
 
 class Theme;
 
-/// The style sheet of bars, tool buttons, buttons, text fields, tabs, heads, menus and the status line in
-/// the colours of a theme. Buttons and text fields read the properties "primary" and "problem".
+/// The style sheet of bars, tool buttons, buttons, text fields, tabs, heads, menus and the status line in the
+/// colours of a theme. Three properties, set to true, change a widget: "primary" a button, "problem" a text
+/// field, and "second" a label, which then takes the colour of second text.
 QString styleSheet(const Theme& theme);
 
 }  // namespace lorvane::desktop

@@ -5,10 +5,12 @@
 
 namespace lorvane::desktop {
 
+/// Sizes are in pixels.
 class TextField : public QLineEdit {
     Q_OBJECT
 
 public:
+    /// Height and type.
     enum class Size {
         Usual,  ///< 32 high
         Large,  ///< 38 high, larger type at the right: the one field of a small dialog
@@ -16,7 +18,7 @@ public:
 
     explicit TextField(Size size = Size::Usual, QWidget* parent = nullptr);
 
-    /// Tint and outline of a value that cannot be taken.
+    /// Shows the tint and outline of a value that cannot be taken, or takes them off.
     void setProblem(bool problem);
 };
 

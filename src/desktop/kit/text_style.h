@@ -29,10 +29,12 @@ enum class TextStyle {
     Figure,         ///< 40, semibold
 };
 
-/// The font of a text style: interface family, without hinting, so that advances are not rounded.
+/// The font of a text style in the interface family. It has no hinting, so that widths are not rounded to
+/// whole pixels.
 QFont textFont(TextStyle style);
 
-/// Names the system's interface family. Unknown and generic names leave the program's own list of families.
+/// Puts the system's interface family before the program's own list of families. A name of no installed
+/// family leaves the list alone. Fonts made before stay as they are.
 void setInterfaceFamily(const QString& family);
 
 }  // namespace lorvane::desktop

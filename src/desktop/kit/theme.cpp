@@ -110,7 +110,8 @@ double contrast(const QColor& one, const QColor& other) {
     return (high + 0.05) / (low + 0.05);
 }
 
-/// Ordinary systems keep some grey in their windows; only those made for contrast go to the ends throughout.
+/// Palettes made for contrast have nearly black beside nearly white in windows, fields and buttons alike.
+/// Ordinary ones keep some grey in at least one of these.
 bool isOfHighContrast(const QPalette& palette) {
     constexpr double Threshold = 20.0;
     constexpr std::array<std::pair<QPalette::ColorRole, QPalette::ColorRole>, 3> Pairs = {{

@@ -8,7 +8,8 @@ namespace lorvane::desktop {
 
 namespace {
 
-/// Beside a word the drawing stands at the left of a wider place, which makes the gap.
+/// Sizes of the drawing. Beside a word the size is wider than the drawing, which stands at its left; the rest
+/// is the gap before the word.
 constexpr QSize AloneSize(20, 20);
 constexpr QSize WithWordSize(26, 20);
 constexpr int AloneWidth = 38;

@@ -6,6 +6,7 @@
 
 namespace lorvane::desktop {
 
+/// Keeps its shape: in a smaller place it is drawn smaller, in a larger one as large as sizeHint().
 class TrialDrawing : public QWidget {
     Q_OBJECT
 

@@ -201,7 +201,7 @@ void TrialPlot::paintTrials(QPainter& painter) const {
         drawDot(painter, placeOf(i), i == pointed_ ? PointedSize : DotSize, colour(Role::Treated));
 }
 
-/// The words stand below the ring at the right, and above it or at the left without room there.
+/// The words stand at the right of the ring and below it. Without room they stand at its left, or above it.
 void TrialPlot::paintBest(QPainter& painter) const {
     const QPointF place = placeOf(content_.best);
     painter.setPen(QPen(colour(Role::Treated), RingLine));

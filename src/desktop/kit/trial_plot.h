@@ -1,5 +1,5 @@
-// The drawing of trials: the cost of each against a size, joined in their order, and a ring at the cheapest.
-// All texts are given; which trial is the cheapest is for its owner to say.
+// The drawing of trials: the cost of each above a size, a line that joins them in their order, and a ring at
+// the cheapest. All texts are given, and the owner says which trial is the cheapest.
 #pragma once
 
 #include <QList>
@@ -10,32 +10,35 @@
 
 namespace lorvane::desktop {
 
-/// One trial, with what a tool tip tells of it.
+/// One trial.
 struct TrialPoint {
     double size = 0;
-    double cost = 0;
-    QStringList words;
+    double cost = 0;    ///< 0 or more
+    QStringList words;  ///< the lines of its tool tip
     bool operator==(const TrialPoint&) const = default;
 };
 
+/// What the plot shows. Without points it shows the title only.
 struct TrialPlotContent {
-    QString title;  ///< the plot adds in what unit costs are written
-    QString sizeLabel;
+    QString title;      ///< the plot adds "(thousands)" or "(millions)" where costs are written in these
+    QString sizeLabel;  ///< below the sizes
     QString bestLabel;  ///< beside the ring
     QList<TrialPoint> points;
-    int best = 0;
+    int best = 0;  ///< number of the cheapest in points, from 0; must be one of them unless there are none
     bool operator==(const TrialPlotContent&) const = default;
 };
 
+/// A card. The trial next to the pointer is drawn larger and has a tool tip.
 class TrialPlot : public PaintedText {
     Q_OBJECT
 
 public:
     explicit TrialPlot(QWidget* parent = nullptr);
 
+    /// The content; both scales follow from the points.
     void setContent(const TrialPlotContent& content);
 
-    /// The place of a trial in the widget.
+    /// The middle of the dot of a trial, in the widget's coordinates. The trial must be one of the points.
     QPointF placeOf(int point) const;
 
     QSize sizeHint() const override { return {337, 248}; }

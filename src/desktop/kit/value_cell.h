@@ -9,11 +9,13 @@
 
 namespace lorvane::desktop {
 
+/// The owner sets kind, text and problem, listens to the signals, and sets the new text itself.
 class ValueCell : public QWidget {
     Q_OBJECT
     Q_PROPERTY(QString text READ text WRITE setText)
 
 public:
+    /// What the cell looks like and what the user can do with it.
     enum class Kind {
         Spin,         ///< number at the right, field and arrows
         Linked,       ///< number at the right, link sign, no field
@@ -22,6 +24,7 @@ public:
         FixedChoice,  ///< word at the left, nothing else
     };
 
+    /// How the cell shows that its value is at fault.
     enum class Problem {
         None,
         Tinted,    ///< for cells that an outline surrounds
@@ -30,15 +33,16 @@ public:
 
     explicit ValueCell(Kind kind = Kind::Spin, QWidget* parent = nullptr);
 
-    /// The kind decides the look, the keys it takes and whether Tab stops here (all but ReadOnly,
-    /// FixedChoice).
+    /// The kind also decides the keys that the cell takes and whether Tab stops at it. Tab passes ReadOnly
+    /// and FixedChoice.
     void setKind(Kind kind);
     Kind kind() const { return kind_; }
 
-    /// The text as it is shown, currency and all.
+    /// The text as it is shown, currency and all. Where the cell is too narrow, the type becomes smaller.
     void setText(const QString& text);
     const QString& text() const { return text_; }
 
+    /// The problem shown; screen readers get a field with a problem as invalid.
     void setProblem(Problem problem);
     bool hasProblem() const { return problem_ != Problem::None; }
 
@@ -46,28 +50,31 @@ public:
     void setLarge(bool large);
     bool isLarge() const { return large_; }
 
-    /// Whether it takes arrows, keys and the wheel.
+    /// Whether it takes steps: by its arrows, by Up and Down, and by the wheel with Ctrl. Spin and Choice do.
     bool isChangeable() const;
+
+    /// What the cell is to screen readers, by its kind.
     QAccessible::Role accessibleRole() const;
 
-    /// What a single push on an arrow does: stepped and stepFinished. Nothing when not changeable or
-    /// disabled.
+    /// Does what a single push on an arrow does: sends stepped and stepFinished. The direction is 1 or -1.
+    /// Does nothing when the cell is not changeable or disabled.
     void step(int direction);
 
-    /// What a double click does.
+    /// Does what a double click does: sends activated, unless the cell is disabled.
     void activate();
 
     QSize sizeHint() const override;
     QSize minimumSizeHint() const override;
 
 signals:
-    /// One step up (1) or down (-1), again and again while an arrow or key is held.
+    /// The user asks for one step up (1) or down (-1). Sent again and again while an arrow or a key is held.
     void stepped(int direction);
-    /// The arrow or key is released, or the notch of the wheel is over.
+    /// Follows the last of one or more stepped: the arrow or key is released, or the notch of the wheel is
+    /// over. Also sent when the cell loses focus, is hidden or is disabled while one is held.
     void stepFinished();
-    /// Double click, Enter or Return.
+    /// The user asks to open the value: double click, Enter or Return. Sent whatever the kind.
     void activated();
-    /// Right click, the Menu key or Shift+F10.
+    /// Right click, the Menu key or Shift+F10. The place is where a menu belongs, on the screen.
     void contextMenuRequested(const QPoint& global);
     /// The cell has got the focus.
     void focused();

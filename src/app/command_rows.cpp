@@ -1,0 +1,901 @@
+// The rows of the book of commands: key, caption, tip, what it runs, how it stands, sign, keys.
+#include "app/command_rows.h"
+
+#include <string>
+#include <utility>
+
+#include "base/money.h"
+#include "base/number_text.h"
+#include "screen/questions.h"
+#include "screen/study_text.h"
+#include "session/assignments.h"
+
+namespace lorvane {
+
+namespace {
+
+using enum ToolCategory;
+using P = const Program&;
+
+/// How a command looks and is reached beside its caption.
+struct Looks {
+    Sign sign = Sign::none;
+    bool withWord = false;
+    const char* shortcut = "";
+};
+
+struct CommandRow {
+    const char* key;
+    const char* caption;
+    const char* tip;
+    ToolCategory category;
+    void (*run)(P) = nullptr;         ///< none: the program has no subject for it
+    ToolState (*state)(P) = nullptr;  ///< none: always on offer
+    Looks looks = {};
+};
+
+// How commands stand
+// -----------------------------------------------------------------------------------------
+
+ToolState checkedIf(bool checked) { return {.checked = checked}; }
+ToolState visibleIf(bool visible) { return {.visible = visible}; }
+ToolState enabledIf(bool enabled) { return {.enabled = enabled}; }
+
+template <WindowId window>
+ToolState isOpen(P p) {
+    return checkedIf(p.design.isOpen(window));
+}
+
+template <WindowId window>
+void open(P p) {
+    p.design.SynchForms(window, WindowAction::open);
+}
+
+template <SchematicModes DisplaySettings::*setting, SchematicModes mode>
+ToolState isMode(P p) {
+    return checkedIf(p.session.display().*setting == mode);
+}
+
+template <DetailLevels detail>
+ToolState isDetail(P p) {
+    return checkedIf(p.session.settings().CellCountDetail == detail);
+}
+
+ToolState isMetricOfMeans(P p, DTypes type) {
+    const Study& s = p.session.study();
+    return checkedIf(s.isMeans() && s.DType == type);
+}
+
+ToolState isMetricOfRisks(P p, BinaryTypes type) {
+    const Study& s = p.session.study();
+    return checkedIf(s.isBinary() && s.BinaryType == type);
+}
+
+// Such studies come from files; no command leads to them.
+ToolState onlyFromFiles(P p, BinaryTypes type) {
+    ToolState state = isMetricOfRisks(p, type);
+    state.enabled = false;
+    return state;
+}
+
+bool entersLimits(const Study& s) {
+    return s.IccMetric == IccMetrics::span && s.isBinary() && s.limits.RangeMode == RangeModes::limits;
+}
+
+template <TauSqMetrics metric>
+ToolState isTauSqMetric(P p) {
+    return checkedIf(p.session.study().TauSqMetric == metric);
+}
+
+// An "&" in a name that a user gave is shown, not taken for a mnemonic.
+std::string plain(std::string text) {
+    for (std::size_t at = text.find('&'); at != std::string::npos; at = text.find('&', at + 2))
+        text.insert(at, 1, '&');
+    return text;
+}
+
+std::string percentText(double power) { return shortestText(roundHalfToEven(power * 100)) + "%"; }
+
+// Undo and redo are named after the step.
+ToolState stepState(bool possible, const char* word, const std::string& name) {
+    std::string caption = word;
+    if (!name.empty())
+        caption.append(" ").append(plain(name));
+    return {.enabled = possible, .caption = std::move(caption)};
+}
+
+void allowLowCellCounts(P p, bool allow) {
+    p.session.edit({"low cell counts"},
+                   [&](SessionState& state) { state.settings.AllowLowCellCounts = allow; });
+}
+
+void about(P p) {
+    p.design.ask("About Lorvane",
+                 "Lorvane plans cluster-randomized trials: power and cost of designs of two to four "
+                 "levels.\n\nFree software under the GNU General Public License, version 3 or later.");
+}
+
+constexpr const char* noTest = "Such studies come from files and have no test";
+
+using enum WindowId;
+using D = DisplaySettings;
+using S = SchematicModes;
+
+const CommandRow commandTable[] = {
+    // Files
+    {"Clear",
+     "&New",
+     "Start a new study",
+     file,
+     [](P p) { p.files.Clear(); },
+     nullptr,
+     {Sign::fresh, false, "Ctrl+N"}},
+    {"Open",
+     "&Open",
+     "Open a study file",
+     file,
+     [](P p) { p.files.askAndOpen(""); },
+     nullptr,
+     {Sign::open, false, "Ctrl+O"}},
+    {"Save",
+     "&Save",
+     "Save the study",
+     file,
+     [](P p) { p.files.FileSave(SaveMode::save); },
+     nullptr,
+     {Sign::save, false, "Ctrl+S"}},
+    {"SaveAs",
+     "Save &As...",
+     "Save the study under another name",
+     file,
+     [](P p) { p.files.FileSave(SaveMode::saveAs); },
+     nullptr,
+     {Sign::none, false, "Ctrl+Shift+S"}},
+    {"Exit",
+     "E&xit",
+     "Close the program",
+     file,
+     [](P p) { p.design.closeRequest(); },
+     nullptr,
+     {Sign::none, false, "Ctrl+Q"}},
+    // Edit
+    {"Undo",
+     "&Undo",
+     "Take the last step back",
+     command,
+     [](P p) { p.session.undo(); },
+     [](P p) { return stepState(p.session.undoDepth() > 0, "&Undo", p.session.undoName()); },
+     {Sign::undo, false, "Ctrl+Z"}},
+    {"Redo",
+     "&Redo",
+     "Take the step that was undone again",
+     command,
+     [](P p) { p.session.redo(); },
+     [](P p) { return stepState(p.session.canRedo(), "&Redo", p.session.redoName()); },
+     {Sign::redo, false, "Ctrl+Shift+Z Ctrl+Y"}},
+    {"Copy",
+     "&Copy",
+     "Copy power and cost as a line of text",
+     command,
+     [](P p) {
+         p.clipboard.put({resultText(p.design), ""});
+     },
+     nullptr,
+     {Sign::copy, false, "Ctrl+C"}},
+    {"Copy study", "Copy &study", "Copy the table of the study, for a spreadsheet or a text", command,
+     [](P p) { p.clipboard.put(studyTable(p.design)); }},
+    // Structure
+    {"Add a level", "&Add a level", "Add a level at the top of the study", command,
+     [](P p) { addLevel(p.session); },
+     [](P p) { return enabledIf(p.session.study().NumLevels < highestLevel); }},
+    {"Remove a level", "&Remove a level", "Remove the top level of the study", command,
+     [](P p) { removeLevel(p.session); }, [](P p) { return enabledIf(p.session.study().NumLevels > 2); }},
+    {"Debug ICC", "Table of the &ICC", "The raw table of the ICC", window,
+     [](P p) { p.dialogs.openSpreadICC(); }},
+    {"Debug Tau-sq", "Table of the &effects", "The raw table of the effects", window,
+     [](P p) { p.dialogs.openSpreadTauSq(); }},
+    {"OD", "Example of the optimal design", "Two levels, for the example of the optimal design", command,
+     [](P p) { p.dialogs.openExample(); }},
+    {"gfrmLevelNames", "Edit level &names", "Name the units of every level", window,
+     [](P p) { p.dialogs.openLevelNames(); }, isOpen<frmLevelNames>},
+    {"gfrmGroupNames", "Edit group &names", "Name the two groups", window,
+     [](P p) { p.dialogs.openGroupNames(); }, isOpen<frmGroupNames>},
+    {"Mean difference W", "Mean difference d (&within)", "Means, d on the standard deviation within cells",
+     choice,
+     [](P p) {
+         askAndChangeDataType(p.design, {DataTypes::means, DTypes::within, BinaryTypes::oddsRatio});
+     },
+     [](P p) { return isMetricOfMeans(p, DTypes::within); }},
+    {"Mean difference T", "Mean difference d (&total)", "Means, d on the total standard deviation", choice,
+     [](P p) {
+         askAndChangeDataType(p.design, {DataTypes::means, DTypes::total, BinaryTypes::oddsRatio});
+     },
+     [](P p) { return isMetricOfMeans(p, DTypes::total); }},
+    {"PDF d", "About the two forms of &d", "Open the note on d within and d total", help},
+    {"Odds ratio", "&Odds ratio", "Binary outcome, effect as an odds ratio", choice,
+     [](P p) {
+         askAndChangeDataType(p.design, {DataTypes::binary, DTypes::total, BinaryTypes::oddsRatio});
+     },
+     [](P p) { return isMetricOfRisks(p, BinaryTypes::oddsRatio); }},
+    {"Risk ratio", "Risk rat&io", noTest, choice, nullptr,
+     [](P p) { return onlyFromFiles(p, BinaryTypes::riskRatio); }},
+    {"Risk difference", "&Risk difference", "Binary outcome, effect as a risk difference", choice,
+     [](P p) {
+         askAndChangeDataType(p.design, {DataTypes::binary, DTypes::total, BinaryTypes::riskDifference});
+     },
+     [](P p) { return isMetricOfRisks(p, BinaryTypes::riskDifference); }},
+    {"Two risks", "Two ris&ks", noTest, choice, nullptr,
+     [](P p) { return onlyFromFiles(p, BinaryTypes::twoRisks); }},
+    // Dispersion
+    {"Enter ICC", "Enter &ICC", "Enter the dispersion of the outcome as ICC", choice,
+     [](P p) { p.dialogs.enterIcc(); },
+     [](P p) { return checkedIf(p.session.study().IccMetric == IccMetrics::icc); }},
+    {"Enter span for prevalence", "Enter &span of means", "Enter the dispersion of the outcome as a span",
+     choice, [](P p) { enterSpan(p.session, RangeModes::span); },
+     [](P p) -> ToolState {
+         const Study& s = p.session.study();
+         return {.checked = s.IccMetric == IccMetrics::span && !entersLimits(s),
+                 .caption = s.isMeans() ? "Enter &span of means" : "Enter &span of risks"};
+     }},
+    {"Enter limits", "Enter &limits", "Enter the range of risks by its limits", choice,
+     [](P p) { p.dialogs.enterLimits(); },
+     [](P p) -> ToolState {
+         return {.checked = entersLimits(p.session.study()), .enabled = p.session.study().isBinary()};
+     }},
+    {"ICC Schematic always off", "Schematic always o&ff", "Never open the picture of the ICC", choice,
+     [](P p) { p.design.setIccSchematic(S::off); }, isMode<&D::ShowIccSchematic, S::off>},
+    {"ICC Schematic automatic", "Schematic a&utomatic", "Open the picture when an ICC is changed", choice,
+     [](P p) { p.design.setIccSchematic(S::automatic); }, isMode<&D::ShowIccSchematic, S::automatic>},
+    {"ICC Schematic always on", "Schematic always &on", "Open the picture with every change", choice,
+     [](P p) { p.design.setIccSchematic(S::on); }, isMode<&D::ShowIccSchematic, S::on>},
+    {"Enter tau-squared", "Enter &tau-squared", "Enter the dispersion of the effect as tau-squared", choice,
+     [](P p) { enterEffectAs(p.session, TauSqMetrics::tauSquared); },
+     isTauSqMetric<TauSqMetrics::tauSquared>},
+    {"Enter range of effects", "Enter &span of effects", "Enter the dispersion of the effect as a span",
+     choice, [](P p) { enterEffectAs(p.session, TauSqMetrics::spanOfEffects); },
+     isTauSqMetric<TauSqMetrics::spanOfEffects>},
+    {"Enter omega", "Enter o&mega", "Enter the dispersion of the effect as omega", choice,
+     [](P p) { enterEffectAs(p.session, TauSqMetrics::omega); }, isTauSqMetric<TauSqMetrics::omega>},
+    {"TauSq Schematic always off", "Schematic always o&ff", "Never open the picture of the effects", choice,
+     [](P p) { p.design.setTauSqSchematic(S::off); }, isMode<&D::ShowTauSqSchematic, S::off>},
+    {"TauSq Schematic automatic", "Schematic a&utomatic", "Open the picture when a dispersion is changed",
+     choice, [](P p) { p.design.setTauSqSchematic(S::automatic); },
+     isMode<&D::ShowTauSqSchematic, S::automatic>},
+    {"TauSq Schematic always on", "Schematic always &on", "Open the picture with every change", choice,
+     [](P p) { p.design.setTauSqSchematic(S::on); }, isMode<&D::ShowTauSqSchematic, S::on>},
+    {"Show omega", "Show om&ega", "Show omega in the picture of the effects", choice,
+     [](P p) { p.design.setShowOmega(!p.session.display().ShowOmega); },
+     [](P p) { return checkedIf(p.session.display().ShowOmega); }},
+    {"Link or unlink N", "&Link or unlink", "Link or unlink the two groups", command,
+     [](P p) { p.design.showDiagnostics(); }},
+    // Test and options
+    {"gfrmDelta", "Modify limits for risks", "Set how near to 0 and 1 a risk may lie", window,
+     [](P p) { p.dialogs.openDelta(); },
+     [](P p) -> ToolState {
+         const double delta = p.session.study().limits.txtDelta;
+         return {.checked = p.design.isOpen(frmDelta),
+                 .caption = "Modify limits for risks (currently " + fixedText(delta, 4) + " to " +
+                            fixedText(1 - delta, 4) + ")"};
+     }},
+    {"gfrmControlMean", "Set &mean and span", "Set the scale on which means are stated", window,
+     [](P p) { p.dialogs.openMean(); },
+     [](P p) -> ToolState {
+         return {.checked = p.design.isOpen(frmSetMean), .enabled = p.session.study().isMeans()};
+     }},
+    {"gfrmAlpha", "&Custom alpha...", "Test at a level of your own", window,
+     [](P p) { p.dialogs.openAlpha(); },
+     [](P p) -> ToolState {
+         const bool open = p.design.isOpen(frmAlpha);
+         return {.checked = open, .caption = open ? "In process ..." : ""};
+     }},
+    {"Set power",
+     "80%",
+     "Set the power that the searches aim at",
+     command,
+     nullptr,
+     [](P p) -> ToolState { return {.caption = percentText(p.session.study().ReqPower)}; },
+     {Sign::requiredPower}},
+    // Display. The mode that is not in force is the action on offer.
+    {"Show power using graph",
+     "Power as &bar",
+     "Show the power as a bar",
+     command,
+     [](P p) { p.design.DisplayPowerMode(DisplayModes::graph); },
+     [](P p) -> ToolState {
+         const bool bar = p.session.display().Powermode == DisplayModes::graph;
+         return {.checked = bar, .visible = !bar};
+     },
+     {Sign::powerBar}},
+    {"Show power using digits",
+     "Power as &digits",
+     "Show the power as digits",
+     command,
+     [](P p) { p.design.DisplayPowerMode(DisplayModes::digits); },
+     [](P p) -> ToolState {
+         const bool digits = p.session.display().Powermode == DisplayModes::digits;
+         return {.checked = digits, .visible = !digits};
+     },
+     {Sign::powerDigits}},
+    {"Show cost using graph",
+     "Cost as b&ar",
+     "Show the cost as a bar",
+     command,
+     [](P p) { p.design.DisplayCostMode(DisplayModes::graph); },
+     [](P p) -> ToolState {
+         const bool bar = p.session.display().Costmode == DisplayModes::graph;
+         return {.checked = bar, .visible = !bar};
+     },
+     {Sign::costBar}},
+    {"Show cost using digits",
+     "Cost as d&igits",
+     "Show the cost as digits",
+     command,
+     [](P p) { p.design.DisplayCostMode(DisplayModes::digits); },
+     [](P p) -> ToolState {
+         const bool digits = p.session.display().Costmode == DisplayModes::digits;
+         return {.checked = digits, .visible = !digits};
+     },
+     {Sign::costDigits}},
+    {"Set maximum cost",
+     "Set &maximum cost",
+     "Set the top of the cost bar",
+     window,
+     [](P p) { p.dialogs.openMaxCost(); },
+     nullptr,
+     {Sign::maximumCost}},
+    // Cell counts
+    {"Counts Schematic always off", "Cell counts always o&ff", "Never open the cell counts", choice,
+     [](P p) { p.design.setShowCellCounts(S::off); }, isMode<&D::ShowCellCounts, S::off>},
+    {"Counts Schematic automatic", "Cell counts a&utomatic", "Open the cell counts while they are low",
+     choice, [](P p) { p.design.setShowCellCounts(S::automatic); }, isMode<&D::ShowCellCounts, S::automatic>},
+    {"Counts Schematic always on", "Cell counts always &on", "Keep the cell counts open", choice,
+     [](P p) { p.design.setShowCellCounts(S::on); }, isMode<&D::ShowCellCounts, S::on>},
+    {"Level of detail - None", "Level of detail - &None", "Show the verdict alone", choice,
+     [](P p) { p.design.setCellCountDetail(DetailLevels::none); }, isDetail<DetailLevels::none>},
+    {"Level of detail - Moderate", "Level of detail - &Moderate", "Show the shares of low counts", choice,
+     [](P p) { p.design.setCellCountDetail(DetailLevels::moderate); }, isDetail<DetailLevels::moderate>},
+    {"Level of detail - Full", "Level of detail - Fu&ll", "Show all numbers", choice,
+     [](P p) { p.design.setCellCountDetail(DetailLevels::full); }, isDetail<DetailLevels::full>},
+    {"PDF Low cell counts", "About &low cell counts", "Open the note on low cell counts", help},
+    {"Allow low cell counts", "&Allow low cell counts", "Let the searches give low cell counts", choice,
+     [](P p) { allowLowCellCounts(p, true); },
+     [](P p) { return checkedIf(p.session.settings().AllowLowCellCounts); }},
+    {"Do not allow low cell counts", "&Do not allow low cell counts",
+     "Keep the searches from low cell counts", choice, [](P p) { allowLowCellCounts(p, false); },
+     [](P p) { return checkedIf(!p.session.settings().AllowLowCellCounts); }},
+    // Windows
+    {"gfrmScenarios",
+     "&Scenarios",
+     "Open the table of scenarios",
+     window,
+     open<frmScenarios>,
+     isOpen<frmScenarios>,
+     {Sign::scenarios, true}},
+    {"Show scenarios", "&Show scenarios", "Open the table of scenarios", window, open<frmScenarios>},
+    {"Add scenario",
+     "&Add scenario",
+     "Keep the study as a scenario",
+     command,
+     [](P p) { p.scenarios.ScenariosAdd(); },
+     nullptr,
+     {Sign::addScenario}},
+    {"Restore scenario", "&Restore scenario", "Put the selected scenario on the screen", command,
+     [](P p) { p.scenarios.ScenariosRestore(); }},
+    {"gfrmOptimal",
+     "&Optimal design",
+     "Find the cheapest design for a required power",
+     window,
+     [](P p) { p.optimal.open(); },
+     isOpen<frmOptimal>,
+     {Sign::optimal, true}},
+    {"Find optimal n per cluster", "Find optimal &n per cluster",
+     "Find the cheapest design, all sizes left to the search", command,
+     [](P p) { p.optimal.openAndCompute(false); }},
+    {"Find M", "&Find the number of clusters", "Find the number of top units, all other sizes kept", command,
+     [](P p) { p.optimal.openAndCompute(true); }},
+    {"gfrmMDES",
+     "&MDES",
+     "Find the smallest effect that can be detected",
+     window,
+     open<frmMDES>,
+     isOpen<frmMDES>,
+     {Sign::mdes, true}},
+    {"gfrmPrint", "&Report", "Make a report", window, nullptr, isOpen<frmPrint>, {Sign::report, true}},
+    {"Graph", "&Graph", "Draw power and cost as a graph", window, nullptr, nullptr, {Sign::graph, true}},
+    {"gfrmTips",
+     "&Guide",
+     "Open or close the guide",
+     window,
+     nullptr,
+     isOpen<frmTips>,
+     {Sign::guide, true, "F1"}},
+    {"gfrmDetails",
+     "&Details",
+     "Open or close the details",
+     window,
+     [](P p) { p.details.toggle(); },
+     isOpen<frmDetails>,
+     {Sign::details, true}},
+    {"Program manual", "&Program manual", "Open the manual", help},
+    {"About", "&About Lorvane", "Version and licence", help, about},
+    {"gDesign", "Study", "The study screen", window, nullptr, isOpen<WindowId::Design>},
+    {"gfrmDisplayICC", "&ICC and range", "The picture of the ICC", window, open<frmDisplayICC>,
+     isOpen<frmDisplayICC>},
+    {"gfrmDisplayTauSq", "&Tau-squared and range", "The picture of the effects", window,
+     open<frmDisplayTauSq>, isOpen<frmDisplayTauSq>},
+    {"gfrmLVar", "Lines of the graph", "The lines of the graph", window, nullptr, isOpen<frmLVar>},
+    {"gfrmScenariosName", "Name of a scenario", "Name and describe a scenario", window, nullptr,
+     isOpen<frmScenariosName>},
+    {"gfrmTable", "Table of the graph", "The table of the graph", window, nullptr, isOpen<frmTable>},
+    {"gfrmXVar", "Axis of the graph", "The axis of the graph", window, nullptr, isOpen<frmXVar>},
+    {"gxPlot", "Graph", "The graph", window, nullptr, isOpen<xPlot>},
+    {"gfrmProblems", "&Problem", "Why the study gives no power", window, open<frmProblems>,
+     isOpen<frmProblems>},
+    {"gfrmProblemES", "Problem with the &effect", "Why the effect is not admissible", window,
+     open<frmProblemES>, isOpen<frmProblemES>},
+    {"gfrmTipsGraph", "Guide of the graph", "The guide of the graph", window, nullptr, isOpen<frmTipsGraph>},
+    {"gfrmOpenWizard", "S&tart", "The start screen", window, [](P p) { p.start.open(); }, isOpen<frmStart>},
+    {"gfrmCounts", "&Cell counts", "The cell counts", window, open<frmCounts>, isOpen<frmCounts>},
+    {"FrmLimits", "&Limits of risks", "The limits of the risks by level", window,
+     [](P p) { p.dialogs.openLimits(); }},
+};
+
+// Commands that give a field one value
+// ------------------------------------------------------------------------
+
+struct ChoiceRow {
+    const char* key;
+    const char* caption;
+    const char* tip;
+    const char* field;
+    double value;
+};
+
+constexpr ChoiceRow choiceTable[] = {
+    {"Use t-distribution", "Use &t-distribution", "Test a risk difference with the t-distribution",
+     "PowerOption", 1},
+    {"Use Z-distribution", "Use &Z-distribution", "Test a risk difference with the normal distribution",
+     "PowerOption", 2},
+    {"Alpha = 0.01", "Alpha = 0.0&1", "Test at the 0.01 level", "txtAlpha", 0.01},
+    {"Alpha = 0.05", "Alpha = 0.0&5", "Test at the 0.05 level", "txtAlpha", 0.05},
+    {"Alpha = 0.10", "Alpha = 0.1&0", "Test at the 0.10 level", "txtAlpha", 0.10},
+    {"Alpha = 0.20", "Alpha = 0.&20", "Test at the 0.20 level", "txtAlpha", 0.20},
+    {"One-tailed test", "&One-tailed test", "Test one direction of the effect", "txtTails", 1},
+    {"Two-tailed test", "&Two-tailed test", "Test both directions of the effect", "txtTails", 2},
+    {"Set power 80", "&80%", "Aim at a power of 80%", "ReqPower", 0.80},
+    {"Set power 85", "8&5%", "Aim at a power of 85%", "ReqPower", 0.85},
+    {"Set power 90", "&90%", "Aim at a power of 90%", "ReqPower", 0.90},
+    {"Set power 95", "95&%", "Aim at a power of 95%", "ReqPower", 0.95},
+    {"Set power 99", "&99%", "Aim at a power of 99%", "ReqPower", 0.99},
+    {"For optimal design use 5 iterations", "Use &5 iterations", "Try 5 sizes of the top level",
+     "IterationsForOptimal", 5},
+    {"For optimal design use 10 iterations", "Use &10 iterations", "Try 10 sizes of the top level",
+     "IterationsForOptimal", 10},
+    {"For optimal design use 20 iterations", "Use &20 iterations", "Try 20 sizes of the top level",
+     "IterationsForOptimal", 20},
+    {"For optimal design use 30 iterations", "Use &30 iterations", "Try 30 sizes of the top level",
+     "IterationsForOptimal", 30},
+};
+
+// Commands that there is one of for every level
+// ---------------------------------------------------------------
+
+bool isUsed(P p, int level) { return level <= p.session.study().NumLevels; }
+
+bool isArmed(P p, int level) { return isUsed(p, level) && !p.session.study().isBlocked(level); }
+
+struct LevelRow {
+    const char* key;  ///< "{}" stands for the level
+    const char* before;
+    const char* after;  ///< the caption is what stands before and after the name of the level
+    const char* tip;
+    ToolCategory category;
+    void (*run)(P, int level);
+    ToolState (*state)(P, int level);
+};
+
+template <void (*set)(Session&, int, int), PerLevel<int> StudySettings::*steps, int step>
+constexpr LevelRow stepRow(const char* key, const char* before, const char* after, const char* tip) {
+    return {key,
+            before,
+            after,
+            tip,
+            increment,
+            [](P p, int level) { set(p.session, level, step); },
+            [](P p, int level) -> ToolState {
+                return {.checked = (p.session.settings().*steps)(level) == step, .visible = isUsed(p, level)};
+            }};
+}
+
+// Of a pair of links the one that is not in force is on offer.
+const LevelRow levelTable[] = {
+    {"Randomize Level {}", "Randomize ", "", "Assign treatment at this level", choice,
+     [](P p, int level) { randomizeLevel(p.session, level); },
+     [](P p, int level) -> ToolState {
+         return {.checked = level == p.session.study().RandomizedLevel, .visible = isUsed(p, level)};
+     }},
+    {"Link N for Level {}", "Link number of ", " for the two groups", "Keep both groups at the same number",
+     command, [](P p, int level) { linkSizes(p.session, level, true); },
+     [](P p, int level) { return visibleIf(isArmed(p, level) && !p.session.study().LinkN(level)); }},
+    {"Unlink N for Level {}", "Set number of ", " for each group separately",
+     "Let the groups have different numbers", command,
+     [](P p, int level) { linkSizes(p.session, level, false); },
+     [](P p, int level) { return visibleIf(isArmed(p, level) && p.session.study().LinkN(level)); }},
+    stepRow<setStepOfSizes, &StudySettings::IncN, 1>("Increment Level {} by 1", "Increment number of ",
+                                                     " by 1", "One click changes the number by 1"),
+    stepRow<setStepOfSizes, &StudySettings::IncN, 10>("Increment Level {} by 10", "Increment number of ",
+                                                      " by 10", "One click changes the number by 10"),
+    stepRow<setStepOfSizes, &StudySettings::IncN, 100>("Increment Level {} by 100", "Increment number of ",
+                                                       " by 100", "One click changes the number by 100"),
+    {"Link cost for Level {}", "Link cost of ", " for the two groups", "Keep both groups at the same cost",
+     command, [](P p, int level) { linkCosts(p.session, level, true); },
+     [](P p, int level) { return visibleIf(isArmed(p, level) && !p.session.study().LinkCost(level)); }},
+    {"Unlink cost for Level {}", "Set cost of ", " for each group separately",
+     "Let the groups have different costs", command,
+     [](P p, int level) { linkCosts(p.session, level, false); },
+     [](P p, int level) { return visibleIf(isArmed(p, level) && p.session.study().LinkCost(level)); }},
+    stepRow<setStepOfCosts, &StudySettings::IncCost, 1>("Increment Level {} cost by 1", "Increment cost of ",
+                                                        " by 1", "One click changes the cost by 1"),
+    stepRow<setStepOfCosts, &StudySettings::IncCost, 10>(
+        "Increment Level {} cost by 10", "Increment cost of ", " by 10", "One click changes the cost by 10"),
+    stepRow<setStepOfCosts, &StudySettings::IncCost, 100>("Increment Level {} cost by 100",
+                                                          "Increment cost of ", " by 100",
+                                                          "One click changes the cost by 100"),
+};
+
+// Commands that choose what one click of the arrows does
+// ------------------------------------------------------
+
+struct StepChoice {
+    const char* text;
+    int decimals;
+    int step;
+};
+
+constexpr StepChoice stepChoices[] = {
+    {".01", 2, 1}, {".10", 1, 1}, {"1", 0, 1}, {"10", 0, 10}, {"100", 0, 100}};
+
+struct SteppedField {
+    const char* word;
+    const char* field;
+    int StudySettings::*step;  ///< none: the field has decimals alone
+};
+
+constexpr SteppedField steppedFields[] = {{"mean", "txtMean", &StudySettings::IncMean},
+                                          {"SD", "txtSD", &StudySettings::IncSD},
+                                          {"MRange", "txtMRange", &StudySettings::IncMRange},
+                                          {"DRange", "txtDRange", nullptr}};
+
+// A span of effects has no step of its own, so only the decimals are on offer.
+bool offers(const SteppedField& field, const StepChoice& choice) {
+    return field.step != nullptr || choice.decimals > 0;
+}
+
+// The columns whose details a command shows.
+constexpr const char* detailColumns[] = {"colBlocked", "colLevels", "colUnits", "colReplicates", "colICC",
+                                         "colMSpan",   "colTauSq",  "colDSpan", "colOmega",      "colModel",
+                                         "colRsq",     "colCost",   "colES"};
+
+// Keys
+// ---------------------------------------------------------------------------------------------------------
+
+std::string ofLevel(std::string_view pattern, int level) {
+    std::string key(pattern);
+    return key.replace(key.find("{}"), 2, std::to_string(level));
+}
+
+std::string decimalsKey(std::string_view word, int decimals) {
+    return "Use " + std::to_string(decimals) +
+           (decimals == 1 ? " decimal place for " : " decimal places for ") + std::string(word);
+}
+
+std::string stepKey(const SteppedField& field, const StepChoice& choice) {
+    return std::string("Change ") + field.word + " by " + choice.text;
+}
+
+std::string detailsKey(std::string_view column) { return "Show details " + std::string(column); }
+
+constexpr int mostDecimalsOfField = 4;
+
+// From rows to commands
+// ----------------------------------------------------------------------------------------
+
+Tool toolOf(std::string key, std::string caption, const char* tip, ToolCategory category,
+            const Looks& looks = {}) {
+    return {std::move(key), std::move(caption), tip, category, looks.sign, looks.withWord, looks.shortcut};
+}
+
+void addPlainCommands(std::vector<Command>& commands, P p) {
+    for (const CommandRow& row : commandTable) {
+        Command command{toolOf(row.key, row.caption, row.tip, row.category, row.looks), {}, {}};
+        if (row.run != nullptr)
+            command.run = [p, run = row.run] { run(p); };
+        if (row.state != nullptr)
+            command.state = [p, state = row.state] { return state(p); };
+        commands.push_back(std::move(command));
+    }
+}
+
+void addChoices(std::vector<Command>& commands, P p) {
+    for (const ChoiceRow& row : choiceTable) {
+        const FieldRef field{&fieldOf(row.field), 0};
+        commands.push_back({toolOf(row.key, row.caption, row.tip, choice),
+                            [p, field, value = row.value] { enterValue(p.session, field, value); },
+                            [p, field, value = row.value] {
+                                return checkedIf(readNumberField(p.session.state(), field) == value);
+                            }});
+    }
+}
+
+void addLevelCommands(std::vector<Command>& commands, P p) {
+    for (const LevelRow& row : levelTable) {
+        for (int level = highestLevel; level >= lowestLevel; --level) {
+            const std::string key = ofLevel(row.key, level);
+            commands.push_back(
+                {toolOf(key, key, row.tip, row.category), [p, &row, level] { row.run(p, level); },
+                 [p, &row, level] {
+                     ToolState state = row.state(p, level);
+                     state.caption = row.before + plain(p.session.study().txtName(level)) + row.after;
+                     return state;
+                 }});
+        }
+    }
+}
+
+void addDecimals(std::vector<Command>& commands, P p) {
+    for (const Field& field : fieldBook()) {
+        for (int n = 1; !field.decimalsWord.empty() && n <= mostDecimalsOfField; ++n) {
+            const std::string key = decimalsKey(field.decimalsWord, n);
+            commands.push_back(
+                {toolOf(key, key, "Decimals shown; one click changes the last one", increment),
+                 [p, &field, n] { SETDECS(p.session, field, n); },
+                 [p, &field, n] { return checkedIf(decimalsOf(p.session.study(), field) == n); }});
+        }
+    }
+}
+
+void choose(P p, const SteppedField& stepped, const StepChoice& choice) {
+    const Field& field = fieldOf(stepped.field);
+    if (stepped.step == nullptr)
+        SETDECS(p.session, field, choice.decimals);
+    else
+        setStep(p.session, field, stepped.step, choice.step, choice.decimals);
+}
+
+bool isChosen(P p, const SteppedField& stepped, const StepChoice& choice) {
+    const int step = stepped.step == nullptr ? choice.step : p.session.settings().*stepped.step;
+    return decimalsOf(p.session.study(), fieldOf(stepped.field)) == choice.decimals && step == choice.step;
+}
+
+void addSteps(std::vector<Command>& commands, P p) {
+    for (const SteppedField& field : steppedFields) {
+        for (const StepChoice& choice : stepChoices) {
+            if (offers(field, choice))
+                commands.push_back({toolOf(stepKey(field, choice), std::string("Change by ") + choice.text,
+                                           "What one click changes the value by", increment),
+                                    [p, &field, &choice] { choose(p, field, choice); },
+                                    [p, &field, &choice] { return checkedIf(isChosen(p, field, choice)); }});
+        }
+    }
+}
+
+void addDetails(std::vector<Command>& commands, P p) {
+    for (const char* column : detailColumns)
+        commands.push_back({toolOf(detailsKey(column), "Show &details", "Explain this column", help),
+                            [p, column] { p.details.openColumn(column); },
+                            {}});
+}
+
+// Menus
+// --------------------------------------------------------------------------------------------------------
+
+using Keys = std::vector<std::string>;
+
+// The commands of some patterns for one level.
+Keys forLevel(std::initializer_list<const char*> patterns, int level) {
+    Keys keys;
+    for (const char* pattern : patterns)
+        keys.push_back(ofLevel(pattern, level));
+    return keys;
+}
+
+// The commands of some patterns for all levels, the top level first, with a line between levels.
+Keys forAllLevels(std::initializer_list<const char*> patterns) {
+    Keys keys;
+    for (int level = highestLevel; level >= lowestLevel; --level) {
+        if (!keys.empty() && patterns.size() > 1)
+            keys.push_back("-");
+        for (std::string& key : forLevel(patterns, level))
+            keys.push_back(std::move(key));
+    }
+    return keys;
+}
+
+Keys joined(Keys keys, const Keys& more) {
+    keys.insert(keys.end(), more.begin(), more.end());
+    return keys;
+}
+
+// A menu as a list of keys: "-" is a line, ">" the gap before the right end, "+" leads to another menu.
+struct MenuRow {
+    std::string name;
+    const char* caption;
+    BandKind kind;
+    Keys keys;
+};
+
+std::vector<MenuRow> menuTable() {
+    using enum BandKind;
+    return {
+        {"bndFile", "&File", menu, {"Clear", "Open", "-", "Save", "SaveAs", "-", "Exit"}},
+        {"bndEdit", "&Edit", menu, {"Undo", "Redo", "-", "Copy", "Copy study"}},
+        {"popLevels", "&Levels", menu, {"Add a level", "Remove a level", "-", "gfrmLevelNames"}},
+        {"popRandomize", "&Randomize", menu,
+         joined(forAllLevels({"Randomize Level {}"}), {"-", "Show details colBlocked"})},
+        {"bndLabels", "&Groups", menu, {"gfrmGroupNames"}},
+        {"popDesign",
+         "Effect si&ze",
+         menu,
+         {"Mean difference W", "Mean difference T", "PDF d", "-", "Odds ratio", "Risk ratio",
+          "Risk difference", "Two risks"}},
+        {"popICCView",
+         "&ICC",
+         menu,
+         {"Enter ICC", "Enter span for prevalence", "Enter limits", "-", "ICC Schematic always off",
+          "ICC Schematic automatic", "ICC Schematic always on"}},
+        {"popTauSqView",
+         "&Tau-sq",
+         menu,
+         {"Enter tau-squared", "Enter range of effects", "Enter omega", "-", "TauSq Schematic always off",
+          "TauSq Schematic automatic", "TauSq Schematic always on", "-", "Show omega"}},
+        {"popUnits", "&Units", menu,
+         joined(forAllLevels({"Link N for Level {}", "Unlink N for Level {}"}),
+                {"-", "Show details colReplicates"})},
+        {"popCosts", "&Costs", menu,
+         joined(forAllLevels({"Link cost for Level {}", "Unlink cost for Level {}"}),
+                {"-", "+popCostIncrements", "-", "Show details colCost"})},
+        {"popCostIncrements", "Cost &Increments", submenu,
+         forAllLevels({"Increment Level {} cost by 1", "Increment Level {} cost by 10",
+                       "Increment Level {} cost by 100"})},
+        {"popAlpha",
+         "&Alpha",
+         menu,
+         {"Alpha = 0.01", "Alpha = 0.05", "Alpha = 0.10", "Alpha = 0.20", "gfrmAlpha", "-", "One-tailed test",
+          "Two-tailed test"}},
+        {"popOptions",
+         "&Options",
+         menu,
+         {"Use t-distribution", "Use Z-distribution", "-", "gfrmDelta", "gfrmControlMean", "-",
+          "+popIterations", "+popCountsView"}},
+        {"popIterations",
+         "&Iterations",
+         submenu,
+         {"For optimal design use 5 iterations", "For optimal design use 10 iterations",
+          "For optimal design use 20 iterations", "For optimal design use 30 iterations"}},
+        {"popCountsView",
+         "&Cell counts",
+         submenu,
+         {"Counts Schematic always off", "Counts Schematic automatic", "Counts Schematic always on", "-",
+          "Level of detail - None", "Level of detail - Moderate", "Level of detail - Full", "-",
+          "PDF Low cell counts", "-", "Allow low cell counts", "Do not allow low cell counts"}},
+        {"popScenarios", "&Scenarios", menu, {"gfrmScenarios", "Add scenario", "Restore scenario"}},
+        {"popReport", "Re&port", menu, {"gfrmPrint"}},
+        {"popViewForms",
+         "For&ms",
+         menu,
+         {"gfrmDisplayICC", "gfrmDisplayTauSq", "gfrmCounts", "gfrmProblems", "gfrmProblemES", "-",
+          "gfrmScenarios", "gfrmOptimal", "gfrmMDES", "-", "gfrmTips", "gfrmDetails", "gfrmOpenWizard"}},
+        {"popHelp", "&Help", menu, {"gfrmTips", "gfrmDetails", "-", "Program manual", "-", "About"}},
+        {"popSetPower",
+         "Set power",
+         submenu,
+         {"Set power 80", "Set power 85", "Set power 90", "Set power 95", "Set power 99"}},
+        {"Band1",
+         "Main tool bar",
+         toolbar,
+         {"Open",
+          "Clear",
+          "Save",
+          "-",
+          "Show power using digits",
+          "Show power using graph",
+          "Show cost using digits",
+          "Show cost using graph",
+          "Set maximum cost",
+          "Set power",
+          "-",
+          "gfrmOptimal",
+          "gfrmMDES",
+          "-",
+          "gfrmScenarios",
+          "Add scenario",
+          "-",
+          "gfrmPrint",
+          "Graph",
+          ">",
+          "gfrmTips",
+          "gfrmDetails"}},
+    };
+}
+
+// The right clicks on units and costs of a level.
+void addLevelPopups(std::vector<MenuRow>& rows, int level) {
+    const Keys links = forLevel({"Link N for Level {}", "Unlink N for Level {}"}, level);
+    const Keys costLinks = forLevel({"Link cost for Level {}", "Unlink cost for Level {}"}, level);
+    const Keys steps = joined(
+        forLevel({"Increment Level {} by 1", "Increment Level {} by 10", "Increment Level {} by 100"}, level),
+        {"-", "Show details colUnits"});
+    const Keys costSteps = joined(forLevel({"Increment Level {} cost by 1", "Increment Level {} cost by 10",
+                                            "Increment Level {} cost by 100"},
+                                           level),
+                                  {"-", "Show details colCost"});
+    const auto add = [&](const char* pattern, const Keys& keys) {
+        rows.push_back({ofLevel(pattern, level), "", BandKind::popup, keys});
+    };
+    add("popLinkN{}", joined(joined(links, {"-"}), steps));
+    add("popLinkN{}B", steps);
+    add("popLinkCost{}", joined(joined(costLinks, {"-"}), costSteps));
+    add("popCostB{}", costSteps);
+}
+
+// The right clicks on values that have decimals or a step; the details are those of the field's column.
+void addFieldPopups(std::vector<MenuRow>& rows) {
+    for (const Field& field : fieldBook()) {
+        if (field.decimalsWord.empty())
+            continue;
+        Keys keys;
+        for (int n = 1; n <= mostDecimalsOfField; ++n)
+            keys.push_back(decimalsKey(field.decimalsWord, n));
+        rows.push_back({std::string(field.cell.menu), "", BandKind::popup,
+                        joined(keys, {"-", detailsKey(field.cell.column)})});
+    }
+    for (const SteppedField& field : steppedFields) {
+        Keys keys;
+        for (const StepChoice& choice : stepChoices) {
+            if (offers(field, choice))
+                keys.push_back(stepKey(field, choice));
+        }
+        const FieldCell& cell = fieldOf(field.field).cell;
+        rows.push_back(
+            {std::string(cell.menu), "", BandKind::popup, joined(keys, {"-", detailsKey(cell.column)})});
+    }
+}
+
+BandEntry entryOf(const std::string& key) {
+    if (key == "-")
+        return {BandEntry::Kind::line, ""};
+    if (key == ">")
+        return {BandEntry::Kind::stretch, ""};
+    if (key[0] == '+')
+        return {BandEntry::Kind::band, key.substr(1)};
+    return {BandEntry::Kind::tool, key};
+}
+
+}  // namespace
+
+std::vector<Command> commandRows(const Program& program) {
+    std::vector<Command> commands;
+    addPlainCommands(commands, program);
+    addChoices(commands, program);
+    addLevelCommands(commands, program);
+    addDecimals(commands, program);
+    addSteps(commands, program);
+    addDetails(commands, program);
+    return commands;
+}
+
+std::vector<Band> bandRows() {
+    std::vector<MenuRow> rows = menuTable();
+    for (int level = lowestLevel; level <= highestLevel; ++level)
+        addLevelPopups(rows, level);
+    addFieldPopups(rows);
+    std::vector<Band> bands;
+    for (const MenuRow& row : rows) {
+        bands.push_back({row.name, row.caption, row.kind, {}});
+        for (const std::string& key : row.keys)
+            bands.back().entries.push_back(entryOf(key));
+    }
+    return bands;
+}
+
+}  // namespace lorvane

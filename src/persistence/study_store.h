@@ -1,0 +1,39 @@
+// Opening and saving studies of a session, without any screen: what the command line needs, and what the
+// commands of the screen stand on.
+#pragma once
+
+#include <string>
+
+#include "platform/file_store.h"
+#include "session/session.h"
+
+namespace lorvane {
+
+class StudyStore {
+public:
+    /// The template of a new study is the file of that name in the program's folder.
+    StudyStore(FileStore& files, const std::string& programFolder);
+
+    /// Opens a study file: all scenarios, and the state of the screen when it was saved. The template opens
+    /// as a study without a name. Throws FileProblem and changes nothing then.
+    void open(Session& session, const std::string& path) const;
+
+    /// Opens the template. Throws FileProblem.
+    void openTemplate(Session& session) const;
+
+    /// Saves the study with its scenarios under a path, which becomes its file. Throws FileProblem; the file
+    /// that was there stays then.
+    void save(Session& session, const std::string& path) const;
+
+    bool isTemplate(const std::string& path) const;
+
+private:
+    FileStore& files_;
+    std::string template_;
+};
+
+/// Puts a scenario of the study on the screen by its name. Throws UseProblem when there is none of that name,
+/// with the nearest that there is.
+void restoreScenario(Session& session, const std::string& name);
+
+}  // namespace lorvane

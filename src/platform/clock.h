@@ -1,0 +1,24 @@
+// The time that passes, for what depends on how quickly one click follows another.
+#pragma once
+
+#include <chrono>
+
+namespace lorvane {
+
+class Clock {
+public:
+    using Time = std::chrono::steady_clock::time_point;
+
+    virtual ~Clock() = default;
+
+    /// A time that never goes back. Only differences have a meaning.
+    virtual Time now() const = 0;
+};
+
+/// The clock of the machine.
+class SteadyClock final : public Clock {
+public:
+    Time now() const override { return std::chrono::steady_clock::now(); }
+};
+
+}  // namespace lorvane

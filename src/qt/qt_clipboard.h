@@ -1,0 +1,13 @@
+// The clipboard of the system.
+#pragma once
+
+#include "platform/clipboard.h"
+
+namespace lorvane {
+
+class QtClipboard final : public Clipboard {
+public:
+    void put(const ClipboardText& content) override;
+};
+
+}  // namespace lorvane

@@ -1,0 +1,73 @@
+// The arrows of the fields.
+#include "session/arrows.h"
+
+#include <algorithm>
+
+#include "base/names.h"
+#include "base/number_text.h"
+#include "session/field_words.h"
+#include "session/spin_step.h"
+
+namespace lorvane {
+
+namespace {
+
+// The value after one step by units of the last decimal.
+double spunByStep(const SessionState& state, FieldRef field, int direction) {
+    const FieldLimits limits = limitsOf(state.study, *field.field);
+    const int step = stepOf(state.settings, field);
+    const double value =
+        spun(readNumberField(state, field), direction, limits, decimalsOf(state.study, *field.field), step);
+    return field->snaps ? std::min(snapped(value, direction, step), limits.high) : value;
+}
+
+double afterArrow(const SessionState& state, FieldRef field, int direction) {
+    switch (field->arrows) {
+    case ArrowRule::twoStates:
+        return direction > 0 ? SamplingModels::fixed : SamplingModels::random;
+    case ArrowRule::byOne:
+        return readNumberField(state, field) + direction;
+    case ArrowRule::byStep:
+    case ArrowRule::none:
+        break;
+    }
+    return spunByStep(state, field, direction);
+}
+
+void writeDecimals(SessionState& state, const Field& field, int decimals) {
+    state.study.decimals.*field.decimals = decimals;
+    for (int i = indicesOf(field).first; i <= indicesOf(field).last; ++i) {
+        const FieldRef ref{&field, i};
+        const double rounded = *readNumber(fixedText(readNumberField(state, ref), decimals));
+        if (limitsOf(state.study, field).holds(rounded))
+            writeField(state, ref, rounded);
+    }
+}
+
+std::string nameOfDecimals(const Field& field) {
+    return "decimals of " + std::string(field.decimalsWord.empty() ? "spans" : field.decimalsWord);
+}
+
+}  // namespace
+
+void stepField(Session& session, FieldRef field, int direction, ArrowHold hold) {
+    const std::string run = indexedName(field->spin, field.index);
+    session.edit(
+        {stepWords(session.study(), field), Reach::study, IfFault::keep, run, hold == ArrowHold::tick},
+        [&](SessionState& state) { enterField(state, field, afterArrow(state, field, direction)); });
+}
+
+void SETDECS(Session& session, const Field& field, int decimals) {
+    session.edit({nameOfDecimals(field)},
+                 [&](SessionState& state) { writeDecimals(state, field, decimals); });
+}
+
+void setStep(Session& session, const Field& field, int StudySettings::*step, int units, int decimals) {
+    session.edit({"step of " + inSentence(fieldWords(session.study(), {&field, indicesOf(field).first}))},
+                 [&](SessionState& state) {
+                     state.settings.*step = units;
+                     writeDecimals(state, field, decimals);
+                 });
+}
+
+}  // namespace lorvane

@@ -1,0 +1,76 @@
+// What a field is, in words.
+#include "session/field_words.h"
+
+#include <cctype>
+#include <cmath>
+
+#include "base/number_text.h"
+
+namespace lorvane {
+
+namespace {
+
+std::string armWords(const Study& s, FieldRef field) {
+    if (field->isLinked(s, field.index))
+        return ", " + s.treatedName() + " and " + s.controlName() + " linked";
+    return ", " + (field->cell.form == CellForm::treatedArm ? s.treatedName() : s.controlName());
+}
+
+// What stands in the place of a word in braces.
+std::string filling(const Study& s, FieldRef field, std::string_view place) {
+    if (place == "level")
+        return s.txtName(field.index);
+    if (place == "units")
+        return lowerCased(s.txtName(field.index));
+    if (place == "arm")
+        return armWords(s, field);
+    if (place == "form")
+        return s.DType == DTypes::within ? "within" : "total";
+    return lowerCased(place == "control" ? s.controlName() : s.treatedName());
+}
+
+std::string filledIn(const Study& s, FieldRef field, std::string_view pattern) {
+    std::string words;
+    for (std::size_t open; (open = pattern.find('{')) != std::string_view::npos;) {
+        const std::size_t close = pattern.find('}', open);
+        words += pattern.substr(0, open);
+        words += filling(s, field, pattern.substr(open + 1, close - open - 1));
+        pattern.remove_prefix(close + 1);
+    }
+    return words.append(pattern);
+}
+
+// The step of the arrows in the field's own unit.
+double stepSize(const SessionState& state, FieldRef field) {
+    return stepOf(state.settings, field) / std::pow(10, decimalsOf(state.study, *field.field));
+}
+
+}  // namespace
+
+std::string fieldWords(const Study& s, FieldRef field) {
+    return field->words.empty() ? field.name() : filledIn(s, field, field->words);
+}
+
+std::string fieldHint(const SessionState& state, FieldRef field) {
+    const std::string words = fieldWords(state.study, field);
+    if (field->arrows == ArrowRule::twoStates)
+        return words + ". Up makes it fixed, Down random.";
+    return words + ". Up and Down change it by " + shortestText(stepSize(state, field)) +
+           ". Enter opens it for typing.";
+}
+
+std::string stepWords(const Study& s, FieldRef field) {
+    constexpr std::string_view arm = "{arm}";
+    std::string_view pattern = field->words.empty() ? field->stem : field->words;
+    if (field->isLinked != nullptr && field->isLinked(s, field.index) && pattern.ends_with(arm))
+        pattern.remove_suffix(arm.size());
+    return inSentence(filledIn(s, field, pattern));
+}
+
+std::string inSentence(std::string text) {
+    if (text.size() > 1 && std::islower(static_cast<unsigned char>(text[1])))
+        text[0] = static_cast<char>(std::tolower(static_cast<unsigned char>(text[0])));
+    return text;
+}
+
+}  // namespace lorvane

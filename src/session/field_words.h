@@ -1,0 +1,24 @@
+// What a field is, in words: for the value dialog, the status line, accessible names and the steps of undo.
+#pragma once
+
+#include <string>
+
+#include "session/field_book.h"
+
+namespace lorvane {
+
+/// "Number of schools, Treated", "ICC of Classes", "Standardized mean difference, d (total)". The field's own
+/// name where there are no words for it.
+std::string fieldWords(const Study& study, FieldRef field);
+
+/// The words with what the keys do: "ICC of Classes. Up and Down change it by 0.01. Enter opens it for
+/// typing."
+std::string fieldHint(const SessionState& state, FieldRef field);
+
+/// The words inside a sentence, without the arms where they are linked: "number of schools".
+std::string stepWords(const Study& study, FieldRef field);
+
+/// A text with its first letter in lower case, unless it is a sign or an abbreviation ("ICC", "R-sq").
+std::string inSentence(std::string text);
+
+}  // namespace lorvane

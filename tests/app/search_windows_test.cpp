@@ -1,0 +1,134 @@
+// The panel of the smallest effect and the wizard of the optimal design, as a script presses their buttons.
+#include "app_bench.h"
+#include "base/names.h"
+
+namespace lorvane {
+namespace {
+
+class SearchWindows : public AppBench {
+protected:
+    Colour colour(const std::string& name) const { return std::get<Colour>(*app.names().read(name)); }
+    bool flag(const std::string& name) const { return std::get<bool>(*app.names().read(name)); }
+};
+
+const Values twentyClusters = {{"txtNT(2)", 10.0}, {"txtNC(2)", 10.0},  {"txtNT(1)", 20.0},
+                               {"txtNC(1)", 20.0}, {"ICC Metric", 1.0}, {"txtICC(2)", 0.1},
+                               {"txtd", 0.3}};
+
+TEST_F(SearchWindows, ThePanelOfTheEffectFollowsTheStudyWhileItIsOpen) {
+    using enum MdesWindow::State;
+    const auto set = [&](const char* field, double value) { app.set(Values{{field, value}}); };
+    const auto press = [&](const char* button) { app.click(std::string("frmMDES.") + button); };
+    const struct {
+        std::function<void()> action;
+        MdesWindow::State state;
+        const char* firstLine;
+    } steps[] = {
+        {[&] { app.tool("gfrmMDES"); }, resting, ""},
+        {[&] { set("txtd", 0.4); }, changed, "Parameters have been changed."},
+        {[&] { press("cmdComputeMDES"); }, result, "The minimum detectable effect size is a"},
+        {[&] { app.spin("spnNT(2)", 1); }, changed, "Parameters have been changed."},
+        {[&] { set("txtRsq(2)", 0.5); }, problem, "There is a problem with the design"},
+        {[&] { press("cmdComputeMDES"); }, problem, "There is a problem with the design"},
+        {[&] { set("txtRsq(2)", 0); }, changed, "Parameters have been changed."},
+        {[&] { app.tool("Set power 90"); }, changed, "Parameters have been changed. Click <Ccompute"},
+        {[&] { press("cmdComputeMDES"); }, result, "The minimum detectable effect size is a"},
+        {[&] { press("cmdMDESClose"); }, resting, ""},
+        {[&] { set("txtRsq(2)", 0.5); }, resting, ""},
+        {[&] { press("cmdComputeMDES"); }, problem, "There is a problem with the design"},
+        {[&] { app.close("frmMDES"); }, resting, ""}};
+    app.load(twentyClusters);
+    for (std::size_t i = 0; i < std::size(steps); ++i) {
+        SCOPED_TRACE(i);
+        steps[i].action();
+        EXPECT_EQ(app.mdesWindow().state(), steps[i].state);
+        const bool open = steps[i].state != resting || i == 0;
+        EXPECT_EQ(number("window:18"), open ? 4 : 0);
+        const std::string line = text("frmMDES.pnlMDESMid.Caption");
+        EXPECT_TRUE(line.starts_with(steps[i].firstLine)) << line;
+        EXPECT_EQ(line.empty(), steps[i].state == resting);
+        EXPECT_EQ(text("frmMDES.pnlFigureNumber.Caption").empty(), steps[i].state != result);
+        EXPECT_EQ(colour("frmMDES.pnlMDESMid.ForeColor"), steps[i].state == problem ? problemColour : black);
+    }
+}
+
+TEST_F(SearchWindows, ARefusalOfTheWizardMarksItsCellsUntilTheNextEdit) {
+    Values good = {{"NumLevels", 4.0}, {"RandomizedLevel", 2.0}, {"ICC Metric", 1.0}, {"txtd", 0.4}};
+    for (int level = 1; level <= 4; ++level) {
+        for (const char* stem : {"txtNT", "txtNC", "txtNB", "txtCostT", "txtCostC", "txtCostB"})
+            good.push_back({indexedName(stem, level), 10.0});
+        good.push_back({indexedName("txtICC", level), 0.05});
+        good.push_back({indexedName("txtTauSq", level), 0.02});
+    }
+    const auto marked = [&] {
+        std::string marks;
+        for (int number = 1; number <= 7; ++number) {
+            const std::string outline = indexedName("outline", number);
+            if (flag(outline + ".Visible"))
+                marks += std::to_string(number) + ": " + text(outline + ".From") + " to " +
+                         text(outline + ".To") + "; ";
+        }
+        return marks;
+    };
+    const std::string effects = "4: pnlTauSq(4) to pnlTauSq(3); ";
+    const std::string costs = "5: pnlCostT(4) to pnlCostC(1); ";
+    const std::pair<Values, std::string> rows[] = {
+        {{{"txtModel(3)", 1.0}}, "2: pnlModel(4) to pnlModel(1); "},
+        {{{"txtICC(3)", 0.0}}, "3: pnlICC(4) to pnlICC(2); " + effects},
+        {{{"txtTauSq(4)", 0.0}}, effects},
+        {{{"txtCostT(1)", 0.0}, {"txtCostC(1)", 0.0}}, costs},
+        {{{"txtCostB(4)", 0.0}}, costs},
+        {{{"txtd", 0.0}}, "7: pnlEffectSize to pnlEffectSize; "}};
+    for (const auto& [wrong, marks] : rows) {
+        SCOPED_TRACE(wrong[0].name);
+        app.load(good);
+        app.set(wrong);
+        app.click("frmOptimal.cmdOpt(2)");
+        EXPECT_EQ(app.optimalWindow().result(), nullptr);
+        EXPECT_NE(text("frmOptimal.pnlOptimalTitle.Caption"), "");
+        EXPECT_EQ(marked(), marks);
+        app.set(Values{{"txtAlpha", 0.04}});
+        EXPECT_EQ(marked(), "");
+        EXPECT_EQ(text("frmOptimal.pnlOptimalTitle.Caption"), "");
+    }
+}
+
+struct CountedLooks final : Progress {
+    bool goOn() override {
+        ++looks;
+        return true;
+    }
+    int looks = 0;
+};
+
+TEST_F(SearchWindows, ComputeSearchesAnewAfterASuccess) {
+    CountedLooks progress;
+    Platform platform = outside.platform();
+    platform.progress = &progress;
+    Application wizard(platform);
+    Values values = twentyClusters;
+    for (const char* cost : {"txtCostT(2)", "txtCostC(2)", "txtCostT(1)", "txtCostC(1)"})
+        values.push_back({cost, 10.0});
+    wizard.load(values);
+    wizard.tool("gfrmOptimal");
+    const auto found = [&] {
+        progress.looks = 0;
+        wizard.click("frmOptimal.cmdOpt(2)");
+        EXPECT_GT(progress.looks, 0);
+        EXPECT_TRUE(wizard.optimalWindow().cmdOpt(3).Visible);
+        return wizard.optimalWindow().result()->cheapest();
+    };
+    const Trial first = found();
+    const Trial second = found();
+    EXPECT_EQ(second.cost, first.cost);
+    EXPECT_EQ(second.sizes(1), first.sizes(1));
+    wizard.click("frmOptimal.optManual(1)");
+    wizard.setNumber("frmOptimal.txtNumReps(1)", 40);
+    EXPECT_EQ(wizard.optimalWindow().result(), nullptr);
+    const Trial byHand = found();
+    EXPECT_EQ(byHand.sizes(1), 40);
+    EXPECT_GT(byHand.cost, first.cost);
+}
+
+}  // namespace
+}  // namespace lorvane
