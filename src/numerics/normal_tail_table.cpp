@@ -1,7 +1,6 @@
 // Makes the table of the upper normal tail at compile time, in extended precision.
 #include "numerics/normal_tail_table.h"
 
-#include <cmath>
 #include <cstddef>
 #include <numbers>
 
@@ -91,9 +90,5 @@ constexpr NormalTailTable makeTable() {
 }  // namespace
 
 constinit const NormalTailTable normalTailTable = makeTable();
-
-double upperTailOutsideTable(double x) {
-    return x <= NormalTailTable::kLowest ? 1.0 : 0.5 * std::erfc(x / std::numbers::sqrt2);
-}
 
 }  // namespace lorvane::numerics
