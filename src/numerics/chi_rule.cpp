@@ -6,47 +6,60 @@
 #include <cstddef>
 #include <cstdint>
 
-#include "numerics/chi_scale.h"
+#include "numerics/chi_scale_table.h"
 
 namespace lorvane::numerics {
 namespace {
 
-struct Grid {
-    double step;
-    int nodesEachSide;
+constexpr std::size_t kMostNodesEachSide = ChiRule::kMostNodes / 2;
+
+struct Node {
+    double z;
+    double weight;
 };
 
-Grid gridOf(ChiRuleGrade grade) {
-    switch (grade) {
-    case ChiRuleGrade::Coarse:
-        return {0.7, 13};
-    case ChiRuleGrade::Medium:
-        return {0.5, 18};
-    case ChiRuleGrade::Fine:
-        break;
+/// What the rules of one grade share: the nodes z = (k + 1/2) step, ascending, and exp(-z^2 / 2). Those with
+/// z < 0 mirror them.
+struct Grid {
+    Grid(double step, std::size_t count) : nodesEachSide(count) {
+        for (std::size_t k = 0; k < count; ++k) {
+            const double z = (static_cast<double>(k) + 0.5) * step;
+            nodes[k] = {z, std::exp(-0.5 * z * z)};
+        }
     }
-    return {0.3, 30};
+
+    std::size_t nodesEachSide;
+    std::array<Node, kMostNodesEachSide> nodes;
+};
+
+const Grid& gridOf(ChiRuleGrade grade) {
+    static const std::array<Grid, 3> grids{Grid{0.7, 13}, Grid{0.5, 18}, Grid{0.3, kMostNodesEachSide}};
+    return grids[static_cast<std::size_t>(grade)];
 }
 
 }  // namespace
 
 void buildChiRule(double df, ChiRuleGrade grade, ChiRule& rule) {
-    const Grid grid = gridOf(grade);
+    const Grid& grid = gridOf(grade);
+    const std::size_t side = grid.nodesEachSide;
     const double inverseRoot = 1.0 / std::sqrt(df);
-    double total = 0.0;
-    rule.nodes = 2 * grid.nodesEachSide;
-    for (int k = 0; k < rule.nodes; ++k) {
-        const auto node = static_cast<std::size_t>(k);
-        const double z = (k - grid.nodesEachSide + 0.5) * grid.step;
-        const double w = z * inverseRoot;
-        const double x = logSquareOfScale(w);
-        const double slope = w / (x + w * w);  // d(ln S) / dz up to a constant; x + w^2 is e^x - 1
-        rule.scale[node] = std::exp(0.5 * x);
-        rule.weight[node] = std::exp(-0.5 * z * z) * slope;
-        total += rule.weight[node];
+    double below = 0.0;
+    double above = 0.0;
+    for (std::size_t k = 0; k < side; ++k) {
+        const double w = grid.nodes[k].z * inverseRoot;
+        const ChiScale low = tabledChiScale(-w);
+        const ChiScale high = tabledChiScale(w);
+        rule.scale[side - 1 - k] = low.value;
+        rule.scale[side + k] = high.value;
+        rule.weight[side - 1 - k] = grid.nodes[k].weight * low.slope;
+        rule.weight[side + k] = grid.nodes[k].weight * high.slope;
+        below += rule.weight[side - 1 - k];
+        above += rule.weight[side + k];
     }
-    for (int k = 0; k < rule.nodes; ++k) {
-        rule.weight[static_cast<std::size_t>(k)] /= total;
+    rule.nodes = static_cast<int>(2 * side);
+    const double factor = 1.0 / (below + above);
+    for (std::size_t k = 0; k < 2 * side; ++k) {
+        rule.weight[k] *= factor;
     }
 }
 

@@ -21,7 +21,8 @@ enum class ChiRuleGrade { Coarse, Medium, Fine };
 
 /// Fills `rule` with the trapezoidal rule in z, |z| up to 8.75 at least. In z the weight is exactly
 /// exp(-z^2/2) d(ln S), which costs no gamma function and cancels nowhere; the weights are normalised
-/// by their sum. df >= 6 for Coarse (26 nodes), 2 for Medium (36) and 1 for Fine (60).
+/// by their sum; S and d(ln S) come from the table of chi_scale_table.h. df >= 6 for Coarse (26 nodes), 2 for
+/// Medium (36) and 1 for Fine (60).
 void buildChiRule(double df, ChiRuleGrade grade, ChiRule& rule);
 
 /// The rules of the df last used. Set-associative: df and grade choose a set of four places, the
