@@ -16,13 +16,14 @@ struct ChiRule {
     std::array<double, kMostNodes> weight;
 };
 
-/// How fine a rule is: the step of the trapezoidal sum in the near-normal variable z of chi_scale.h.
-enum class ChiRuleGrade { Coarse, Medium, Fine };
+/// How the nodes lie in the near-normal variable z of chi_scale.h: those of Gauss and Hermite for means that
+/// are smooth in z, equally spaced ones for steeper means. The number is that of the nodes.
+enum class ChiRuleGrade { Gauss8, Gauss12, Gauss20, Even36, Even60 };
 
-/// Fills `rule` with the trapezoidal rule in z, |z| up to 8.75 at least. In z the weight is exactly
-/// exp(-z^2/2) d(ln S), which costs no gamma function and cancels nowhere; the weights are normalised
-/// by their sum; S and d(ln S) come from the table of chi_scale_table.h. df >= 6 for Coarse (26 nodes), 2 for
-/// Medium (36) and 1 for Fine (60).
+/// Fills `rule`. df >= 40, 12, 6, 2 and 1, in the order of the grades. Method: in z the density is exactly
+/// proportional to exp(-z^2 / 2) d(ln S) / dz, which costs no gamma function and cancels nowhere. So the
+/// weights are those for exp(-z^2 / 2) times the slope of ln S, normalised by their sum. S and the slope come
+/// from the table of chi_scale_table.h.
 void buildChiRule(double df, ChiRuleGrade grade, ChiRule& rule);
 
 /// The rules of the df last used. Set-associative: df and grade choose a set of four places, the
@@ -40,7 +41,7 @@ private:
 
     struct Entry {
         double df = 0.0;
-        ChiRuleGrade grade = ChiRuleGrade::Coarse;
+        ChiRuleGrade grade = ChiRuleGrade::Gauss8;
         ChiRule rule;
     };
     struct Set {

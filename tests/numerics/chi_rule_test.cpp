@@ -26,7 +26,11 @@ TEST(ChiRuleTest, MeansOfTheScaleAreExact) {
     struct {
         ChiRuleGrade grade;
         double leastDf;
-    } const grades[] = {{ChiRuleGrade::Coarse, 6.0}, {ChiRuleGrade::Medium, 2.0}, {ChiRuleGrade::Fine, 1.0}};
+    } const grades[] = {{ChiRuleGrade::Gauss8, 40.0},
+                        {ChiRuleGrade::Gauss12, 12.0},
+                        {ChiRuleGrade::Gauss20, 6.0},
+                        {ChiRuleGrade::Even36, 2.0},
+                        {ChiRuleGrade::Even60, 1.0}};
     for (const auto& [grade, leastDf] : grades) {
         for (const double df : {leastDf, 1.7 * leastDf, 150.0, 300.0}) {
             ChiRule rule;

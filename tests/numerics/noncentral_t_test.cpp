@@ -169,16 +169,24 @@ TEST_F(NoncentralTTest, ExtremesAnswerTheirLimits) {
     EXPECT_TRUE(std::isnan(noncentralT_.rejection(2.0, 5.0, std::nan("")).above));
 }
 
-/// The value must not jump where one quadrature gives way to another.
-TEST_F(NoncentralTTest, IsContinuousAcrossItsMethods) {
+/// Each kept quadrature is at its worst for its least df and at its greatest steepness. There it must be
+/// exact, and the value must not jump where another takes over.
+TEST_F(NoncentralTTest, QuadraturesAreExactToTheirBounds) {
     constexpr double nudge = 1e-15;
-    for (const double df : {1.0, 1.9, 2.0, 2.1, 5.9, 6.0, 6.1, 40.0, 900.0}) {
-        for (const double steepness : {0.5, 1.0, 2.2}) {
+    for (const double df : {1.0, 2.0, 2.1, 6.0, 6.1, 12.0, 12.1, 40.0, 40.1, 900.0}) {
+        for (const double steepness : {0.12, 0.35, 0.5, 1.0, 2.2}) {
             const double t = steepness * std::sqrt(2.0 * df);
-            for (const double lambda : {0.0, 0.8 * t, t, 1.3 * t}) {
-                EXPECT_NEAR(noncentralT_.lower(t * (1.0 - nudge), df, lambda),
-                            noncentralT_.lower(t * (1.0 + nudge), df, lambda), 3e-13)
-                    << describe({t, df, lambda});
+            for (const double lambda : {0.0, 0.5, 1.5, 3.0, 4.5, 6.0, 0.8 * t, t, 1.3 * t}) {
+                const Point inside{t * (1.0 - nudge), df * (1.0 + nudge), lambda};
+                const double before = noncentralT_.lower(inside.t, inside.df, lambda);
+                EXPECT_NEAR(before, noncentralT_.lower(t * (1.0 + nudge), inside.df, lambda), 1e-13)
+                    << describe(inside);
+                EXPECT_NEAR(before, noncentralT_.lower(inside.t, df * (1.0 - nudge), lambda), 1e-13)
+                    << describe(inside);
+                for (const double side : {-1.0, 1.0}) {
+                    const auto exact = test::noncentralTByQuadrature(side * inside.t, inside.df, lambda);
+                    expectTails({side * inside.t, inside.df, lambda}, exact.lower, exact.upper);
+                }
             }
         }
     }
