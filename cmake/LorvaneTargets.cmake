@@ -25,10 +25,13 @@ if(LORVANE_FUZZ)
     target_link_options(lorvane_options INTERFACE -fsanitize=address,undefined)
 endif()
 
-# lorvane_library(name SOURCES a.cpp ... LIBRARIES lorvane_base ...): the library of one folder of src/.
+# lorvane_library(name LIBRARIES lorvane_base ...): the library of one folder of src/, of all its files but main.cpp.
+# SOURCES names what lies elsewhere.
 function(lorvane_library name)
     cmake_parse_arguments(ARG "" "" "SOURCES;LIBRARIES" ${ARGN})
-    add_library(${name} STATIC ${ARG_SOURCES})
+    file(GLOB own CONFIGURE_DEPENDS ${CMAKE_CURRENT_SOURCE_DIR}/*.cpp)
+    list(FILTER own EXCLUDE REGEX "/main\\.cpp$")
+    add_library(${name} STATIC ${own} ${ARG_SOURCES})
     target_link_libraries(${name} PUBLIC lorvane_options ${ARG_LIBRARIES})
 endfunction()
 

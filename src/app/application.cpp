@@ -15,9 +15,8 @@ namespace lorvane {
 Application::Application(const Platform& platform)
     : platform_(platform), session_(platform.distributions, detectCurrency(platform.locale),
                                     platform.clock == nullptr ? steadyClock_ : *platform.clock),
-      design_(session_, platform.messages), dialogs_(design_), details_(design_), mdesWindow_(design_),
-      scenarioWindow_(design_), recent_(platform.settings), store_(platform.files, platform.programFolder),
-      studyFiles_(design_, store_, recent_, platform.dialogs),
+      design_(session_, platform.messages), recent_(platform.settings),
+      store_(platform.files, platform.programFolder), studyFiles_(design_, store_, recent_, platform.dialogs),
       startScreen_(design_, studyFiles_, recent_, platform.files),
       optimalWindow_(design_, platform.progress == nullptr ? noProgress_ : *platform.progress),
       commands_(commandRows({session_, design_, dialogs_, details_, mdesWindow_, optimalWindow_,
@@ -26,12 +25,8 @@ Application::Application(const Platform& platform)
                 bandRows()) {
     session_.follow([this](const Changed& changed) { follow(changed); });
     registerNames();
-    dialogs_.registerEvents(events_);
-    details_.registerEvents(events_);
-    mdesWindow_.registerEvents(events_);
-    scenarioWindow_.registerEvents(events_);
-    startScreen_.registerEvents(events_);
-    optimalWindow_.registerEvents(events_);
+    for (Part* part : parts_)
+        part->registerEvents(events_);
     registerPanels();
     commands_.sync();
 }
@@ -39,22 +34,16 @@ Application::Application(const Platform& platform)
 // The one order in which the parts of the program hear of a change.
 void Application::follow(const Changed& changed) {
     design_.show(changed);
-    mdesWindow_.follow(changed);
-    optimalWindow_.follow(changed);
-    details_.follow();
-    scenarioWindow_.follow(changed);
+    for (Part* part : parts_)
+        part->follow(changed);
     commands_.sync();
 }
 
 void Application::registerNames() {
     design_.registerNames(names_);
     commands_.registerNames(names_);
-    dialogs_.registerNames(names_);
-    details_.registerNames(names_);
-    mdesWindow_.registerNames(names_);
-    scenarioWindow_.registerNames(names_);
-    startScreen_.registerNames(names_);
-    optimalWindow_.registerNames(names_);
+    for (const Part* part : parts_)
+        part->registerNames(names_);
     names_.addGrid("vsFile", [this] { return session_.scenarios().grid(); });
     names_.addGrid("flexfiles", recent_.flexfiles());
     names_.add("Clipboard.Text", &noClipboard_.content().text);

@@ -138,15 +138,19 @@ private:
     Platform platform_;
     Session session_;
     Design design_;
-    SmallDialogs dialogs_;
-    Details details_;
-    MdesWindow mdesWindow_;
-    ScenarioWindow scenarioWindow_;
+    SmallDialogs dialogs_{design_};
+    Details details_{design_};
+    MdesWindow mdesWindow_{design_};
+    ScenarioWindow scenarioWindow_{design_};
     RecentFiles recent_;
     StudyStore store_;
     StudyFiles studyFiles_;
     StartScreen startScreen_;
     OptimalWindow optimalWindow_;
+
+    /// In the order in which they hear of a change.
+    std::vector<Part*> parts_ = {&dialogs_, &mdesWindow_,     &optimalWindow_,
+                                 &details_, &scenarioWindow_, &startScreen_};
     CommandBook commands_;
     ControlRegistry names_;
     EventRegistry events_;

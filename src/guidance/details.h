@@ -8,6 +8,7 @@
 #include "platform/control_registry.h"
 #include "platform/event_registry.h"
 #include "screen/design.h"
+#include "screen/part.h"
 
 namespace lorvane {
 
@@ -28,12 +29,10 @@ enum class DetailItem : int {
     effect = 12
 };
 
-class Details {
+class Details final : public Part {
 public:
     /// The screen must outlive it.
     explicit Details(Design& design);
-    Details(const Details&) = delete;
-    Details& operator=(const Details&) = delete;
 
     /// Remembers item and row (a level, 0 for a whole column) and fills the window. An item that has no text
     /// leaves the window as it was.
@@ -43,11 +42,10 @@ public:
     void openColumn(std::string_view column);
     void toggle();
 
-    /// Brings the window into step with a change of the session.
-    void follow() { refresh(); }
+    void follow(const Changed&) override { refresh(); }
 
-    void registerNames(ControlRegistry& registry) const;
-    void registerEvents(EventRegistry& events);
+    void registerNames(ControlRegistry& registry) const override;
+    void registerEvents(EventRegistry& events) override;
 
     const Panel& title() const { return title_; }
     const Panel& text() const { return text_; }

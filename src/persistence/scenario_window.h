@@ -8,6 +8,7 @@
 #include "platform/control_registry.h"
 #include "platform/event_registry.h"
 #include "screen/design.h"
+#include "screen/part.h"
 #include "screen/dialog.h"
 
 namespace lorvane {
@@ -21,17 +22,14 @@ struct ProgressFlight {
     int count = 0;  ///< flights so far, so that a view knows a new one
 };
 
-class ScenarioWindow {
+class ScenarioWindow final : public Part {
 public:
     explicit ScenarioWindow(Design& design);
-    ScenarioWindow(const ScenarioWindow&) = delete;
-    ScenarioWindow& operator=(const ScenarioWindow&) = delete;
 
-    void registerNames(ControlRegistry& registry) const;
-    void registerEvents(EventRegistry& events);
+    void registerNames(ControlRegistry& registry) const override;
+    void registerEvents(EventRegistry& events) override;
 
-    /// Brings the list into step with the scenarios of the session.
-    void follow(const Changed& changed);
+    void follow(const Changed& changed) override;
 
     /// The commands of the window. Each tells in a message why it cannot be carried out and changes nothing
     /// then. A scenario that cannot be computed is restored with the request for other data.

@@ -9,6 +9,7 @@
 #include "platform/event_registry.h"
 #include "platform/file_store.h"
 #include "screen/design.h"
+#include "screen/part.h"
 
 namespace lorvane {
 
@@ -17,7 +18,7 @@ inline constexpr int newProject = 1;
 inline constexpr int existingFile = 2;
 }  // namespace StartChoices
 
-class StartScreen {
+class StartScreen final : public Part {
 public:
     /// The row of the list that stands for other files; the files follow.
     static constexpr std::size_t moreRow = 1;
@@ -29,11 +30,9 @@ public:
     static constexpr std::size_t kindColumn = 4;
 
     StartScreen(Design& design, StudyFiles& studies, const RecentFiles& recent, const FileStore& files);
-    StartScreen(const StartScreen&) = delete;
-    StartScreen& operator=(const StartScreen&) = delete;
 
-    void registerNames(ControlRegistry& registry) const;
-    void registerEvents(EventRegistry& events);
+    void registerNames(ControlRegistry& registry) const override;
+    void registerEvents(EventRegistry& events) override;
 
     /// Opens the screen with the first choice and the recent files as they are now; raises it when it is
     /// open.

@@ -10,19 +10,18 @@
 #include "platform/controls.h"
 #include "platform/event_registry.h"
 #include "screen/design.h"
+#include "screen/part.h"
 #include "screen/dialog.h"
 
 namespace lorvane {
 
-class SmallDialogs {
+class SmallDialogs final : public Part {
 public:
     explicit SmallDialogs(Design& design);
-    SmallDialogs(const SmallDialogs&) = delete;
-    SmallDialogs& operator=(const SmallDialogs&) = delete;
 
     /// Enters texts, captions and events of all dialogs.
-    void registerNames(ControlRegistry& registry) const;
-    void registerEvents(EventRegistry& events);
+    void registerNames(ControlRegistry& registry) const override;
+    void registerEvents(EventRegistry& events) override;
 
     /// All dialogs, for views.
     std::vector<const Dialog*> all() const;

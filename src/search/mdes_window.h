@@ -7,11 +7,12 @@
 #include "platform/control_registry.h"
 #include "platform/event_registry.h"
 #include "screen/design.h"
+#include "screen/part.h"
 #include "search/mdes_texts.h"
 
 namespace lorvane {
 
-class MdesWindow {
+class MdesWindow final : public Part {
 public:
     /// What the panel shows below its prompt.
     enum class State {
@@ -23,14 +24,11 @@ public:
 
     /// The screen must outlive it.
     explicit MdesWindow(Design& design);
-    MdesWindow(const MdesWindow&) = delete;
-    MdesWindow& operator=(const MdesWindow&) = delete;
 
-    void registerNames(ControlRegistry& registry) const;
-    void registerEvents(EventRegistry& events);
+    void registerNames(ControlRegistry& registry) const override;
+    void registerEvents(EventRegistry& events) override;
 
-    /// Brings the panel into step with a change of the session.
-    void follow(const Changed& changed);
+    void follow(const Changed& changed) override;
 
     State state() const noexcept { return state_; }
     const Panel& prompt() const noexcept { return pnlMDESTop_; }

@@ -11,12 +11,13 @@
 #include "platform/event_registry.h"
 #include "platform/progress.h"
 #include "screen/design.h"
+#include "screen/part.h"
 #include "search/optimal_search.h"
 #include "search/optimal_texts.h"
 
 namespace lorvane {
 
-class OptimalWindow {
+class OptimalWindow final : public Part {
 public:
     /// What the band below the levels tells.
     enum class State {
@@ -42,14 +43,11 @@ public:
     };
 
     OptimalWindow(Design& design, Progress& progress);
-    OptimalWindow(const OptimalWindow&) = delete;
-    OptimalWindow& operator=(const OptimalWindow&) = delete;
 
-    void registerNames(ControlRegistry& registry) const;
-    void registerEvents(EventRegistry& events);
+    void registerNames(ControlRegistry& registry) const override;
+    void registerEvents(EventRegistry& events) override;
 
-    /// Brings the wizard into step with a change of the session.
-    void follow(const Changed& changed);
+    void follow(const Changed& changed) override;
 
     /// Opens the wizard, or tells why it cannot be used.
     void open();
