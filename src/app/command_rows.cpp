@@ -6,6 +6,7 @@
 
 #include "base/money.h"
 #include "base/number_text.h"
+#include "base/utf8.h"
 #include "screen/questions.h"
 #include "screen/study_text.h"
 #include "session/assignments.h"
@@ -13,6 +14,8 @@
 namespace lorvane {
 
 namespace {
+
+constexpr std::size_t longestStepName = 39;  // with the word before it 44 letters
 
 using enum ToolCategory;
 using P = const Program&;
@@ -97,10 +100,11 @@ std::string plain(std::string text) {
 std::string percentText(double power) { return shortestText(roundHalfToEven(power * 100)) + "%"; }
 
 // Undo and redo are named after the step.
+// Names of levels can be long, and the menu stays narrow.
 ToolState stepState(bool possible, const char* word, const std::string& name) {
     std::string caption = word;
     if (!name.empty())
-        caption.append(" ").append(plain(name));
+        caption.append(" ").append(plain(cutInMiddle(name, longestStepName)));
     return {.enabled = possible, .caption = std::move(caption)};
 }
 

@@ -1,6 +1,9 @@
 // Text in UTF-8.
 #include "base/utf8.h"
 
+#include <algorithm>
+#include <vector>
+
 namespace lorvane {
 
 std::size_t letterLength(std::string_view text) {
@@ -29,6 +32,18 @@ bool isCleanText(std::string_view text) {
         text.remove_prefix(length);
     }
     return true;
+}
+
+std::string cutInMiddle(std::string_view text, std::size_t letters) {
+    std::vector<std::size_t> ends = {0};
+    while (ends.back() < text.size())
+        ends.push_back(ends.back() + std::max<std::size_t>(letterLength(text.substr(ends.back())), 1));
+    const std::size_t count = ends.size() - 1;
+    if (count <= letters)
+        return std::string(text);
+    const std::size_t tail = (letters - 1) / 2;
+    const std::size_t head = letters - 1 - tail;
+    return std::string(text.substr(0, ends[head])) + "…" + std::string(text.substr(ends[count - tail]));
 }
 
 }  // namespace lorvane

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <cstddef>
+#include <string>
 #include <string_view>
 
 namespace lorvane {
@@ -11,5 +12,8 @@ std::size_t letterLength(std::string_view text);
 
 /// Whether the text is UTF-8 without a NUL, which every file and every window can take.
 bool isCleanText(std::string_view text);
+
+/// The text with at most so many letters, 3 or more; a longer one has an ellipsis in place of its middle.
+std::string cutInMiddle(std::string_view text, std::size_t letters);
 
 }  // namespace lorvane

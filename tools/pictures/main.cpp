@@ -5,9 +5,10 @@
 //
 // Commands: open STUDY, tool NAME, click CONTROL, spin CONTROL up|down, focus CELL, size W H, dark on|off,
 // value FIELD, type CONTROL TEXT, main NAME (picture of the main window), panel WINDOW NAME (of a floating
-// window).
+// window), menu BAND NAME.
 #include <QApplication>
 #include <QDir>
+#include <QMenu>
 #include <QPixmap>
 #include <QTextStream>
 #include <QWidget>
@@ -19,6 +20,7 @@
 #include "desktop/desk.h"
 #include "desktop/kit/theme.h"
 #include "desktop/main_window.h"
+#include "desktop/menus.h"
 #include "desktop/panels.h"
 #include "numerics/numeric_distribution_library.h"
 #include "os/disk_file_store.h"
@@ -45,6 +47,15 @@ bool save(QWidget* widget, const QString& folder, const QString& name) {
         return false;
     settle();
     return widget->grab().save(QDir(folder).filePath(name + QStringLiteral(".png")));
+}
+
+bool saveMenu(QMenu* menu, const QString& folder, const QString& name) {
+    if (menu == nullptr)
+        return false;
+    menu->popup(QPoint());
+    const bool saved = save(menu, folder, name);
+    menu->close();
+    return saved;
 }
 
 struct Stage {
@@ -83,6 +94,8 @@ bool Stage::run(const QStringList& words, const QString& rest) {
         return save(&window, folder, rest);
     else if (command == QLatin1String("panel"))
         return save(panels.panel(words[1]), folder, words[2]);
+    else if (command == QLatin1String("menu"))
+        return saveMenu(window.menus().menu(words[1].toStdString()), folder, words[2]);
     else
         return false;
     settle();
