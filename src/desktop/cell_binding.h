@@ -10,6 +10,7 @@ namespace lorvane::desktop {
 
 class Menus;
 
+/// One cell and its field. The widget must outlive it.
 class CellBinding {
 public:
     /// The cell of a field on the study screen.
@@ -18,6 +19,7 @@ public:
     /// Copies what has changed from the model.
     void sync();
 
+    /// What is tied together.
     ValueCell* widget() const { return widget_; }
     FieldRef field() const { return field_; }
 

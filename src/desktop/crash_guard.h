@@ -13,6 +13,7 @@
 
 namespace lorvane::desktop {
 
+/// Begins with the first unsaved change and ends with finish; the store is written by another thread.
 class CrashGuard : public QObject {
     Q_OBJECT
 

@@ -9,26 +9,40 @@
 
 namespace lorvane::desktop {
 
+/// The way from the widgets to the program. Every call carries out one event, and all views are told of it
+/// afterwards. What cannot be done is told in a message box.
 class Desk : public QObject {
     Q_OBJECT
 
 public:
     Desk(Application& application, MessageBoxes& messages);
 
+    /// What views read; nothing of it can be changed through here.
     const Application& application() const { return application_; }
     const Design& design() const { return application_.design(); }
     const Session& session() const { return application_.session(); }
     const Study& study() const { return session().study(); }
 
+    /// A command by its key, and a button, a cell or an option by its name.
     void tool(const std::string& name);
     void click(const std::string& control);
+
+    /// The text of a box as it was typed; it is read when a button is pressed.
     void type(const std::string& control, const QString& text);
+
+    /// The frame of a window asks it to close.
     void close(const std::string& window);
+
+    /// Arrows by their name, a step up (1) or down (-1). The release of a held arrow brings up what its ticks
+    /// left out.
     void spin(const std::string& control, int direction, ArrowHold hold = ArrowHold::click);
     void spinReleased();
+
+    /// Opens the value of a field for typing, and writes a number of a window within its limits.
     void openValue(const std::string& field);
     void setNumber(const std::string& name, double value);
 
+    /// Selects rows of a table; they count from 1, below the heads.
     void select(const std::string& grid, const std::vector<std::size_t>& rows);
 
     /// Opens the program for a person, with the file of the command line or none.
@@ -38,7 +52,7 @@ public:
     /// opened.
     void askAndOpen(const QString& path);
 
-    /// The floating windows make way and come back.
+    /// The floating windows make way for a message or a file dialog, and the same ones come back.
     void suspend();
     void restore();
 

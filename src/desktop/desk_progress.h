@@ -1,4 +1,4 @@
-// Lets the windows breathe during a search: they repaint, Escape stops the search, and everything else that a
+// Keeps the windows alive during a search: they repaint, Escape stops the search, and everything else that a
 // user does is held off. Knows no window.
 #pragma once
 

@@ -15,6 +15,7 @@ namespace lorvane::desktop {
 class PushButton;
 class TextField;
 
+/// Any small dialog, made from its model.
 class DialogView final : public PanelView {
     Q_OBJECT
 

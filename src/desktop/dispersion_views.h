@@ -37,6 +37,7 @@ struct DispersionModel {
     const Panel* messageInner;
 };
 
+/// What the two panels share; they differ in their models alone.
 class DispersionView : public PanelView {
     Q_OBJECT
 
@@ -74,6 +75,7 @@ private:
     std::vector<std::pair<PushButton*, const Button*>> buttons_;
 };
 
+/// The dispersion of the outcome, "frmDisplayICC".
 class IccView final : public DispersionView {
     Q_OBJECT
 
@@ -81,6 +83,7 @@ public:
     IccView(Desk& desk, ToolPanel* panel, Menus& menus);
 };
 
+/// The dispersion of the effect, "frmDisplayTauSq".
 class TauSqView final : public DispersionView {
     Q_OBJECT
 

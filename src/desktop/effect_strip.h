@@ -15,12 +15,15 @@ namespace lorvane::desktop {
 class MenuButton;
 class NumberLabel;
 
+/// A card with the cells of the effect side by side. Which of them show, and under which words, follows the
+/// study.
 class EffectStrip : public Card {
     Q_OBJECT
 
 public:
     EffectStrip(Desk& desk, Menus& menus, QWidget* parent = nullptr);
 
+    /// Copies what has changed from the models.
     void sync();
 
     /// The cell of a panel's name; null when it is not on the strip.

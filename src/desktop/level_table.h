@@ -15,12 +15,14 @@ class QLabel;
 
 namespace lorvane::desktop {
 
+/// A card that paints heads, lines and rail itself and places the cells of all levels in columns.
 class LevelTable : public Card {
     Q_OBJECT
 
 public:
     LevelTable(Desk& desk, Menus& menus, QWidget* parent = nullptr);
 
+    /// Copies what has changed from the models.
     void sync();
 
     /// Smaller rows, for small screens.

@@ -18,6 +18,7 @@ class FigureCard;
 class LevelTable;
 class Menus;
 
+/// The window with the study. It closes only when the program has asked about unsaved work.
 class MainWindow : public QMainWindow {
     Q_OBJECT
 
@@ -30,6 +31,7 @@ public:
     /// The cell of a panel's name, for panels and tests; null when there is none.
     QWidget* cell(const std::string& panel) const;
 
+    /// The menus, for the popups of the floating windows.
     Menus& menus() { return *menus_; }
 
 protected:

@@ -10,6 +10,7 @@ namespace lorvane::desktop {
 class Card;
 class NumberLabel;
 
+/// "frmMDES": Enter computes, Escape closes, and Ctrl+C copies the answer.
 class MdesView final : public PanelView {
     Q_OBJECT
 

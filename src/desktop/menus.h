@@ -19,6 +19,7 @@ namespace lorvane::desktop {
 class MenuButton;
 class ToolButton;
 
+/// One action a command, however often it stands in menus and bars. The window owns them all.
 class Menus : public QObject {
     Q_OBJECT
 

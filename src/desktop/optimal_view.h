@@ -21,6 +21,7 @@ class ResultBand;
 class TrialPlot;
 class TrialTable;
 
+/// "frmOptimal". Escape closes the notes first, then the wizard.
 class OptimalView final : public PanelView {
     Q_OBJECT
 

@@ -15,9 +15,13 @@ class PanelView : public QObject {
 public:
     PanelView(Desk& desk, ToolPanel* panel, const std::string& name);
 
+    /// Whether the program has the window open.
     virtual bool isOpen() const = 0;
+
+    /// Copies what has changed from the models into the widgets.
     virtual void sync() = 0;
 
+    /// The window itself.
     ToolPanel* panel() const { return panel_; }
 
     /// Where it opens first, as shares of the screen from the left and from the top; below 0 in the middle.

@@ -10,12 +10,14 @@ namespace lorvane::desktop {
 
 class MainWindow;
 
+/// Makes every floating window once, hidden, and keeps it.
 class Panels : public QObject {
     Q_OBJECT
 
 public:
     Panels(Desk& desk, MainWindow& window);
 
+    /// Opens, closes and fills them all as the program stands.
     void follow();
 
     /// The floating window of a name, "frmDisplayICC"; null when there is none.

@@ -9,6 +9,7 @@ namespace lorvane::desktop {
 
 class RecordTable;
 
+/// "frmScenarios". A double click or Enter restores a scenario, and Delete deletes those selected.
 class ScenarioView final : public PanelView {
     Q_OBJECT
 

@@ -7,6 +7,7 @@ namespace lorvane::desktop {
 
 class StartPage;
 
+/// "frmStart": two choices and the recent files.
 class StartView final : public PanelView {
     Q_OBJECT
 

@@ -7,6 +7,7 @@ class QTableWidget;
 
 namespace lorvane::desktop {
 
+/// "frmSpreadICC" or "frmSpreadTauSq".
 class TableView final : public PanelView {
     Q_OBJECT
 
