@@ -1,4 +1,4 @@
-// Long work that lets a face breathe: it repaints, and the user may stop the work.
+// Long work that a face can watch: it repaints meanwhile, and the user may stop the work.
 #pragma once
 
 namespace lorvane {
