@@ -57,9 +57,8 @@ void CellBinding::connectEvents(Menus& menus) {
                      [this, spin](int direction) { desk_.spin(spin, direction, ArrowHold::tick); });
     QObject::connect(widget_, &ValueCell::stepFinished, &desk_, [this] { desk_.spinReleased(); });
     QObject::connect(widget_, &ValueCell::activated, &desk_, [this] { desk_.openValue(field_.name()); });
-    QObject::connect(
-        widget_, &ValueCell::contextMenuRequested, &desk_,
-        [this, &menus, menu = menuOf(field_)](const QPoint& place) { menus.popup(menu, place); });
+    QObject::connect(widget_, &ValueCell::contextMenuRequested, &desk_,
+                     [&menus, menu = menuOf(field_)](const QPoint& place) { menus.popup(menu, place); });
     QObject::connect(widget_, &ValueCell::focused, &desk_, [this] {
         const QString hint = desk_.hintOf(field_);
         widget_->setAccessibleDescription(hint);

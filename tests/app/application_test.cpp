@@ -221,8 +221,9 @@ TEST_F(App, ArrowsThatDoNotExistAreRefusedByTheirName) {
     int redrawn = 0;
     app.whenShown([&] { ++redrawn; });
     const auto before = state();
-    for (const std::string arrows : {"spnNT(5)", "spnNT(0)", "spnNT", "spnXX", "spnModel(5)", "txtNT(2)", "",
-                                     "frmDisplayICC.spnQ(2)", "frmDisplayTauSq.spnIcc(2)"})
+    for (const std::string arrows :
+         {"spnNT(5)", "spnNT(0)", "spnNT", "spnXX", "spnModel(5)", "txtNT(2)", "", "frmDisplayICC.spnQ(2)",
+          "frmDisplayTauSq.spnQ(2)", "frmDisplayTauSq.spnIcc(2)"})
         EXPECT_EQ(problemOf([&] { app.spin(arrows, 1); }), "There are no arrows \"" + arrows + "\".");
     EXPECT_EQ(changedSince(before), "");
     EXPECT_EQ(redrawn, 0);
