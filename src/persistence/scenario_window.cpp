@@ -101,7 +101,8 @@ void ScenarioWindow::writeCount() {
     pnlCount_.Caption = std::to_string(scenarios) + (scenarios == 1 ? " scenario" : " scenarios");
 }
 
-// A change that no row shows, as a save makes it, leaves the selection and a name that is being edited.
+// A change that no row shows, as a save makes it, leaves the selection. A name that is being edited stays as
+// long as its row does.
 void ScenarioWindow::follow(const Changed& changed) {
     if (shown_.isSame(session_.scenarios()))
         return;
@@ -112,9 +113,13 @@ void ScenarioWindow::follow(const Changed& changed) {
                         std::move(line.cost)});
     if (!changed.otherStudy && rows == vsNames_.rows)
         return;
-    ScenariosSetup();
+    const bool rowStays = !changed.otherStudy && nameIsOpen() && editedRow_ < rows.size() &&
+                          rows[editedRow_] == vsNames_.rows[editedRow_];
     vsNames_.rows = std::move(rows);
+    vsNames_.selected.clear();
     writeCount();
+    if (!rowStays)
+        closeName();
 }
 
 // The next number whose name is free.
