@@ -1,5 +1,6 @@
 // The tools: what each leaves behind in every design.
 #include <set>
+#include <stdexcept>
 
 #include "screen/screen_bench.h"
 
@@ -90,6 +91,20 @@ TEST_F(Tools, DecimalsRoundWhatIsStored) {
         EXPECT_TRUE(tool(row[0]).Checked) << row[0];
     }
     expect({{"IncMRange", "100"}, {"IncMean", "1"}, {"pnlMRange(1).Caption", "        13"}});
+}
+
+TEST(CommandBookTest, AMenuThatNamesWhatIsMissingStopsTheProgram) {
+    using Kind = BandEntry::Kind;
+    const auto make = [](std::vector<std::string> keys, BandEntry entry) {
+        std::vector<Command> commands;
+        for (const std::string& key : keys)
+            commands.emplace_back().tool.Name = key;
+        CommandBook(std::move(commands), {{"bndFile", "&File", BandKind::menu, {std::move(entry)}}});
+    };
+    EXPECT_NO_THROW(make({"Save"}, {Kind::tool, "Save"}));
+    EXPECT_THROW(make({"Save"}, {Kind::tool, "Safe"}), std::logic_error);
+    EXPECT_THROW(make({"Save"}, {Kind::band, "popNone"}), std::logic_error);
+    EXPECT_THROW(make({"Save", "Save"}, {Kind::line, ""}), std::logic_error);
 }
 
 }  // namespace
