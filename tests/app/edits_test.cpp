@@ -204,7 +204,8 @@ private:
     std::vector<Name> names_;
 };
 
-/// Studies of means and risks, with two to four levels, blocked and nested, with and without a power.
+/// Studies of means and risks, with two to four levels, blocked and nested, with and without a power, one
+/// with low cell counts.
 TEST_F(Edits, LeaveARightScreenAndCanBeTakenBack) {
     const Values common = {{"txtd", 0.4},         {"txtOR", 2.0},       {"txtRD", 0.2},
                            {"txtPrev", 0.4},      {"txtICC(2)", 0.1},   {"txtICC(3)", 0.05},
@@ -217,6 +218,7 @@ TEST_F(Edits, LeaveARightScreenAndCanBeTakenBack) {
         {{"NumLevels", 4.0}, {"RandomizedLevel", 1.0}, {"ICC Metric", 1.0}, {"Tau-sq Metric", 3.0}},
         {{"NumLevels", 3.0}, {"RandomizedLevel", 3.0}, {"DataType", 2.0}, {"ICC Metric", 1.0}},
         {{"NumLevels", 2.0}, {"RandomizedLevel", 1.0}, {"DataType", 2.0}, {"BinaryType", 3.0}},
+        {{"NumLevels", 2.0}, {"DataType", 2.0}, {"txtPrev", 0.03}, {"txtNT(2)", 4.0}, {"txtNC(2)", 4.0}},
         {{"NumLevels", 2.0}, {"txtRsq(2)", 0.5}}};
     std::set<std::string> steps;
     for (const Values& study : studies) {
