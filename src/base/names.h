@@ -20,10 +20,6 @@ IndexedName splitName(std::string_view name);
 /// The stem with its index, as in "txtNT(2)".
 std::string indexedName(std::string_view stem, int index);
 
-/// The text in capital letters, for comparing names without regard to case: Latin, Greek and Cyrillic letters
-/// of UTF-8 text; everything else stays.
-std::string upperCased(std::string_view text);
-
 /// The known name with the fewest single-letter edits from the given one, upper and lower case being the
 /// same; empty when there are no known names.
 std::string nearestName(std::string_view name, std::span<const std::string> known);

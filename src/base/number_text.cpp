@@ -102,13 +102,4 @@ std::string_view trimmed(std::string_view text) {
     return text;
 }
 
-std::string lowerCased(std::string_view text) {
-    std::string lower(text);
-    for (char& c : lower) {
-        if (c >= 'A' && c <= 'Z')
-            c = static_cast<char>(c - 'A' + 'a');
-    }
-    return lower;
-}
-
 }  // namespace lorvane

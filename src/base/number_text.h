@@ -7,6 +7,8 @@
 #include <string>
 #include <string_view>
 
+#include "base/letter_case.h"
+
 namespace lorvane {
 
 /// The shortest decimal text, without exponent, that reads back as the same double ("0.1", "1000000").
@@ -26,8 +28,5 @@ std::optional<double> readNumber(std::string_view text);
 
 /// The text without the blanks at both ends.
 std::string_view trimmed(std::string_view text);
-
-/// The text with its ASCII letters in lower case; other letters stay as they are.
-std::string lowerCased(std::string_view text);
 
 }  // namespace lorvane

@@ -3,7 +3,7 @@
 
 #include <vector>
 
-#include "base/names.h"
+#include "base/letter_case.h"
 
 namespace lorvane {
 

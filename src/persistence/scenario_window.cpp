@@ -6,6 +6,7 @@
 #include <unordered_set>
 #include <utility>
 
+#include "base/letter_case.h"
 #include "base/names.h"
 #include "base/number_text.h"
 #include "persistence/scenario_cells.h"

@@ -4,6 +4,8 @@
 
 #include <vector>
 
+#include "base/letter_case.h"
+
 namespace lorvane {
 namespace {
 
@@ -22,6 +24,25 @@ TEST(Names, FindsTheNearestName) {
     EXPECT_EQ(nearestName("TXTICC(2", known), "txtICC(2)");
     EXPECT_EQ(nearestName("d", known), "txtd");
     EXPECT_EQ(nearestName("d", std::vector<std::string>{}), "");
+}
+
+TEST(Names, HaveCapitalAndSmallLettersInEveryAlphabet) {
+    for (const auto& [capital, small] : {std::pair{"AZ 09_{}", "az 09_{}"},
+                                         {"ÄØÞ×", "äøþ×"},
+                                         {"ĀŁŹŸȺ", "āłźÿⱥ"},
+                                         {"ƁǄǺ", "ɓǆǻ"},
+                                         {"ḀẤ", "ḁấ"},
+                                         {"ΑΣΆΏ", "ασάώ"},
+                                         {"ЖЩЁҐӀ", "жщёґӏ"},
+                                         {"ԱՖ", "աֆ"},
+                                         {"日本 𐐀", "日本 𐐨"}}) {
+        EXPECT_EQ(lowerCased(capital), small);
+        EXPECT_EQ(lowerCased(small), small);
+        EXPECT_EQ(upperCased(small), upperCased(capital));
+    }
+    EXPECT_EQ(lowerCased("İẞΩ"), "ißω");
+    EXPECT_EQ(upperCased("ς ſ µ ÿ ß"), upperCased("σ S μ Ÿ ẞ")) << "forms of one letter";
+    EXPECT_EQ(lowerCased("\xC3 \xFF\xD0"), "\xC3 \xFF\xD0") << "bytes that are no letters";
 }
 
 }  // namespace
