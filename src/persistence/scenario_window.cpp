@@ -2,7 +2,6 @@
 #include "persistence/scenario_window.h"
 
 #include <algorithm>
-#include <string_view>
 #include <unordered_set>
 #include <utility>
 
@@ -123,15 +122,15 @@ void ScenarioWindow::follow(const Changed& changed) {
         closeName();
 }
 
-// The next number whose name is free.
+// The next number whose name is free, whatever the case.
 int ScenarioWindow::nextNumber() const {
-    std::unordered_set<std::string_view> taken;
+    std::unordered_set<std::string> taken;
     for (std::size_t row = 1; row < vsNames_.rows.size(); ++row)
-        taken.insert(vsNames_.rows[row][nameColumn]);
+        taken.insert(upperCased(vsNames_.rows[row][nameColumn]));
     int number = session_.settings().ScenarioNumber;
     do {
         number = number < 0 || number >= largestNumber ? 1 : number + 1;
-    } while (taken.contains(numbered(number)));
+    } while (taken.contains(upperCased(numbered(number))));
     return number;
 }
 
