@@ -294,7 +294,7 @@ void SmallDialogs::openMean() {
     mean_.note.Caption = "Span of scores for " + s.txtName(1) +
                          ". The span is 4 standard deviations. This span implies that the standard "
                          "deviation of scores within " +
-                         control + " is " + shortestText(s.txtSD) + ".";
+                         control + " is " + shortestText(s.txtMRange(1) / spanOfOneSd) + ".";
     show(mean_);
 }
 
