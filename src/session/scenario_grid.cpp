@@ -147,8 +147,10 @@ Grid::Row ScenarioGrid::row(std::size_t number) const {
 
 Grid ScenarioGrid::grid() const {
     Grid grid;
-    for (std::size_t number = 0; number < rowCount(); ++number)
+    for (std::size_t number = 0; number < rowCount(); ++number) {
         grid.rows.push_back(row(number));
+        grid.rows.back().resize(columns);
+    }
     return grid;
 }
 

@@ -94,8 +94,10 @@ public:
     /// Whether both tables hold the very same scenarios.
     bool isSame(const ScenarioGrid& other) const noexcept;
 
-    /// The rows of the table, the header being row 0: every cell up to the last one that holds something.
+    /// A row of the table, the header being row 0: every cell up to the last one that holds something.
     Grid::Row row(std::size_t number) const;
+
+    /// The whole table, empty cells too.
     Grid grid() const;
 
 private:
