@@ -79,8 +79,8 @@ std::string correspondence(const Study& s) {
 }
 
 std::string currentRates(const Study& s) {
-    return "Currently, the event rates in the two groups are " + fixedText(s.txtEvent2, 2) + " vs. " +
-           fixedText(s.txtPrev, 2) + correspondence(s) + ".";
+    return "Currently, the event rates in the two groups are " + fixedText(s.txtPrev, 2) + " vs. " +
+           fixedText(s.txtEvent2, 2) + correspondence(s) + ".";
 }
 
 DetailText oddsRatioText(const Study& s) {

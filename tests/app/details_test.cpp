@@ -165,21 +165,21 @@ TEST_F(DetailsWindow, EffectOfRisksGivesRatesAndMetric) {
         says("If the event rate is lower in the Coached group the odds ratio should be less than 1.0."));
     EXPECT_TRUE(says("You must provide the event rate in the Usual group and the odds ratio."));
     // Odds of 0.25 times 3 are odds of 0.75, a rate of 3/7.
-    EXPECT_TRUE(says("groups are 0.43 vs. 0.20, corresponding to an odds ratio of 3.00.")) << words();
+    EXPECT_TRUE(says("groups are 0.20 vs. 0.43, corresponding to an odds ratio of 3.00.")) << words();
     app.set(Values{{"BinaryType", 3.0}, {"txtRD", -0.05}});
     EXPECT_EQ(title(), "Risk difference");
     EXPECT_TRUE(says("You must provide the event rate in the Usual group and the risk difference."));
     EXPECT_TRUE(says("enter -0.20 rather than 0.20, or 0.20 rather than -0.20)."));
-    EXPECT_TRUE(says("groups are 0.15 vs. 0.20, corresponding to a risk difference of -0.05.")) << words();
+    EXPECT_TRUE(says("groups are 0.20 vs. 0.15, corresponding to a risk difference of -0.05.")) << words();
 }
 
 TEST_F(DetailsWindow, EffectsWithoutATestTellNoRiskDifferenceThatIsNotTheirs) {
     load({{"DataType", 2.0}, {"BinaryType", 2.0}, {"txtPrev", 0.2}, {"txtRR", 1.5}, {"txtP2", 0.4}});
     app.click("colES");
-    EXPECT_TRUE(says("groups are 0.30 vs. 0.20")) << words();
+    EXPECT_TRUE(says("groups are 0.20 vs. 0.30")) << words();
     EXPECT_FALSE(says("risk difference of 0.00")) << words();
     app.set(Values{{"BinaryType", 4.0}});
-    EXPECT_TRUE(says("groups are 0.40 vs. 0.20")) << words();
+    EXPECT_TRUE(says("groups are 0.20 vs. 0.40")) << words();
     EXPECT_FALSE(says("risk difference of 0.00")) << words();
 }
 
