@@ -106,8 +106,9 @@ void Menus::sync(QAction* action, const Tool& tool) {
     action->setStatusTip(shownText(tool.ToolTipText));
     action->setVisible(tool.Visible);
     action->setEnabled(tool.Enabled);
+    // A choice is marked also where it is not on offer; a window without a view counts as open in vain.
     if (action->isCheckable())
-        action->setChecked(tool.Checked && tool.Enabled);
+        action->setChecked(tool.Checked && (tool.Enabled || tool.Category == ToolCategory::choice));
 }
 
 void Menus::sync() {

@@ -116,6 +116,17 @@ TEST_F(Edit, ARightClickOffersWhatBelongsToTheCellAndActs) {
     EXPECT_EQ(QApplication::activePopupWidget(), nullptr) << "a choice has no popup";
 }
 
+TEST_F(Edit, AMenuMarksAlsoAChoiceThatItDoesNotOffer) {
+    for (const auto& [type, entry] : {std::pair{2.0, "Risk ratio"}, {4.0, "Two risks"}}) {
+        set({{"DataType", 2.0}, {"BinaryType", type}});
+        settle();
+        std::string marked;
+        for (const QAction* action : window.menus().menu("popDesign")->actions())
+            marked += action->isChecked() ? action->objectName().toStdString() : "";
+        EXPECT_EQ(marked, entry);
+    }
+}
+
 TEST_F(Edit, ARefusalKeepsTheDialogAndTheStudy) {
     set({{"txtName(1)", std::string("Pupils")},
          {"txtGroupName(2)", std::string("Usual")},
