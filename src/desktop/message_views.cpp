@@ -73,7 +73,7 @@ CountsView::CountsView(Desk& desk, ToolPanel* panel) : PanelView(desk, panel, "f
     int line = 0;
     for (const Panel* head : {&model.lblN, &model.lblRate, &model.lblMean, &model.lblPctBad})
         grid->addWidget(addText(*head, TextStyle::Caption), ++line, 0);
-    for (int cell = 1; cell <= model.lblGroup.last; ++cell)
+    for (int cell = 1; cell <= model.pnlA.last; ++cell)
         addCell(grid, cell);
     panel->content()->addLayout(grid);
 }
@@ -94,7 +94,7 @@ void CountsView::addCell(QGridLayout* grid, int cell) {
         label->setMargin(3);
         grid->addWidget(label, line++, cell);
     };
-    add(addText(model.lblGroup(cell), TextStyle::CaptionStrong));
+    add(addText(model.pnlA(cell), TextStyle::CaptionStrong));
     for (const Panel* number : numbers)
         add(addText(*number, TextStyle::Value));
 }

@@ -43,13 +43,18 @@ SmallCounts GetProbs(DistributionLibrary& library, ScreenedArm arm, double k, do
 }
 
 void AAAComputeTwoLevelHDEvents(Study& study, DistributionLibrary& library) {
-    CellCounts& counts = study.counts;
     const double V = sumOfLogitVariances(study);
     const double T = sumOfTauSquared(study);
     const SmallCounts control =
         GetProbs(library, ScreenedArm::control, smallCellCount, study.txtNC(1), study.txtPrev, V, T);
     const SmallCounts treated =
         GetProbs(library, ScreenedArm::treated, smallCellCount, study.txtNT(1), study.txtEvent2, V, T);
+    CellCounts& counts = study.counts;
+    counts.isScreened = true;
+    counts.n(1) = study.txtNC(1);
+    counts.n(2) = study.txtNT(1);
+    counts.rate(1) = study.txtPrev;
+    counts.rate(2) = study.txtEvent2;
     counts.share(1) = control.A;
     counts.share(2) = control.B;
     counts.share(3) = treated.A;

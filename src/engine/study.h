@@ -91,11 +91,14 @@ struct PowerResult {
     PowerResult();
 };
 
-/// Shares of clusters with a small expected count, 0 to 1, as the screening of a binary study finds them.
-/// The order of the four cells: control events, control non-events, treated events, treated non-events.
+/// What the last screening of a binary study read and found. The order of the arms: control, treated; of the
+/// four cells: control events, control non-events, treated events, treated non-events.
 struct CellCounts {
-    IndexedArray<double, 1, 4> share;
-    IndexedArray<bool, 1, 4> low;  ///< the share is too large
+    bool isScreened = false;           ///< a screening has run
+    IndexedArray<double, 1, 2> n;      ///< individuals in a cluster of the arm
+    IndexedArray<double, 1, 2> rate;   ///< event rate of the arm
+    IndexedArray<double, 1, 4> share;  ///< share of clusters with a small expected count, 0 to 1
+    IndexedArray<bool, 1, 4> low;      ///< the share is too large
     bool anyLow = false;
 };
 

@@ -56,7 +56,6 @@ void Design::forgetModels() {
     effectProblems_ = EffectProblemWindow();
     iccPanel_ = IccPanel();
     tauSqPanel_ = TauSqPanel();
-    countsPanel_ = CellCountsPanel();
 }
 
 void Design::show(const Changed& changed) {

@@ -119,8 +119,10 @@ void addLimits(ControlRegistry& registry, const RiskLimits& limits) {
 }
 
 void addCounts(ControlRegistry& registry, const CellCounts& counts, const CellCountsPanel& panel) {
-    addIndexed(registry, "frmCounts.lblGroup", panel.lblGroup);
-    for (const auto& [name, head] : {std::pair{"lblN", &panel.lblN},
+    addIndexed(registry, "frmCounts.pnlA", panel.pnlA);
+    for (const auto& [name, head] : {std::pair{"pnlTitle", &panel.pnlTitle},
+                                     {"pnlInner", &panel.pnlInner},
+                                     {"lblN", &panel.lblN},
                                      {"lblRate", &panel.lblRate},
                                      {"lblMean", &panel.lblMean},
                                      {"lblPctBad", &panel.lblPctBad}})
@@ -129,7 +131,6 @@ void addCounts(ControlRegistry& registry, const CellCounts& counts, const CellCo
     addIndexed(registry, "frmCounts.pnlRate", panel.pnlRate);
     addIndexed(registry, "frmCounts.pnlMean", panel.pnlMean);
     addIndexed(registry, "frmCounts.pnlPctBad", panel.pnlPctBad);
-    registry.add("frmCounts.pnlTitle", panel.pnlTitle);
     addIndexed(registry, "CellShare", counts.share);
     addIndexed(registry, "CellLow", counts.low);
     registry.addFlag("CellCountsLow", counts.anyLow);

@@ -9,7 +9,6 @@ namespace lorvane {
 namespace {
 
 constexpr int controlArm = 1;
-constexpr int treatedArm = 2;
 
 void writeArm(CellCountsPanel& panel, int arm, double n, double rate) {
     const int events = 2 * arm - 1;
@@ -21,25 +20,25 @@ void writeArm(CellCountsPanel& panel, int arm, double n, double rate) {
 }
 
 void writeHeads(const Study& study, CellCountsPanel& panel) {
-    for (int cell = 1; cell <= panel.lblGroup.last; ++cell) {
+    for (int cell = 1; cell <= panel.pnlA.last; ++cell) {
         const bool control = CellCountsPanel::armOf(cell) == controlArm;
-        panel.lblGroup(cell).Caption = (control ? study.controlName() : study.treatedName()) +
-                                       (cell % 2 == 1 ? ", events" : ", non-events");
-    }
-}
-
-void showLines(CountLines lines, CellCountsPanel& panel) {
-    panel.lblPctBad.Visible = lines.shares;
-    for (Panel* head : {&panel.lblN, &panel.lblRate, &panel.lblMean})
-        head->Visible = lines.numbers;
-    for (int cell = 1; cell <= panel.lblGroup.last; ++cell) {
-        panel.lblGroup(cell).Visible = panel.pnlPctBad(cell).Visible = lines.shares;
-        panel.pnlRate(cell).Visible = panel.pnlMean(cell).Visible = lines.numbers;
-        panel.pnlN(CellCountsPanel::armOf(cell)).Visible = lines.numbers;
+        panel.pnlA(cell).Caption = (control ? study.controlName() : study.treatedName()) +
+                                   (cell % 2 == 1 ? ", events" : ", non-events");
     }
 }
 
 }  // namespace
+
+void FormatCounts(CountLines lines, CellCountsPanel& panel) {
+    panel.pnlInner.Visible = panel.lblPctBad.Visible = lines.shares;
+    for (Panel* head : {&panel.lblN, &panel.lblRate, &panel.lblMean})
+        head->Visible = lines.numbers;
+    for (int cell = 1; cell <= panel.pnlA.last; ++cell) {
+        panel.pnlA(cell).Visible = panel.pnlPctBad(cell).Visible = lines.shares;
+        panel.pnlRate(cell).Visible = panel.pnlMean(cell).Visible = lines.numbers;
+        panel.pnlN(CellCountsPanel::armOf(cell)).Visible = lines.numbers;
+    }
+}
 
 void CellColor(Panel& cell, double share) {
     cell.Caption = fixedText(share * 100, 2) + "%";
@@ -48,15 +47,17 @@ void CellColor(Panel& cell, double share) {
 }
 
 void writeCellCounts(const Study& study, CountLines lines, CellCountsPanel& panel) {
+    panel = CellCountsPanel();
     writeHeads(study, panel);
-    showLines(lines, panel);
-    if (!study.isBinary())
+    FormatCounts(lines, panel);
+    const CellCounts& counts = study.counts;
+    if (!counts.isScreened)
         return;
-    writeArm(panel, controlArm, study.txtNC(1), study.txtPrev);
-    writeArm(panel, treatedArm, study.txtNT(1), study.txtEvent2);
+    for (int arm = 1; arm <= counts.n.last; ++arm)
+        writeArm(panel, arm, counts.n(arm), counts.rate(arm));
     for (int cell = 1; cell <= panel.pnlPctBad.last; ++cell)
-        CellColor(panel.pnlPctBad(cell), study.counts.share(cell));
-    const bool low = study.counts.anyLow;
+        CellColor(panel.pnlPctBad(cell), counts.share(cell));
+    const bool low = counts.anyLow;
     panel.pnlTitle.trouble = low;
     panel.pnlTitle.Caption = low ? "Cell counts are low" : "Cell counts are Ok";
     panel.pnlTitle.BackColor = low ? problemColour : normalBackground;

@@ -10,7 +10,8 @@ namespace lorvane {
 /// order control, treated.
 struct CellCountsPanel {
     Panel pnlTitle;
-    IndexedArray<Panel, 1, 4> lblGroup;  ///< heads of the cells, "Control, events"
+    Panel pnlInner;                  ///< what stands below the verdict
+    IndexedArray<Panel, 1, 4> pnlA;  ///< heads of the cells, "Control, events"
     Panel lblN{"Individuals in a cluster"};
     Panel lblRate{"Rate"};
     Panel lblMean{"Expected count"};
@@ -33,8 +34,11 @@ struct CountLines {
 /// Writes a share into its cell in percent, with the problem colour behind it from 0.1 on.
 void CellColor(Panel& cell, double share);
 
-/// Writes the panel: which lines show and their heads for any study, the rest for a binary one from the
-/// screening that the computation left.
+/// Shows and hides the lines below the verdict.
+void FormatCounts(CountLines lines, CellCountsPanel& panel);
+
+/// Writes the panel: which lines show, their heads, and what the last screening read and found, whatever was
+/// entered after it; nothing of that before the first one.
 void writeCellCounts(const Study& study, CountLines lines, CellCountsPanel& panel);
 
 }  // namespace lorvane
