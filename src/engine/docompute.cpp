@@ -103,7 +103,6 @@ ComputeOutcome tellInvalid(const PowerResult& result) {
 
 ComputeOutcome computePower(Study& s, DistributionLibrary& library) {
     resetFlags(s.result);
-    applyModels(s);
     runDesign(s, library);
     if (!collectFlags(s))
         return tellInvalid(s.result);
@@ -131,9 +130,10 @@ ComputeOutcome computeBehindGates(Study& s, DistributionLibrary& library) {
 }  // namespace
 
 // The cost hangs on sizes and unit costs alone. It comes first, so that it is right even where the power
-// cannot be told.
+// cannot be told; so are the models.
 ComputeOutcome docompute(Study& study, DistributionLibrary& library) {
     routinesOf(study.NumLevels, study.RandomizedLevel).cost(study);
+    applyModels(study);
     return computeBehindGates(study, library);
 }
 
