@@ -1,8 +1,7 @@
 // The arrows of the fields.
 #include "session/arrows.h"
 
-#include <algorithm>
-
+#include "base/arithmetic_fault.h"
 #include "base/names.h"
 #include "base/number_text.h"
 #include "session/field_words.h"
@@ -18,7 +17,7 @@ double spunByStep(const SessionState& state, FieldRef field, int direction) {
     const int step = stepOf(state.settings, field);
     const double value =
         spun(readNumberField(state, field), direction, limits, decimalsOf(state.study, *field.field), step);
-    return field->snaps ? std::min(snapped(value, direction, step), limits.high) : value;
+    return field->snaps ? snapped(value, direction, step) : value;
 }
 
 double afterArrow(const SessionState& state, FieldRef field, int direction) {
