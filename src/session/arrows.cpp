@@ -6,6 +6,8 @@
 #include "base/number_text.h"
 #include "session/field_words.h"
 #include "session/spin_step.h"
+#include "validation/effect_dispersion.h"
+#include "validation/icc_span.h"
 
 namespace lorvane {
 
@@ -33,13 +35,29 @@ double afterArrow(const SessionState& state, FieldRef field, int direction) {
     return spunByStep(state, field, direction);
 }
 
+// Whether effect and dispersion let the computation go on. On a copy, since a check writes what it finds.
+bool passesChecks(Study study) {
+    try {
+        SynchICC(study);
+        SynchTauSq(study);
+    } catch (const ArithmeticFault&) {
+        return false;
+    }
+    return study.result.ValidES && study.outcome.ValidICC(0) && study.effect.ValidTauSq(0);
+}
+
 void writeDecimals(SessionState& state, const Field& field, int decimals) {
+    const bool passed = passesChecks(state.study);
     state.study.decimals.*field.decimals = decimals;
     for (int i = indicesOf(field).first; i <= indicesOf(field).last; ++i) {
         const FieldRef ref{&field, i};
-        const double rounded = *readNumber(fixedText(readNumberField(state, ref), decimals));
-        if (limitsOf(state.study, field).holds(rounded))
-            writeField(state, ref, rounded);
+        const double value = readNumberField(state, ref);
+        const double rounded = *readNumber(fixedText(value, decimals));
+        if (!limitsOf(state.study, field).holds(rounded))
+            continue;
+        writeField(state, ref, rounded);
+        if (passed && !passesChecks(state.study))
+            writeField(state, ref, value);
     }
 }
 

@@ -16,7 +16,8 @@ enum class ArrowHold {
 void stepField(Session& session, FieldRef field, int direction, ArrowHold hold = ArrowHold::click);
 
 /// Changes the decimals of a field at all levels: the stored values are rounded to what is shown, but never
-/// to one that the field does not take. Throws ArithmeticFault.
+/// to one that the field does not take, or that would stop a computation that went on. Throws
+/// ArithmeticFault.
 void SETDECS(Session& session, const Field& field, int decimals);
 
 /// The same together with the step of the field's arrows, a setting of its own.
