@@ -70,11 +70,11 @@ void Design::writeModels() {
     const Study& s = study();
     writeEffect();
     writeDispersion();
-    writeOutcome();
-    writeCost();
     writeCells(session_.state(), session_.computation().models, screen_);
     writeStrip(s, screen_);
     writeTable(s, screen_);
+    writeOutcome();
+    writeCost();
     writeOtherForm(s, screen_);
     writeDiagnostics(s, screen_);
     writeWords(session_.state(), screen_);
@@ -104,7 +104,8 @@ void Design::writeDispersion() {
 }
 
 // The request stands in the place of the power whatever the mode. A gate before the power leaves the outlines
-// of the last problem, and so does arithmetic that could not go on.
+// of the last problem, and so does arithmetic that could not go on. It comes after the cells, since an
+// outline asks which of them are shown.
 void Design::writeOutcome() {
     const ComputeOutcome& outcome = session_.computation().outcome;
     problems_.pnlErr.Caption = outcome.problem.message;

@@ -51,8 +51,8 @@ public:
     /// open by itself during a tick of a held arrow; its release asks for a refresh. Throws ArithmeticFault.
     void Spin(FieldRef field, int direction, ArrowHold hold = ArrowHold::click);
 
-    /// Draws an outline around the rectangle between two controls, and takes it away again. A computation
-    /// clears those of number 2 to 6.
+    /// Draws an outline around the rectangle between two controls, where they are shown, and takes it away
+    /// again. A computation clears those of number 2 to 6.
     void outline(int number, std::string from, std::string to) {
         screen_.OutlineProblem(number, problemColour, std::move(from), std::move(to));
     }

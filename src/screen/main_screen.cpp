@@ -63,7 +63,8 @@ const OutlinedCells outlinedCells[] = {{"pnlLevel", {"pnlQ", "pnlRsq", "pnlNT", 
                                        {"pnlCostT", {"pnlCostT", "pnlCostC", "pnlCostB"}},
                                        {"pnlEffectSize", {"pnlD", "pnlOR", "pnlRR", "pnlRD", "pnlP2"}}};
 
-std::vector<std::string> cellsBetween(const std::string& from, const std::string& to) {
+std::vector<std::string> cellsBetween(const MainScreen& screen, const std::string& from,
+                                      const std::string& to) {
     const IndexedName first = splitName(from);
     const int a = first.index.value_or(0), b = splitName(to).index.value_or(0);
     std::vector<std::string> names;
@@ -71,8 +72,10 @@ std::vector<std::string> cellsBetween(const std::string& from, const std::string
         if (outlined.from != first.stem)
             continue;
         for (int level = std::min(a, b); level <= std::max(a, b); ++level) {
-            for (const char* cell : outlined.cells)
-                names.push_back(level == 0 ? cell : indexedName(cell, level));
+            for (const char* cell : outlined.cells) {
+                if (screen.cell(cell, level).Visible)
+                    names.push_back(level == 0 ? cell : indexedName(cell, level));
+            }
         }
     }
     return names;
@@ -188,8 +191,9 @@ void MainScreen::reset() {
 }
 
 void MainScreen::OutlineProblem(int number, const Colour& colour, std::string from, std::string to) {
-    std::vector<std::string> around = cellsBetween(from, to);
-    outlines(number) = {true, colour, std::move(from), std::move(to), std::move(around)};
+    std::vector<std::string> around = cellsBetween(*this, from, to);
+    const bool shown = !around.empty();
+    outlines(number) = {shown, colour, std::move(from), std::move(to), std::move(around)};
 }
 
 const Cell& MainScreen::cell(std::string_view stem, int level) const {

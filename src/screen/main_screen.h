@@ -65,7 +65,7 @@ struct Outline {
     Colour colour;
     std::string from;
     std::string to;
-    std::vector<std::string> around;
+    std::vector<std::string> around;  ///< those that were shown when it was drawn
 };
 
 /// A column of the table: its key for help and menus, its heading, and whether it is shown.
@@ -156,7 +156,8 @@ struct MainScreen {
     /// A cell by the stem of its panel, "pnlNT", and the level; 0 for a cell of the strip. It must exist.
     const Cell& cell(std::string_view stem, int level = 0) const;
 
-    /// Draws outline number around the rectangle between two controls.
+    /// Draws outline number around what is shown of the rectangle between two controls; where nothing is,
+    /// the outline goes.
     void OutlineProblem(int number, const Colour& colour, std::string from, std::string to);
 
     /// Enters every display model under its name.

@@ -25,6 +25,22 @@ TEST_F(Screen, CellsOfARow) {
     }
 }
 
+/// Levels 1 and 2 of a binary study in ICCs: covariates at level 2 alone, no span, no third level.
+TEST(Outlines, GoAroundWhatIsShown) {
+    using Cells = std::vector<std::string>;
+    StudyBench bench;
+    bench.play("DataType=2 ICC_Metric=1");
+    for (const auto& [from, to, around] : {std::tuple{"pnlQ(2)", "pnlRsq(1)", Cells{"pnlQ(2)", "pnlRsq(2)"}},
+                                           {"pnlICC(2)", "pnlICC(2)", Cells{"pnlICC(2)"}},
+                                           {"pnlEffectSize", "pnlEffectSize", Cells{"pnlOR"}},
+                                           {"pnlQ(1)", "pnlRsq(1)", Cells{}},
+                                           {"pnlLevel(3)", "pnlRsq(3)", Cells{}}}) {
+        bench.design.outline(7, from, to);
+        EXPECT_EQ(bench.design.screen().outlines(7).around, around) << from;
+        EXPECT_EQ(bench.design.screen().outlines(7).Visible, !around.empty()) << from;
+    }
+}
+
 /// A study from a file may hold an empty arm; an unusable ICC keeps the formula from meeting it.
 TEST_F(Screen, ArithmeticFaultShowsTheEntryAndTheNextGoodEditRecovers) {
     load("txtNT(1)=0 txtNC(1)=0 ICC_Metric=1 txtICC(2)=1 txtd=0.5");
