@@ -97,7 +97,7 @@ void Design::writeEffect() {
 
 void Design::writeDispersion() {
     const Computation& computation = session_.computation();
-    spreadICC_ = iccTable(study(), computation.icc.sumIsGood);
+    spreadICC_ = iccTable(study(), computation.icc);
     writeIccPanel(study(), computation.icc, iccPanel_);
     spreadTauSq_ = tauSqTable(study());
     writeTauSqPanel(study(), computation.tauSq, display().ShowOmega, tauSqPanel_);

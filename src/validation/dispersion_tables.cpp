@@ -6,7 +6,6 @@
 
 #include "base/number_text.h"
 #include "validation/effect_dispersion.h"
-#include "validation/icc_span.h"
 
 namespace lorvane {
 
@@ -54,16 +53,18 @@ Limits limitsOfEffect(const Study& s, double span) {
     return oddsRatio ? Limits{std::exp(limits.lower), std::exp(limits.upper)} : limits;
 }
 
-Grid::Row iccCells(const Study& s, int level, bool sumIsGood) {
+Grid::Row iccCells(const Study& s, int level, const IccVerdict& verdict) {
     using enum IccColumn;
     Grid::Row cells(iccColumns);
     const IccRow row = iccRow(s, level);
     cell(cells, Level) = s.txtName(level);
-    if (!row.told || !sumIsGood)
+    if (!row.told || !(verdict.areInStep || verdict.sumIsGood))
         return cells;
-    const int decimals = s.isMeans() ? 2 : 3;
     cell(cells, ICCW) = shortestText(row.share);
     cell(cells, PctW) = shortestText(100 * row.share);
+    if (!verdict.sumIsGood)
+        return cells;
+    const int decimals = s.isMeans() ? 2 : 3;
     cell(cells, SDW) = shortestText(row.SD);
     cell(cells, VarW) = shortestText(row.SD * row.SD);
     cell(cells, SpanW) = shortestText(spanOfOneSd * row.SD);
@@ -177,10 +178,10 @@ Grid LoadSpreadTauSq() {
               "UL", "Example", "Omega"}}};
 }
 
-Grid iccTable(const Study& study, bool sumIsGood) {
+Grid iccTable(const Study& study, const IccVerdict& verdict) {
     Grid table = LoadSpreadICC();
     for (int level = study.NumLevels; level >= 1; --level)
-        table.rows.push_back(iccCells(study, level, sumIsGood));
+        table.rows.push_back(iccCells(study, level, verdict));
     return table;
 }
 

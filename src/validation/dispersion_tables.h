@@ -4,6 +4,7 @@
 
 #include "engine/study.h"
 #include "platform/controls.h"
+#include "validation/icc_span.h"
 
 namespace lorvane {
 
@@ -78,10 +79,11 @@ TauSqRow tauSqRow(const Study& study, int level);
 Grid LoadSpreadICC();
 Grid LoadSpreadTauSq();
 
-/// The tables with one row a level, the top level first. Numbers stand in their shortest text. A dispersion
-/// that cannot be told (a bad sum of the ICCs, an effect dispersion that is not valid) leaves the names of
-/// the levels alone; the effect table of a hierarchical design has its headings alone.
-Grid iccTable(const Study& study, bool sumIsGood);
+/// The tables with one row a level, the top level first. Numbers stand in their shortest text. ICCs whose sum
+/// is out of range leave the names of the levels and, where the spans led to them, their shares; an effect
+/// dispersion that is not valid leaves the names alone. The effect table of a hierarchical design has its
+/// headings alone.
+Grid iccTable(const Study& study, const IccVerdict& verdict);
 Grid tauSqTable(const Study& study);
 
 }  // namespace lorvane

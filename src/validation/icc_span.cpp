@@ -262,14 +262,15 @@ ShiftedRange GetRange(double mean, double span) {
 IccVerdict SynchICC(Study& study) {
     study.limits.txtDelta = std::clamp(study.limits.txtDelta, smallestDelta, largestDelta);
     ComputeES(study);
-    if (study.result.ValidES) {
+    bool possible = study.result.ValidES;
+    if (possible) {
         trustAll(study.outcome);
-        const bool possible =
-            study.IccMetric != IccMetrics::icc || (GetOkICC(study) && GetOkICCTreatment(study));
-        if (possible)
-            convert(study);
+        possible = study.IccMetric != IccMetrics::icc || (GetOkICC(study) && GetOkICCTreatment(study));
     }
-    const IccVerdict verdict = Verdict(study).judge();
+    if (possible)
+        convert(study);
+    IccVerdict verdict = Verdict(study).judge();
+    verdict.areInStep = possible;
     copyToLimits(study);
     return verdict;
 }

@@ -21,6 +21,7 @@ struct IccVerdict {
     IccMessage message = IccMessage::none;
     int level = 0;            ///< level that the message is about, where it is about one
     bool offerDelta = false;  ///< the limits of the risks would help
+    bool areInStep = false;   ///< ICC and span follow from each other, so the table can tell the shares
     bool sumIsGood = false;   ///< GetOkICC held, so the table can be filled
 };
 
