@@ -49,7 +49,7 @@ DispersionView::DispersionView(Desk& desk, ToolPanel* panel, Menus& menus, const
                                WindowId window, DispersionModel model)
     : PanelView(desk, panel, name), menus_(menus), window_(window), model_(std::move(model)),
       sentence_(styled(TextStyle::BodyMedium)), plot_(new SpanPlot), footer_(styled(TextStyle::Caption)),
-      message_(new MessageCard) {
+      note_(styled(TextStyle::Caption)), message_(new MessageCard) {
     auto* grid = new QGridLayout;
     grid->setHorizontalSpacing(18);
     grid->setVerticalSpacing(0);
@@ -65,8 +65,9 @@ DispersionView::DispersionView(Desk& desk, ToolPanel* panel, Menus& menus, const
     auto* box = panel->content();
     box->setSpacing(14);
     box->addLayout(grid);
-    for (QWidget* widget : {static_cast<QWidget*>(sentence_), static_cast<QWidget*>(plot_),
-                            static_cast<QWidget*>(footer_), static_cast<QWidget*>(message_)}) {
+    for (QWidget* widget :
+         {static_cast<QWidget*>(sentence_), static_cast<QWidget*>(plot_), static_cast<QWidget*>(footer_),
+          static_cast<QWidget*>(note_), static_cast<QWidget*>(message_)}) {
         widget->setFixedWidth(panelWidth);
         box->addWidget(widget);
     }
@@ -151,6 +152,8 @@ void DispersionView::syncPicture() {
     sentence_->setVisible(!rows.isEmpty());
     footer_->setText(shownText(picture.pnlFooter.Caption));
     footer_->setVisible(!rows.isEmpty());
+    note_->setText(shownText(picture.pnlNote.Caption));
+    note_->setVisible(!picture.pnlNote.Caption.empty());
 }
 
 void DispersionView::sync() {

@@ -71,6 +71,7 @@ private:
     QLabel* sentence_;
     SpanPlot* plot_;
     QLabel* footer_;
+    QLabel* note_;
     MessageCard* message_;
     std::vector<std::pair<PushButton*, const Button*>> buttons_;
 };

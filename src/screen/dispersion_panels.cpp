@@ -65,6 +65,9 @@ void writeIccTitles(const Study& s, IccPanel& panel) {
     panel.picture.pnlSchematic.Caption = "The " + group + (s.isMeans() ? "-group mean" : "-group risk") +
                                          " will vary across " + joinedNames(namesFrom(s, 2)) +
                                          " as shown here.";
+    const bool riskDifference = s.isBinary() && s.BinaryType == BinaryTypes::riskDifference;
+    panel.picture.pnlNote.Caption =
+        riskDifference ? "For a risk difference, the ICC is that of the " + group + " group." : "";
     panel.cmdDelta.Caption = "Limits of risks";
     panel.cmdOptions.Caption = "Enter limits";
     panel.cmdOptions.Visible = s.isBinary();
@@ -96,7 +99,7 @@ void writeIccScale(const Study& s, Schematic& picture) {
     picture.high = s.isMeans() ? s.txtMean + half : 1;
     picture.centre = s.isMeans() ? s.txtMean : s.txtPrev;
     picture.centreText = s.isMeans() ? "Mean " + fixedText(s.txtMean, s.decimals.txtMean)
-                                     : "Risk " + fixedText(s.txtPrev, std::max(s.decimals.txtPrev, 2));
+                                         : "Risk " + fixedText(s.txtPrev, std::max(s.decimals.txtPrev, 2));
 }
 
 bool anyTruncated(const Study& s) {
@@ -226,6 +229,7 @@ void writeTauSqBars(const Study& s, TauSqPanel& panel) {
 void registerPicture(ControlRegistry& registry, const std::string& window, const Schematic& picture) {
     registry.add(window + "pnlSchematic", picture.pnlSchematic);
     registry.add(window + "pnlFooter", picture.pnlFooter);
+    registry.add(window + "pnlNote", picture.pnlNote);
     registry.add(window + "Scale.Low", &picture.low);
     registry.add(window + "Scale.High", &picture.high);
     for (int level = lowestLevel; level <= highestLevel; ++level) {

@@ -31,6 +31,7 @@ struct Schematic {
     PerLevel<SpanBar> bars;
     Panel pnlSchematic;  ///< the sentence
     Panel pnlFooter;
+    Panel pnlNote;  ///< what else to know of the values; often empty
 };
 
 /// frmDisplayICC, the dispersion of the outcome.
