@@ -145,8 +145,8 @@ void DispersionView::syncPicture() {
             rows.append({shownText((*model_.units)(level).Caption), bar.low, bar.high, bar.isScores,
                          shownText(bar.lowText), shownText(bar.highText)});
     }
-    plot_->setContent(
-        rows, {picture.low, picture.high, marksOf(picture), picture.centre, shownText(picture.centreText)});
+    plot_->setContent(rows, {picture.low, picture.high, marksOf(picture), picture.centre,
+                             shownText(picture.pnlVal.Caption)});
     plot_->setVisible(!rows.isEmpty());
     sentence_->setText(shownText(picture.pnlSchematic.Caption));
     sentence_->setVisible(!rows.isEmpty());

@@ -48,10 +48,10 @@ std::optional<DetailText> textOf(const Study& s, DetailItem item, int row) {
     }
 }
 
-std::string joined(const std::vector<std::string>& paragraphs) {
+std::string joined(const std::vector<std::string>& parts, const char* between) {
     std::string text;
-    for (const std::string& paragraph : paragraphs)
-        text += (text.empty() ? "" : "\n\n") + paragraph;
+    for (const std::string& part : parts)
+        text += (text.empty() ? "" : between) + part;
     return text;
 }
 
@@ -96,7 +96,7 @@ void Details::fill() {
         return;
     pnlCover_.Visible = false;
     title_.Caption = text->title;
-    text_.Caption = joined(text->paragraphs);
+    text_.Caption = joined(text->paragraphs, "\n\n");
     showTabs();
 }
 
@@ -132,8 +132,13 @@ void Details::toggle() {
 }
 
 void Details::registerNames(ControlRegistry& registry) const {
-    registry.add("frmDetails.Title", title_);
-    registry.add("frmDetails.xDesc", text_);
+    for (const auto& [name, panel] : {std::pair{"frmDetails.Title", &title_},
+                                      {"frmDetails.xDesc", &text_},
+                                      {"frmDetails.yDesc", &yDesc_}}) {
+        registry.add(name, *panel);
+        registry.add(name, &panel->Caption);
+    }
+    registry.add("frmDetails.tabDetails", [this]() -> ControlValue { return joined(tabs(), "|"); });
     registry.add("frmDetails.pnlCover", pnlCover_);
     for (int level = lowestLevel; level <= highestLevel; ++level)
         registry.add(indexedName("frmDetails.tabDetails", level), tab(level));

@@ -68,6 +68,7 @@ private:
     int row_ = 0;
     Panel title_;
     Panel text_;
+    Panel yDesc_;  ///< the second text area; no item of this screen fills it
     Panel pnlCover_;
     PerLevel<Option> tabDetails_;
 };

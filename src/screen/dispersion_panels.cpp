@@ -68,6 +68,7 @@ void writeIccTitles(const Study& s, IccPanel& panel) {
     const bool riskDifference = s.isBinary() && s.BinaryType == BinaryTypes::riskDifference;
     panel.picture.pnlNote.Caption =
         riskDifference ? "For a risk difference, the ICC is that of the " + group + " group." : "";
+    panel.Command1.Caption = "Close";
     panel.cmdDelta.Caption = "Limits of risks";
     panel.cmdOptions.Caption = "Enter limits";
     panel.cmdOptions.Visible = s.isBinary();
@@ -98,7 +99,7 @@ void writeIccScale(const Study& s, Schematic& picture) {
     picture.low = s.isMeans() ? s.txtMean - half : 0;
     picture.high = s.isMeans() ? s.txtMean + half : 1;
     picture.centre = s.isMeans() ? s.txtMean : s.txtPrev;
-    picture.centreText = s.isMeans() ? "Mean " + fixedText(s.txtMean, s.decimals.txtMean)
+    picture.pnlVal.Caption = s.isMeans() ? "Mean " + fixedText(s.txtMean, s.decimals.txtMean)
                                          : "Risk " + fixedText(s.txtPrev, std::max(s.decimals.txtPrev, 2));
 }
 
@@ -206,7 +207,7 @@ double effectOf(const Study& s) {
 void writeTauSqBars(const Study& s, TauSqPanel& panel) {
     Schematic& picture = panel.picture;
     picture.centre = effectOf(s);
-    picture.centreText = "Effect " + fixedText(picture.centre, 2);
+    picture.pnlVal.Caption = "Effect " + fixedText(picture.centre, 2);
     double low = picture.centre, high = picture.centre;
     for (int level = 2; level <= highestLevel; ++level) {
         SpanBar& bar = picture.bars(level);
@@ -230,6 +231,7 @@ void registerPicture(ControlRegistry& registry, const std::string& window, const
     registry.add(window + "pnlSchematic", picture.pnlSchematic);
     registry.add(window + "pnlFooter", picture.pnlFooter);
     registry.add(window + "pnlNote", picture.pnlNote);
+    registry.add(window + "pnlVal", picture.pnlVal);
     registry.add(window + "Scale.Low", &picture.low);
     registry.add(window + "Scale.High", &picture.high);
     for (int level = lowestLevel; level <= highestLevel; ++level) {
@@ -292,6 +294,7 @@ void IccPanel::registerNames(ControlRegistry& registry) const {
     registerPicture(registry, window, picture);
     registry.add(window + "cmdDelta", cmdDelta);
     registry.add(window + "cmdOptions", cmdOptions);
+    registry.add(window + "Command1", Command1);
 }
 
 void TauSqPanel::registerNames(ControlRegistry& registry) const {

@@ -27,7 +27,7 @@ struct Schematic {
     double low = 0;  ///< left end of the scale
     double high = 1;
     double centre = 0;  ///< where the dashed line stands
-    std::string centreText;
+    Panel pnlVal;       ///< what stands there
     PerLevel<SpanBar> bars;
     Panel pnlSchematic;  ///< the sentence
     Panel pnlFooter;
@@ -50,6 +50,7 @@ struct IccPanel {
     Panel pnlMsgInner;
     Button cmdDelta;    ///< leads to the limits of the risks, where they would help
     Button cmdOptions;  ///< leads to the risks entered as limits
+    Button Command1;    ///< closes the panel, as its frame does
 
     void registerNames(ControlRegistry& registry) const;
 };

@@ -82,7 +82,7 @@ std::string pointNumber(double share) { return shortestText(share).substr(1); }
 SmallDialogs::SmallDialogs(Design& design)
     : design_(design), session_(design.session()), alpha_(makeAlpha()), delta_(makeDelta()),
       mean_(makeMean()), groupNames_(makeGroupNames()), levelNames_(makeLevelNames()), limits_(makeLimits()),
-      maxCost_(makeMaxCost()), example_(makeExample()), value_(makeValue()) {}
+      maxCost_(makeMaxCost()), example_(makeExample()), value_(makeValue()), error_(makeError()) {}
 
 Dialog SmallDialogs::makeAlpha() {
     return {"frmAlpha",
@@ -199,13 +199,17 @@ Dialog SmallDialogs::makeValue() {
             panel("Enter a value")};
 }
 
+Dialog SmallDialogs::makeError() {
+    return {"frmErr", std::nullopt, "pnlText", {}, {{"frmErr.Command1", "Close", [this] { close(error_); }}}};
+}
+
 // Windows
 // ------------------------------------------------------------------------------------------------------
 
 template <typename Self>
 auto SmallDialogs::listOf(Self& self) {
     return std::vector{&self.alpha_,  &self.delta_,   &self.mean_,    &self.groupNames_, &self.levelNames_,
-                       &self.limits_, &self.maxCost_, &self.example_, &self.value_};
+                       &self.limits_, &self.maxCost_, &self.example_, &self.value_,      &self.error_};
 }
 
 std::vector<Dialog*> SmallDialogs::dialogs() { return listOf(*this); }
@@ -521,6 +525,7 @@ void SmallDialogs::applyValue() {
 void SmallDialogs::registerNames(ControlRegistry& registry) const {
     for (const Dialog* dialog : all())
         dialog->registerNames(registry);
+    registry.add("frmErr.pnlTitle", error_.title);
     for (const RawTable* table : {&spreadICC_, &spreadTauSq_})
         registry.add(std::string(table->name) + ".Visible", &table->open);
 }
@@ -528,7 +533,7 @@ void SmallDialogs::registerNames(ControlRegistry& registry) const {
 void SmallDialogs::registerEvents(EventRegistry& events) {
     for (Dialog* dialog : dialogs())
         dialog->registerEvents(events, [this, dialog] { return isOpen(*dialog); });
-    for (Dialog* dialog : {&delta_, &mean_, &limits_, &maxCost_, &example_, &value_})
+    for (Dialog* dialog : {&delta_, &mean_, &limits_, &maxCost_, &example_, &value_, &error_})
         events.onClose(dialog->name, [this, dialog] { close(*dialog); });
     events.onClose("frmAlpha", [this] {
         closeAsking(alpha_, true, "Apply changes to alpha?          ", &SmallDialogs::applyAlpha);
@@ -543,6 +548,8 @@ void SmallDialogs::registerEvents(EventRegistry& events) {
         events.onClose(table->name, [table] { table->open = false; });
     events.onClick("frmDisplayICC.cmdDelta", [this] { openDelta(); });
     events.onClick("frmDisplayICC.cmdOptions", [this] { openLimits(); });
+    events.onClick("frmDisplayICC.Command1",
+                   [this] { design_.SynchForms(WindowId::frmDisplayICC, WindowAction::withdrawForGood); });
 }
 
 }  // namespace lorvane

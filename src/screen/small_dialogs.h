@@ -65,6 +65,7 @@ private:
     Dialog makeMaxCost();
     Dialog makeExample();
     Dialog makeValue();
+    Dialog makeError();
 
     void applyAlpha();
     void applyDelta();
@@ -93,6 +94,7 @@ private:
     Design& design_;
     Session& session_;
     Dialog alpha_, delta_, mean_, groupNames_, levelNames_, limits_, maxCost_, example_, value_;
+    Dialog error_;  ///< a plain panel; no computation writes to it
     FieldRef valueField_;
     RawTable spreadICC_{"frmSpreadICC", "Table of the ICC"};
     RawTable spreadTauSq_{"frmSpreadTauSq", "Table of the effects"};
