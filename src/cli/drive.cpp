@@ -10,6 +10,7 @@
 #include <vector>
 
 #include "base/arithmetic_fault.h"
+#include "base/failure_words.h"
 #include "base/names.h"
 #include "base/number_text.h"
 #include "cli/json_text.h"
@@ -220,13 +221,20 @@ Json grid(Session& session, ScriptWords& words) {
                      nearestName(name, registry.gridNames()) + "\".");
 }
 
+std::string needPath(ScriptWords& words) {
+    std::string path = words.rest();
+    if (path.empty())
+        throw UseProblem("A path is missing.");
+    return path;
+}
+
 Json save(Session& session, ScriptWords& words) {
-    session.application.save(words.rest());
+    session.application.save(needPath(words));
     return done();
 }
 
 Json open(Session& session, ScriptWords& words) {
-    session.application.open(words.rest());
+    session.application.open(needPath(words));
     return done();
 }
 
@@ -288,19 +296,7 @@ Json run(Session& session, std::string_view line) {
     throw UseProblem("There is no command \"" + name + "\".");
 }
 
-Json errorOf(const std::exception& problem) { return {{"error", problem.what()}}; }
-
-Json runOrError(Session& session, std::string_view line) {
-    try {
-        return run(session, line);
-    } catch (const UseProblem& problem) {
-        return errorOf(problem);
-    } catch (const FileProblem& problem) {
-        return errorOf(problem);
-    } catch (const ArithmeticFault& fault) {
-        return errorOf(fault);
-    }
-}
+std::string errorOf(const std::string& words) { return jsonText({{"error", words}}); }
 
 }  // namespace
 
@@ -308,7 +304,17 @@ std::string answerTo(std::string_view line, DriveSession& session) {
     const std::string_view command = trimmed(line);
     if (command.empty() || command.front() == '#')
         return "";
-    return jsonText(runOrError(session, command));
+    try {
+        return jsonText(run(session, command));
+    } catch (const UseProblem& problem) {
+        return errorOf(problem.what());
+    } catch (const FileProblem& problem) {
+        return errorOf(problem.what());
+    } catch (const ArithmeticFault& fault) {
+        return errorOf(fault.what());
+    } catch (...) {
+        return errorOf(failureWords());
+    }
 }
 
 void drive(std::istream& in, std::ostream& out, DriveSession& session) {

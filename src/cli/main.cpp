@@ -2,9 +2,11 @@
 #include <CLI/CLI.hpp>
 #include <functional>
 #include <iostream>
+#include <system_error>
 
 #include "app/application.h"
 #include "base/arithmetic_fault.h"
+#include "base/failure_words.h"
 #include "cli/commands.h"
 #include "cli/drive.h"
 #include "cli/mdes_command.h"
@@ -129,14 +131,12 @@ int runChosen(const CLI::App& cli, const Requests& requests) {
     return printScenarios(requests.scenarios, line);
 }
 
-int failed(int code, const std::exception& problem) {
-    std::cerr << problem.what() << '\n';
+int failed(int code, const std::string& words) {
+    std::cerr << words << '\n';
     return code;
 }
 
-}  // namespace
-
-int main(int argc, char** argv) {
+int run(int argc, char** argv) {
     CLI::App cli("Lorvane plans cluster-randomized trials: power and cost of designs of two to four levels.",
                  "lorvane-cli");
     Requests requests;
@@ -156,13 +156,26 @@ int main(int argc, char** argv) {
     } catch (const CLI::ParseError& error) {
         return cli.exit(error) == 0 ? ExitCodes::done : ExitCodes::wrongUse;
     }
+    return runChosen(cli, requests);
+}
+
+// Whatever happens ends in one sentence.
+int runOrTell(int argc, char** argv) {
     try {
-        return runChosen(cli, requests);
+        return run(argc, argv);
     } catch (const UseProblem& problem) {
-        return failed(ExitCodes::wrongUse, problem);
+        return failed(ExitCodes::wrongUse, problem.what());
     } catch (const FileProblem& problem) {
-        return failed(ExitCodes::fileFailed, problem);
+        return failed(ExitCodes::fileFailed, problem.what());
     } catch (const ArithmeticFault& fault) {
-        return failed(ExitCodes::noAnswer, fault);
+        return failed(ExitCodes::noAnswer, fault.what());
+    } catch (const std::system_error&) {
+        return failed(ExitCodes::fileFailed, failureWords());
+    } catch (...) {
+        return failed(ExitCodes::noAnswer, failureWords());
     }
 }
+
+}  // namespace
+
+int main(int argc, char** argv) { return runOrTell(argc, argv); }

@@ -2,6 +2,7 @@
 #include "persistence/study_store.h"
 
 #include <filesystem>
+#include <system_error>
 #include <vector>
 
 #include "base/names.h"
@@ -20,8 +21,10 @@ constexpr const char* templateName = "/Template Means.Lorvane";
 StudyStore::StudyStore(FileStore& files, const std::string& programFolder)
     : files_(files), template_(programFolder + templateName) {}
 
+// A path that leads nowhere, as an empty one or one from a folder that is gone, is not the template's.
 bool StudyStore::isTemplate(const std::string& path) const {
-    return std::filesystem::absolute(path).lexically_normal() == template_;
+    std::error_code error;
+    return std::filesystem::absolute(path, error).lexically_normal() == template_;
 }
 
 void StudyStore::open(Session& session, const std::string& path) const {

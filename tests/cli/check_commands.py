@@ -128,6 +128,23 @@ def check_failures(folder):
         assert code == 3 and words in err and len(err.splitlines()) == 1 and out == "", (arguments, code, err)
 
 
+def check_paths_that_lead_nowhere(folder):
+    """An empty path, and a relative one in a folder that is gone, are told in a sentence."""
+    code, out, err = run("power", "")
+    assert code == 3 and out == "" and len(err.splitlines()) == 1 and "no name" in err, (code, err)
+    gone = Path(folder) / "gone"
+    gone.mkdir()
+    script = 'rmdir "$1"; shift; exec "$@"'
+    for arguments, code in ((["power", "study.Lorvane"], 3), (["new", "--out", "study.Lorvane"], 3), (["drive"], 0)):
+        gone.mkdir(exist_ok=True)
+        done = subprocess.run(["sh", "-c", script, "sh", str(gone), PROGRAM, *arguments], cwd=gone, text=True,
+                              input="open\nopen x\nsave x\nopen \"\"\nget txtd\n", capture_output=True, timeout=60)
+        assert done.returncode == code and len(done.stderr.splitlines()) == (code != 0), (arguments, done)
+    answers = [json.loads(line) for line in done.stdout.splitlines()]
+    assert [list(answer) for answer in answers] == [["error"]] * 4 + [["txtd"]], answers
+    assert answers[0] == answers[3] == {"error": "A path is missing."} and '"x"' in answers[1]["error"], answers
+
+
 def check_help():
     for arguments in [["--help"], ["power", "--help"], ["new", "--help"], ["scenarios", "--help"], ["drive", "--help"],
                       ["optimal", "--help"], ["mdes", "--help"]]:
@@ -141,6 +158,7 @@ def main():
         check_answers(folder)
         check_failures(folder)
         check_optimal(folder)
+        check_paths_that_lead_nowhere(folder)
     check_mdes()
     check_examples()
     check_new_study()

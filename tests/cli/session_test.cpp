@@ -77,6 +77,22 @@ TEST_P(Session, AnswersAsItMust) {
     EXPECT_GT(checked, 0);
 }
 
+// What nobody foresaw is answered as well, and the session goes on.
+TEST(DriveTest, AnswersEveryFailureAndGoesOn) {
+    TestPlatform outside;
+    Application application(outside.platform());
+    DriveSession session{application, outside.library, outside.messages};
+    const std::function<void()> failures[] = {[] { throw std::bad_alloc(); },
+                                              [] { throw std::filesystem::filesystem_error("", {}); },
+                                              [] { throw 5; }};
+    for (const auto& failure : failures) {
+        outside.files.onUse = failure;
+        const std::string answer = answerTo("open x", session);
+        EXPECT_TRUE(answer.starts_with("{\"error\":\"") && answer.ends_with("try again.\"}")) << answer;
+    }
+    EXPECT_EQ(answerTo("get txtd", session), "{\"txtd\":0}");
+}
+
 std::vector<std::filesystem::path> scripts() {
     std::vector<std::filesystem::path> paths;
     for (const auto& entry : std::filesystem::directory_iterator(LORVANE_SESSIONS)) {

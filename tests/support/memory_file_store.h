@@ -1,6 +1,7 @@
 // Files kept in memory.
 #pragma once
 
+#include <functional>
 #include <map>
 
 #include "platform/file_store.h"
@@ -11,8 +12,10 @@ class MemoryFileStore final : public FileStore {
 public:
     std::map<std::string, std::string> files;
     bool full = false;
+    std::function<void()> onUse = [] {};  ///< before a file is read or replaced
 
     std::string read(const std::string& path, std::size_t largest) const override {
+        onUse();
         const auto found = files.find(path);
         if (found == files.end() || found->second.size() > largest)
             throw FileProblem("The file \"" + path + "\" cannot be read.");
@@ -22,6 +25,7 @@ public:
     bool exists(const std::string& path) const override { return files.contains(path); }
 
     void replace(const std::string& path, std::string_view content) override {
+        onUse();
         if (full)
             throw FileProblem("The file \"" + path + "\" cannot be written.");
         files[path] = content;

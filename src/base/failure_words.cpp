@@ -1,0 +1,33 @@
+// Sentences for failures of the system and of the library.
+#include "base/failure_words.h"
+
+#include <exception>
+#include <new>
+#include <system_error>
+
+namespace lorvane {
+
+namespace {
+
+std::string sentence(const std::string& why) {
+    return "Something unforeseen went wrong (" + why +
+           "); check the names and folders that it uses, save your work, and try again.";
+}
+
+}  // namespace
+
+std::string failureWords() {
+    try {
+        throw;
+    } catch (const std::bad_alloc&) {
+        return "There is not enough memory for this; save your work, close other programs, and try again.";
+    } catch (const std::system_error& error) {
+        return sentence(error.code().message());
+    } catch (const std::exception& problem) {
+        return sentence(problem.what());
+    } catch (...) {
+        return sentence("no reason was given");
+    }
+}
+
+}  // namespace lorvane
