@@ -319,7 +319,7 @@ std::string answerTo(std::string_view line, DriveSession& session) {
 
 void drive(std::istream& in, std::ostream& out, DriveSession& session) {
     std::string line;
-    while (std::getline(in, line)) {
+    while (out && std::getline(in, line)) {
         const std::string answer = answerTo(line, session);
         if (!answer.empty())
             out << answer << '\n' << std::flush;

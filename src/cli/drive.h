@@ -21,7 +21,8 @@ struct DriveSession {
 /// {"error": ...} and changes nothing. Empty for a blank line and a comment, which are not answered.
 std::string answerTo(std::string_view line, DriveSession& session);
 
-/// Reads commands to the end of the input and answers each at once.
+/// Reads commands to the end of the input and answers each at once. Ends earlier when an answer cannot be
+/// written; the state of the output tells.
 void drive(std::istream& in, std::ostream& out, DriveSession& session);
 
 }  // namespace lorvane

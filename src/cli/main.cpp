@@ -1,5 +1,6 @@
 // lorvane-cli: the program without a screen.
 #include <CLI/CLI.hpp>
+#include <csignal>
 #include <functional>
 #include <iostream>
 #include <system_error>
@@ -178,4 +179,12 @@ int runOrTell(int argc, char** argv) {
 
 }  // namespace
 
-int main(int argc, char** argv) { return runOrTell(argc, argv); }
+// A reader that goes away early is told of like a full disk, not by a silent end.
+int main(int argc, char** argv) {
+    std::signal(SIGPIPE, SIG_IGN);
+    const int code = runOrTell(argc, argv);
+    if (std::cout.flush())
+        return code;
+    return failed(ExitCodes::fileFailed, "The answer cannot be written to standard output; check that its "
+                                         "reader goes on reading or that its disk has room.");
+}

@@ -1,6 +1,7 @@
 """Runs lorvane-cli as a person or a script would: arguments in, exit code and streams out."""
 
 import json
+import os
 import subprocess
 import sys
 import tempfile
@@ -145,6 +146,29 @@ def check_paths_that_lead_nowhere(folder):
     assert answers[0] == answers[3] == {"error": "A path is missing."} and '"x"' in answers[1]["error"], answers
 
 
+def check_output(folder):
+    """An answer that cannot be written is an error of its own, whatever the command."""
+    commands = [["--help"], ["--version"], ["power", STUDY], ["power", STUDY, "--json"], ["optimal", STUDY],
+                ["mdes", STUDY], ["scenarios", STUDY], ["new", "--out", str(Path(folder) / "x.Lorvane")],
+                ["drive", STUDY], ["power", STUDY, "--set", "txtNB(3)=1"]]
+    for arguments in commands:
+        read, write = os.pipe()
+        os.close(read)
+        for out in (os.open("/dev/full", os.O_WRONLY), write):
+            done = subprocess.run([PROGRAM, *arguments], input="get txtd\n" * 9, stdout=out, stderr=subprocess.PIPE,
+                                  text=True, timeout=60)
+            os.close(out)
+            told = done.stderr.splitlines()
+            assert done.returncode == 3 and told[-1].startswith("The answer cannot be written"), (arguments, done)
+    endless = subprocess.Popen([PROGRAM, "drive"], stdin=subprocess.PIPE, stdout=subprocess.PIPE,
+                               stderr=subprocess.PIPE, text=True, bufsize=1)
+    endless.stdout.close()
+    endless.stdin.write("get txtd\n")
+    assert endless.wait(timeout=20) == 3, "a session ends with its reader, though more commands may come"
+    endless.stdin.close()
+    endless.stderr.close()
+
+
 def check_help():
     for arguments in [["--help"], ["power", "--help"], ["new", "--help"], ["scenarios", "--help"], ["drive", "--help"],
                       ["optimal", "--help"], ["mdes", "--help"]]:
@@ -159,6 +183,7 @@ def main():
         check_failures(folder)
         check_optimal(folder)
         check_paths_that_lead_nowhere(folder)
+        check_output(folder)
     check_mdes()
     check_examples()
     check_new_study()
