@@ -7,6 +7,7 @@
 #include <QVBoxLayout>
 #include <utility>
 
+#include "desktop/kit/plain_text.h"
 #include "desktop/kit/push_button.h"
 #include "desktop/kit/text_field.h"
 #include "desktop/kit/text_style.h"
@@ -96,7 +97,7 @@ void DialogView::prepareClose() {
 }
 
 void DialogView::sync() {
-    panel()->setWindowTitle(shownText(model_.title.Caption));
+    panel()->setWindowTitle(literalTitle(shownText(model_.title.Caption)));
     heading_->setText(shownText(model_.title.Caption));
     sense_->setText(shownText(model_.sense.Caption));
     limits_->setText(shownText(model_.note.Caption));

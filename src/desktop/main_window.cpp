@@ -19,6 +19,7 @@
 
 #include "desktop/effect_strip.h"
 #include "desktop/kit/figure_card.h"
+#include "desktop/kit/plain_text.h"
 #include "desktop/kit/text_style.h"
 #include "desktop/level_table.h"
 #include "desktop/menus.h"
@@ -187,7 +188,7 @@ void MainWindow::syncCost() {
 
 void MainWindow::sync() {
     const MainScreen& screen = desk_.design().screen();
-    setWindowTitle(shownText(desk_.design().SetCaption()));
+    setWindowTitle(literalTitle(shownText(desk_.design().SetCaption())));
     title_->setText(shownText(screen.pnlTitle.Caption));
     sense_->setText(shownText(screen.pnlSense.Caption));
     strip_->sync();

@@ -54,6 +54,7 @@ QLabel* line() {
 
 // Word-wrapped labels ask for too little height when a window is fitted to them.
 void setLine(QLabel* label, const std::string& text) {
+    label->ensurePolished();
     label->setText(shownText(text));
     if (!text.empty())
         label->setFixedHeight(label->heightForWidth(lineWidth));

@@ -8,6 +8,7 @@
 
 #include "base/names.h"
 #include "desktop/kit/icons.h"
+#include "desktop/kit/plain_text.h"
 #include "desktop/kit/text_style.h"
 #include "desktop/kit/theme.h"
 
@@ -142,7 +143,7 @@ void DetailsView::syncTabs() {
         const int tab = static_cast<int>(levels_.size());
         if (tab >= tabs_->count())
             tabs_->addTab(QString());
-        tabs_->setTabText(tab, shownText(model.Caption));
+        tabs_->setTabText(tab, literalCaption(shownText(model.Caption)));
         current = model.Value ? tab : current;
         levels_.push_back(level);
     }

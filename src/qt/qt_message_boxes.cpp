@@ -42,6 +42,7 @@ Answer QtMessageBoxes::show(const MessageBox& message) {
     QMessageBox box(owner_);
     box.setIcon(QMessageBox::Information);
     box.setWindowTitle(QString::fromStdString(message.title));
+    box.setTextFormat(Qt::PlainText);
     box.setText(QString::fromStdString(message.text));
     QMessageBox::StandardButtons buttons;
     for (const Answer answer : message.buttons)

@@ -7,6 +7,7 @@
 
 #include "desktop/kit/icons.h"
 #include "desktop/kit/painting.h"
+#include "desktop/kit/plain_text.h"
 #include "desktop/kit/theme.h"
 
 namespace lorvane::desktop {
@@ -81,6 +82,11 @@ constexpr Metric Metrics[] = {
 }  // namespace
 
 KitStyle::KitStyle() : QProxyStyle(QStringLiteral("Fusion")) {}
+
+void KitStyle::polish(QWidget* widget) {
+    keepPlain(*widget);
+    QProxyStyle::polish(widget);
+}
 
 int KitStyle::pixelMetric(PixelMetric metric, const QStyleOption* option, const QWidget* widget) const {
     for (const Metric& own : Metrics)

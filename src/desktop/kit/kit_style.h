@@ -1,4 +1,5 @@
-// The application style: Fusion, with radio and check signs that keep their outline in the dark set.
+// The application style: Fusion, with radio and check signs that keep their outline in the dark set, and with
+// labels that are plain.
 #pragma once
 
 #include <QProxyStyle>
@@ -12,6 +13,10 @@ class KitStyle : public QProxyStyle {
 
 public:
     KitStyle();
+
+    /// Makes labels plain.
+    using QProxyStyle::polish;
+    void polish(QWidget* widget) override;
 
     /// The size of the signs and their distance from the words, and their painting.
     int pixelMetric(PixelMetric metric, const QStyleOption* option, const QWidget* widget) const override;

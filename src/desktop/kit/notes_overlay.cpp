@@ -86,20 +86,20 @@ protected:
     }
 };
 
-QString paragraphs(const QString& text) {
-    QString html;
-    for (const QString& paragraph : text.split(QStringLiteral("\n\n"), Qt::SkipEmptyParts))
-        html +=
-            QStringLiteral("<p style='margin:%1px 0 0 0'>%2</p>")
-                .arg(html.isEmpty() ? 0 : ParagraphGap)
-                .arg(paragraph.trimmed().toHtmlEscaped().replace(QLatin1Char('\n'), QLatin1String("<br>")));
-    return html;
+QLabel* paragraph(const QString& text, QWidget* parent) {
+    auto* label = new QLabel(text, parent);
+    label->setTextFormat(Qt::PlainText);
+    label->setFont(textFont(TextStyle::Body));
+    label->setWordWrap(true);
+    label->setFixedSize(TextWidth, label->heightForWidth(TextWidth));
+    label->show();
+    return label;
 }
 
 }  // namespace
 
 NotesOverlay::NotesOverlay(QWidget* covered)
-    : QWidget(covered), title_(new QLabel), text_(new QLabel), scroll_(new QScrollArea),
+    : QWidget(covered), title_(new QLabel), text_(new QWidget), scroll_(new QScrollArea),
       button_(plainButton(tr("Close notes"))), sign_(nullptr), sheet_(makeSheet()) {
     hide();
     setAttribute(Qt::WA_NoSystemBackground);
@@ -121,15 +121,12 @@ QWidget* NotesOverlay::makeSheet() {
     title_->setFont(textFont(TextStyle::PanelHeading));
     head->addWidget(title_, 1);
     head->addWidget(sign);
-    text_->setFont(textFont(TextStyle::Body));
-    text_->setWordWrap(true);
-    text_->setAlignment(Qt::AlignTop);
     text_->setFixedWidth(TextWidth);
     scroll_->setWidget(text_);
     scroll_->setFrameShape(QFrame::NoFrame);
     scroll_->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     scroll_->setFocusPolicy(Qt::NoFocus);
-    for (QWidget* part : {static_cast<QWidget*>(scroll_), scroll_->viewport(), static_cast<QWidget*>(text_)})
+    for (QWidget* part : {static_cast<QWidget*>(scroll_), scroll_->viewport(), text_})
         part->setAutoFillBackground(false);
     auto* box = new QVBoxLayout(sheet);
     box->setContentsMargins(Padding, 11, Padding, Padding - 1);
@@ -146,9 +143,23 @@ QWidget* NotesOverlay::makeSheet() {
 void NotesOverlay::setNotes(const QString& title, const QString& text) {
     title_->setText(title);
     setAccessibleName(title);
-    text_->setText(paragraphs(text));
+    setText(text);
     if (isVisible())
         arrange();
+}
+
+void NotesOverlay::setText(const QString& text) {
+    if (text == shown_)
+        return;
+    shown_ = text;
+    qDeleteAll(text_->findChildren<QLabel*>());
+    int top = 0;
+    for (const QString& words : text.split(QStringLiteral("\n\n"), Qt::SkipEmptyParts)) {
+        QLabel* label = paragraph(words.trimmed(), text_);
+        label->move(0, top);
+        top += label->height() + ParagraphGap;
+    }
+    text_->setFixedHeight(std::max(0, top - ParagraphGap));
 }
 
 void NotesOverlay::setButton(const QString& words) { button_->setText(words); }
@@ -156,7 +167,6 @@ void NotesOverlay::setButton(const QString& words) { button_->setText(words); }
 /// The sheet stands in the middle; notes longer than the window scroll within it.
 void NotesOverlay::arrange() {
     setGeometry(parentWidget()->rect());
-    text_->setFixedHeight(text_->heightForWidth(TextWidth));
     scroll_->setFixedHeight(0);
     const int frame = sheet_->sizeHint().height();
     scroll_->setFixedHeight(std::clamp(height() - 2 * SpaceAround - frame, 60, text_->height()));

@@ -44,11 +44,13 @@ protected:
 
 private:
     QWidget* makeSheet();
+    void setText(const QString& text);
     void arrange();
     void keepFocus(QWidget* now);
 
     QLabel* title_;
-    QLabel* text_;
+    QWidget* text_;  ///< the paragraphs
+    QString shown_;
     QScrollArea* scroll_;
     PushButton* button_;
     QWidget* sign_;
