@@ -8,6 +8,7 @@
 
 #include "base/names.h"
 #include "base/number_text.h"
+#include "desktop/kit/elided_label.h"
 #include "desktop/kit/message_card.h"
 #include "desktop/kit/push_button.h"
 #include "desktop/kit/span_plot.h"
@@ -21,6 +22,7 @@ namespace {
 
 constexpr int panelWidth = 560;
 constexpr int rowHeight = 42;
+constexpr int widestUnit = 130;
 constexpr int marks = 5;
 
 QLabel* styled(TextStyle style) {
@@ -95,7 +97,8 @@ ValueCell* DispersionView::addCell(const PanelColumn& column, int level) {
 
 void DispersionView::addRow(QGridLayout* grid, int level) {
     const int line = highestLevel - level + 1;
-    Row row{level, styled(TextStyle::BodyStrong), {}};
+    Row row{level, new ElidedLabel(widestUnit), {}};
+    row.unit->setFont(textFont(TextStyle::BodyStrong));
     grid->addWidget(row.unit, line, 0);
     for (std::size_t column = 0; column < model_.columns.size(); ++column) {
         row.cells.push_back(addCell(model_.columns[column], level));

@@ -6,6 +6,7 @@
 #include <QVBoxLayout>
 #include <algorithm>
 
+#include "desktop/kit/elided_label.h"
 #include "desktop/kit/menu_button.h"
 #include "desktop/kit/number_label.h"
 #include "desktop/kit/text_style.h"
@@ -14,6 +15,8 @@
 namespace lorvane::desktop {
 
 namespace {
+
+constexpr int widestCaption = 240;
 
 struct CellRow {
     const char* panel;
@@ -41,7 +44,7 @@ const lorvane::Field& fieldOfCell(const MainScreen& screen, std::string_view pan
 }
 
 QLabel* captionLabel(QWidget* parent) {
-    auto* label = new QLabel(parent);
+    auto* label = new ElidedLabel(widestCaption, parent);
     label->setFont(textFont(TextStyle::Caption));
     label->setProperty("second", true);
     return label;

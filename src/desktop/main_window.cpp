@@ -18,6 +18,7 @@
 #include <algorithm>
 
 #include "desktop/effect_strip.h"
+#include "desktop/kit/elided_label.h"
 #include "desktop/kit/figure_card.h"
 #include "desktop/kit/plain_text.h"
 #include "desktop/kit/text_style.h"
@@ -48,8 +49,10 @@ int heightWith(const Spacing& spacing, int stripAndTable) {
     return spacing.top + spacing.title + 3 * spacing.gap + stripAndTable + smallestCards + spacing.bottom;
 }
 
-QLabel* textLabel(TextStyle style) {
-    auto* label = new QLabel;
+constexpr int widestSavedWords = 500;
+
+QLabel* textLabel(TextStyle style, int width = QWIDGETSIZE_MAX) {
+    auto* label = new ElidedLabel(width);
     label->setFont(textFont(style));
     return label;
 }
@@ -68,7 +71,7 @@ MainWindow::MainWindow(Desk& desk) : desk_(desk), menus_(new Menus(desk, this)) 
     addBars();
     setCentralWidget(makeContent());
     hint_ = textLabel(TextStyle::Caption);
-    saved_ = textLabel(TextStyle::Caption);
+    saved_ = textLabel(TextStyle::Caption, widestSavedWords);
     statusBar()->addWidget(hint_, 1);
     statusBar()->addPermanentWidget(saved_);
     statusBar()->setSizeGripEnabled(false);

@@ -7,6 +7,7 @@
 #include <QVBoxLayout>
 
 #include "base/names.h"
+#include "desktop/kit/elided_label.h"
 #include "desktop/kit/icons.h"
 #include "desktop/kit/plain_text.h"
 #include "desktop/kit/text_style.h"
@@ -18,6 +19,8 @@ namespace {
 
 constexpr int problemWidth = 336;
 constexpr int detailsWidth = 340;
+constexpr int widestTabText = 90;
+constexpr int widestCount = 200;
 
 QLabel* styled(TextStyle style, int width = 0) {
     auto* label = new QLabel;
@@ -80,7 +83,8 @@ CountsView::CountsView(Desk& desk, ToolPanel* panel) : PanelView(desk, panel, "f
 }
 
 QLabel* CountsView::addText(const Panel& model, TextStyle style) {
-    texts_.push_back({styled(style), &model});
+    texts_.push_back({new ElidedLabel(widestCount), &model});
+    texts_.back().label->setFont(textFont(style));
     return texts_.back().label;
 }
 
@@ -117,6 +121,9 @@ DetailsView::DetailsView(Desk& desk, ToolPanel* panel)
     panel->setWindowTitle(shownText(windowTitle(WindowId::frmDetails)));
     tabs_->setDrawBase(false);
     tabs_->setExpanding(false);
+    tabs_->setUsesScrollButtons(false);
+    tabs_->setElideMode(Qt::ElideRight);
+    tabs_->setFixedWidth(detailsWidth);
     text_->setTextInteractionFlags(Qt::TextSelectableByMouse);
     rest_->setMargin(14);
     rest_->setAutoFillBackground(true);
@@ -143,7 +150,11 @@ void DetailsView::syncTabs() {
         const int tab = static_cast<int>(levels_.size());
         if (tab >= tabs_->count())
             tabs_->addTab(QString());
-        tabs_->setTabText(tab, literalCaption(shownText(model.Caption)));
+        const QString name = shownText(model.Caption);
+        const QString fitting = tabs_->fontMetrics().elidedText(name, Qt::ElideRight, widestTabText);
+        tabs_->setTabText(tab, literalCaption(fitting));
+        tabs_->setAccessibleTabName(tab, name);
+        tabs_->setTabToolTip(tab, fitting == name ? QString() : name);
         current = model.Value ? tab : current;
         levels_.push_back(level);
     }

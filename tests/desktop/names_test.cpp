@@ -218,6 +218,9 @@ TEST_F(Names, AreShownLetterByLetterInEveryWindow) {
         expectPlainTip(tip);
     inspectMessages();
     EXPECT_FALSE(pipe.wasOpened());
+    EXPECT_LE(window.minimumSizeHint().width(), 1280) << "long names give way";
+    for (const ToolPanel* panel : window.findChildren<ToolPanel*>())
+        EXPECT_LE(panel->width(), 950) << panel->objectName().toStdString();
     for (const ToolPanel* panel : unseen)
         ADD_FAILURE() << panel->objectName().toStdString() << " was never shown";
 }

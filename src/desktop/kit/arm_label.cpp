@@ -31,6 +31,7 @@ void ArmLabel::setArm(Dot dot, const QString& name) {
     dot_ = dot;
     name_ = name;
     setAccessibleName(name);
+    tellRest();
     updateGeometry();
     update();
 }
@@ -41,6 +42,11 @@ QSize ArmLabel::sizeHint() const {
     return {static_cast<int>(std::ceil(left + metrics.horizontalAdvance(name_))),
             static_cast<int>(std::ceil(metrics.height()))};
 }
+
+/// A name that is cut stands whole in the tip.
+void ArmLabel::tellRest() { setToolTip(sizeHint().width() > width() ? name_ : QString()); }
+
+void ArmLabel::resizeEvent(QResizeEvent*) { tellRest(); }
 
 void ArmLabel::paintEvent(QPaintEvent*) {
     QPainter painter(this);
@@ -53,7 +59,8 @@ void ArmLabel::paintEvent(QPaintEvent*) {
     }
     painter.setFont(font);
     painter.setPen(colour(isEnabled() ? Role::SecondText : Role::Quiet));
-    painter.drawText(QPointF(left, centredBaseline(font, QRectF(rect()))), name_);
+    painter.drawText(QPointF(left, centredBaseline(font, QRectF(rect()))),
+                     QFontMetricsF(font).elidedText(name_, Qt::ElideRight, width() - left));
 }
 
 }  // namespace lorvane::desktop

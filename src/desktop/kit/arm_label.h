@@ -23,9 +23,12 @@ public:
     QSize sizeHint() const override;
 
 protected:
+    void resizeEvent(QResizeEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
 
 private:
+    void tellRest();
+
     Dot dot_ = Dot::None;
     QString name_;
 };

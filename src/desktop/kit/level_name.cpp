@@ -33,6 +33,7 @@ void LevelName::setLevel(const QString& name, const QString& role, bool accented
     accented_ = accented;
     setAccessibleName(name);
     setAccessibleDescription(role);
+    tellRest();
     updateGeometry();
     update();
 }
@@ -44,6 +45,11 @@ QSize LevelName::sizeHint() const {
 }
 
 QSize LevelName::minimumSizeHint() const { return {60, Height}; }
+
+/// A name that is cut stands whole in the tip.
+void LevelName::tellRest() { setToolTip(sizeHint().width() > width() ? name_ : QString()); }
+
+void LevelName::resizeEvent(QResizeEvent*) { tellRest(); }
 
 void LevelName::paintEvent(QPaintEvent*) {
     QPainter painter(this);

@@ -22,9 +22,12 @@ public:
     QSize minimumSizeHint() const override;
 
 protected:
+    void resizeEvent(QResizeEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
 
 private:
+    void tellRest();
+
     QString name_;
     QString role_;
     bool accented_ = false;
