@@ -9,13 +9,11 @@
 #include <ostream>
 #include <vector>
 
-#include "base/arithmetic_fault.h"
-#include "base/failure_words.h"
 #include "base/names.h"
 #include "base/number_text.h"
 #include "cli/json_text.h"
 #include "cli/script_words.h"
-#include "platform/file_store.h"
+#include "platform/failure_words.h"
 
 namespace lorvane {
 
@@ -296,8 +294,6 @@ Json run(Session& session, std::string_view line) {
     throw UseProblem("There is no command \"" + name + "\".");
 }
 
-std::string errorOf(const std::string& words) { return jsonText({{"error", words}}); }
-
 }  // namespace
 
 std::string answerTo(std::string_view line, DriveSession& session) {
@@ -306,14 +302,8 @@ std::string answerTo(std::string_view line, DriveSession& session) {
         return "";
     try {
         return jsonText(run(session, command));
-    } catch (const UseProblem& problem) {
-        return errorOf(problem.what());
-    } catch (const FileProblem& problem) {
-        return errorOf(problem.what());
-    } catch (const ArithmeticFault& fault) {
-        return errorOf(fault.what());
     } catch (...) {
-        return errorOf(failureWords());
+        return jsonText({{"error", failureWords()}});
     }
 }
 

@@ -6,8 +6,6 @@
 #include <system_error>
 
 #include "app/application.h"
-#include "base/arithmetic_fault.h"
-#include "base/failure_words.h"
 #include "cli/commands.h"
 #include "cli/drive.h"
 #include "cli/mdes_command.h"
@@ -16,6 +14,7 @@
 #include "os/disk_file_store.h"
 #include "os/environment_locale.h"
 #include "os/program_folder.h"
+#include "platform/failure_words.h"
 
 namespace {
 
@@ -132,9 +131,19 @@ int runChosen(const CLI::App& cli, const Requests& requests) {
     return printScenarios(requests.scenarios, line);
 }
 
-int failed(int code, const std::string& words) {
-    std::cerr << words << '\n';
-    return code;
+// The exit code for the exception in flight.
+int codeOfFailure() {
+    try {
+        throw;
+    } catch (const UseProblem&) {
+        return ExitCodes::wrongUse;
+    } catch (const FileProblem&) {
+        return ExitCodes::fileFailed;
+    } catch (const std::system_error&) {
+        return ExitCodes::fileFailed;
+    } catch (...) {
+        return ExitCodes::noAnswer;
+    }
 }
 
 int run(int argc, char** argv) {
@@ -164,16 +173,9 @@ int run(int argc, char** argv) {
 int runOrTell(int argc, char** argv) {
     try {
         return run(argc, argv);
-    } catch (const UseProblem& problem) {
-        return failed(ExitCodes::wrongUse, problem.what());
-    } catch (const FileProblem& problem) {
-        return failed(ExitCodes::fileFailed, problem.what());
-    } catch (const ArithmeticFault& fault) {
-        return failed(ExitCodes::noAnswer, fault.what());
-    } catch (const std::system_error&) {
-        return failed(ExitCodes::fileFailed, failureWords());
     } catch (...) {
-        return failed(ExitCodes::noAnswer, failureWords());
+        std::cerr << failureWords() << '\n';
+        return codeOfFailure();
     }
 }
 
@@ -185,6 +187,7 @@ int main(int argc, char** argv) {
     const int code = runOrTell(argc, argv);
     if (std::cout.flush())
         return code;
-    return failed(ExitCodes::fileFailed, "The answer cannot be written to standard output; check that its "
-                                         "reader goes on reading or that its disk has room.");
+    std::cerr << "The answer cannot be written to standard output; check that its reader goes on reading or "
+                 "that its disk has room.\n";
+    return ExitCodes::fileFailed;
 }

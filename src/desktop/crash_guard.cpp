@@ -29,7 +29,13 @@ void CrashGuard::keepPicture() {
         return;
     kept_ = std::move(study);
     mayHold_ = true;
-    writer_.start([this, picture = *kept_] { store_.keep(picture); });
+    writer_.start([this, picture = *kept_] {
+        try {
+            store_.keep(picture);
+        } catch (...) {
+            // The program works without a picture; the next change brings another.
+        }
+    });
 }
 
 void CrashGuard::forget() {

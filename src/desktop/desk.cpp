@@ -4,6 +4,7 @@
 #include <QFile>
 
 #include "base/arithmetic_fault.h"
+#include "platform/failure_words.h"
 #include "session/field_words.h"
 
 namespace lorvane::desktop {
@@ -21,6 +22,8 @@ void Desk::act(Event event) {
         messages_.show({"The study cannot be computed", fault.what(), {Answer::OK}});
     } catch (const UseProblem& problem) {
         messages_.show({"That is not available", problem.what(), {Answer::OK}});
+    } catch (...) {
+        messages_.show({failureTitle, failureWords(), {Answer::OK}});
     }
 }
 

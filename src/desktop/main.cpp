@@ -1,11 +1,11 @@
 // Lorvane with its window.
-#include <QApplication>
 #include <QFile>
 #include <QFileInfo>
 
 #include "app/application.h"
 #include "desktop/crash_guard.h"
 #include "desktop/desk.h"
+#include "desktop/desk_application.h"
 #include "desktop/desk_progress.h"
 #include "desktop/kit/logo.h"
 #include "desktop/kit/theme.h"
@@ -15,15 +15,18 @@
 #include "os/disk_file_store.h"
 #include "os/program_folder.h"
 #include "os/unsaved_folder.h"
+#include "platform/failure_words.h"
 #include "qt/qt_clipboard.h"
 #include "qt/qt_file_dialogs.h"
 #include "qt/qt_locale.h"
 #include "qt/qt_message_boxes.h"
 #include "qt/qt_settings_store.h"
 
-int main(int argc, char** argv) {
-    using namespace lorvane;
-    QApplication qt(argc, argv);
+namespace {
+
+using namespace lorvane;
+
+int run(desktop::DeskApplication& qt, const QString& file) {
     QApplication::setApplicationName(QStringLiteral("Lorvane"));
     QApplication::setApplicationVersion(QStringLiteral(LORVANE_VERSION));
     QGuiApplication::setDesktopFileName(QStringLiteral("lorvane"));
@@ -49,10 +52,26 @@ int main(int argc, char** argv) {
     dialogs.setOwner(&window);
     dialogs.beforeShowing([&panels] { panels.follow(); });
     progress.setRedraw([&panels] { panels.follow(); });
+    qt.whenFailed([&messages](const std::string& words) {
+        messages.show({failureTitle, words, {Answer::OK}});
+    });
     desktop::CrashGuard guard(desk, unsaved);
     window.show();
-    desk.start(argc > 1 ? QFileInfo(QFile::decodeName(argv[1])).absoluteFilePath() : QString());
+    desk.start(file);
     const int code = QApplication::exec();
     guard.finish();
     return code;
+}
+
+}  // namespace
+
+// A failure that leaves nothing to go on with is told at least; what was not saved is offered next time.
+int main(int argc, char** argv) {
+    desktop::DeskApplication qt(argc, argv);
+    try {
+        return run(qt, argc > 1 ? QFileInfo(QFile::decodeName(argv[1])).absoluteFilePath() : QString());
+    } catch (...) {
+        QtMessageBoxes().show({failureTitle, failureWords(), {Answer::OK}});
+        return 1;
+    }
 }

@@ -34,6 +34,21 @@ struct WatchedMessageBoxes final : MessageBoxes {
     std::function<void()> beforeShowing = [] {};
 };
 
+/// The disk, and a look at the screen before a file is read or written.
+struct WatchedFiles final : FileStore {
+    std::string read(const std::string& path, std::size_t largest) const override {
+        beforeUse();
+        return disk.read(path, largest);
+    }
+    bool exists(const std::string& path) const override { return disk.exists(path); }
+    void replace(const std::string& path, std::string_view content) override {
+        beforeUse();
+        disk.replace(path, content);
+    }
+    DiskFileStore disk;
+    std::function<void()> beforeUse = [] {};
+};
+
 /// A search that takes its time between two looks.
 struct SlowProgress final : Progress {
     bool goOn() override {
@@ -106,7 +121,7 @@ protected:
 
     NumericDistributionLibrary distributions;
     FixedLocale locale;
-    DiskFileStore files;
+    WatchedFiles files;
     WatchedMessageBoxes messages;
     MemorySettings settings;
     SlowProgress progress;

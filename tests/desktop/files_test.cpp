@@ -12,8 +12,10 @@
 #include <QTemporaryDir>
 #include <QTimer>
 #include <QUrl>
+#include <filesystem>
 
 #include "desktop/crash_guard.h"
+#include "desktop/desk_application.h"
 #include "desktop/kit/record_table.h"
 #include "desktop/kit/start_page.h"
 #include "desktop_bench.h"
@@ -127,6 +129,50 @@ TEST_F(Files, ADroppedStudyOpensAfterTheQuestionAndAFailureIsTold) {
     EXPECT_TRUE(status().contains(QLatin1String("none.Lorvane\" cannot be read"))) << status().toStdString();
     tool("Show power using digits");
     EXPECT_EQ(status(), QString());
+}
+
+// What nobody foresaw is told in a sentence, wherever it was thrown, and the program goes on.
+TEST_F(Files, EveryFailureIsToldAndTheStudyIsKept) {
+    set({{"txtd", 0.7}});
+    application.save(local("One.Lorvane"));
+    const std::function<void()> failures[] = {
+        [] { throw std::bad_alloc(); }, [] { throw std::filesystem::filesystem_error("", {}); },
+        [] { throw FileProblem("Of its own: try again."); }, [] { throw 5; }};
+    std::vector<std::string> told;
+    auto& net = dynamic_cast<DeskApplication&>(*qApp);
+    net.whenFailed([&](const std::string& words) { told.push_back(words); });
+    for (const auto& failure : failures) {
+        files.beforeUse = failure;
+        desk.askAndOpen(path("One.Lorvane"));
+        EXPECT_EQ(messages.scripted.take().size() + !status().isEmpty(), 1u);
+        QTimer::singleShot(0, &window, failure);
+        settle();
+    }
+    EXPECT_EQ(told.size(), 4u);
+    for (const std::string& words : told)
+        EXPECT_TRUE(words.ends_with("try again.")) << words;
+    files.beforeUse = [] {};
+    EXPECT_EQ(study().txtd, 0.7);
+    tool("Add a level");
+    EXPECT_EQ(study().NumLevels, 3);
+    net.whenFailed([](const std::string&) {});
+}
+
+// Whoever closes the message would get the next one at once otherwise.
+TEST_F(Files, AWindowThatCannotBePaintedIsToldOnce) {
+    struct Broken : QWidget {
+        void paintEvent(QPaintEvent*) override { throw std::runtime_error("no paint"); }
+    } broken;
+    int told = 0;
+    auto& net = dynamic_cast<DeskApplication&>(*qApp);
+    net.whenFailed([&](const std::string&) { ++told; });
+    broken.show();
+    for (int i = 0; i < 5; ++i) {
+        broken.update();
+        settle();
+    }
+    EXPECT_EQ(told, 1);
+    net.whenFailed([](const std::string&) {});
 }
 
 // A place for pictures that counts them.

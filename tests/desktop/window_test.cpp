@@ -2,6 +2,7 @@
 #include <QLabel>
 #include <QScrollArea>
 
+#include "desktop/desk_application.h"
 #include "desktop/effect_strip.h"
 #include "desktop/kit/theme.h"
 #include "desktop/level_table.h"
@@ -141,7 +142,7 @@ TEST_F(Look, NothingIsCutOffOnSmallScreens) {
 }  // namespace lorvane::desktop
 
 int main(int argc, char** argv) {
-    QApplication qt(argc, argv);
+    lorvane::desktop::DeskApplication qt(argc, argv);
     lorvane::desktop::applyTheme(qt);
     lorvane::desktop::setDark(false);
     testing::InitGoogleTest(&argc, argv);

@@ -1,9 +1,13 @@
 // Sentences for failures of the system and of the library.
-#include "base/failure_words.h"
+#include "platform/failure_words.h"
 
 #include <exception>
 #include <new>
 #include <system_error>
+
+#include "base/arithmetic_fault.h"
+#include "base/use_problem.h"
+#include "platform/file_store.h"
 
 namespace lorvane {
 
@@ -19,6 +23,12 @@ std::string sentence(const std::string& why) {
 std::string failureWords() {
     try {
         throw;
+    } catch (const UseProblem& problem) {
+        return problem.what();
+    } catch (const FileProblem& problem) {
+        return problem.what();
+    } catch (const ArithmeticFault& fault) {
+        return fault.what();
     } catch (const std::bad_alloc&) {
         return "There is not enough memory for this; save your work, close other programs, and try again.";
     } catch (const std::system_error& error) {
