@@ -16,7 +16,7 @@ Application::Application(const Platform& platform)
     : platform_(platform), session_(platform.distributions, detectCurrency(platform.locale),
                                     platform.clock == nullptr ? steadyClock_ : *platform.clock),
       design_(session_, platform.messages), recent_(platform.settings),
-      store_(platform.files, platform.programFolder), studyFiles_(design_, store_, recent_, platform.dialogs),
+      store_(platform.files, platform.programFolder, platform.hourglass), studyFiles_(design_, store_, recent_, platform.dialogs),
       startScreen_(design_, studyFiles_, recent_, platform.files),
       optimalWindow_(design_, platform.progress == nullptr ? noProgress_ : *platform.progress),
       commands_(commandRows({session_, design_, dialogs_, details_, mdesWindow_, optimalWindow_,

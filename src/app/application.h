@@ -23,6 +23,7 @@
 #include "platform/event_registry.h"
 #include "platform/file_dialogs.h"
 #include "platform/file_store.h"
+#include "platform/hourglass.h"
 #include "platform/message_boxes.h"
 #include "platform/progress.h"
 #include "platform/settings_store.h"
@@ -52,6 +53,7 @@ struct Platform {
     Progress* progress = nullptr;     ///< none: nobody watches a search
     Clipboard* clipboard = nullptr;   ///< none: what is copied can be read by name alone
     const Clock* clock = nullptr;     ///< none: the clock of the machine
+    Hourglass* hourglass = nullptr;   ///< none: nobody waits for a file
 };
 
 class Application {

@@ -18,6 +18,7 @@
 #include "platform/failure_words.h"
 #include "qt/qt_clipboard.h"
 #include "qt/qt_file_dialogs.h"
+#include "qt/qt_hourglass.h"
 #include "qt/qt_locale.h"
 #include "qt/qt_message_boxes.h"
 #include "qt/qt_settings_store.h"
@@ -42,8 +43,9 @@ int run(desktop::DeskApplication& qt, const QString& file) {
     UnsavedFolder unsaved(userStateFolder());
     desktop::DeskProgress progress;
     QtClipboard clipboard;
+    QtHourglass hourglass;
     Application application({distributions, locale, files, messages, dialogs, settings, programFolder(),
-                             &unsaved, &progress, &clipboard});
+                             &unsaved, &progress, &clipboard, nullptr, &hourglass});
     desktop::Desk desk(application, messages);
     desktop::MainWindow window(desk);
     desktop::Panels panels(desk, window);

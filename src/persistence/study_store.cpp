@@ -18,8 +18,8 @@ constexpr const char* templateName = "/Template Means.Lorvane";
 
 }  // namespace
 
-StudyStore::StudyStore(FileStore& files, const std::string& programFolder)
-    : files_(files), template_(programFolder + templateName) {}
+StudyStore::StudyStore(FileStore& files, const std::string& programFolder, Hourglass* hourglass)
+    : files_(files), hourglass_(hourglass), template_(programFolder + templateName) {}
 
 // A path that leads nowhere, as an empty one or one from a folder that is gone, is not the template's.
 bool StudyStore::isTemplate(const std::string& path) const {
@@ -32,13 +32,18 @@ void StudyStore::open(Session& session, const std::string& path) const {
         openTemplate(session);
         return;
     }
+    const Waiting waiting(hourglass_);
     loadTable(session, LoadGrid(files_, path), path);
     session.noteAsSaved();
 }
 
-void StudyStore::openTemplate(Session& session) const { loadTable(session, LoadGrid(files_, template_), ""); }
+void StudyStore::openTemplate(Session& session) const {
+    const Waiting waiting(hourglass_);
+    loadTable(session, LoadGrid(files_, template_), "");
+}
 
 void StudyStore::save(Session& session, const std::string& path) const {
+    const Waiting waiting(hourglass_);
     ScenarioGrid table = savedTable(session);
     SaveGrid(files_, path, table);
     // The state of the screen stays in the table until the next save or open.

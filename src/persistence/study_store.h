@@ -5,6 +5,7 @@
 #include <string>
 
 #include "platform/file_store.h"
+#include "platform/hourglass.h"
 #include "session/session.h"
 
 namespace lorvane {
@@ -12,7 +13,8 @@ namespace lorvane {
 class StudyStore {
 public:
     /// The template of a new study is the file of that name in the program's folder.
-    StudyStore(FileStore& files, const std::string& programFolder);
+    /// Every file that is read or written is waited for under the hourglass, where there is one.
+    StudyStore(FileStore& files, const std::string& programFolder, Hourglass* hourglass = nullptr);
 
     /// Opens a study file: all scenarios, and the state of the screen when it was saved. The template opens
     /// as a study without a name. Throws FileProblem and changes nothing then.
@@ -29,6 +31,7 @@ public:
 
 private:
     FileStore& files_;
+    Hourglass* hourglass_;
     std::string template_;
 };
 

@@ -20,6 +20,7 @@
 #include "desktop/panels.h"
 #include "os/disk_file_store.h"
 #include "qt/qt_clipboard.h"
+#include "qt/qt_hourglass.h"
 #include "support/test_library.h"
 
 namespace lorvane::desktop {
@@ -126,8 +127,9 @@ protected:
     MemorySettings settings;
     SlowProgress progress;
     QtClipboard clipboard;
+    QtHourglass hourglass;
     Application application{{distributions, locale, files, messages, messages.scripted, settings, "/program",
-                             nullptr, &progress, &clipboard}};
+                             nullptr, &progress, &clipboard, nullptr, &hourglass}};
     Desk desk{application, messages};
     MainWindow window{desk};
     Panels panels{desk, window};

@@ -131,6 +131,40 @@ TEST_F(Files, ADroppedStudyOpensAfterTheQuestionAndAFailureIsTold) {
     EXPECT_EQ(status(), QString());
 }
 
+// The hourglass shows while a file is read or written, whatever led there and however it ends.
+TEST_F(Files, TheHourglassShowsWhileAFileIsOpenedOrSaved) {
+    const auto isWaiting = [] {
+        const QCursor* cursor = QGuiApplication::overrideCursor();
+        return cursor != nullptr && cursor->shape() == Qt::WaitCursor;
+    };
+    int used = 0;
+    files.beforeUse = [&] {
+        EXPECT_TRUE(isWaiting());
+        ++used;
+    };
+    messages.beforeShowing = [&] { EXPECT_FALSE(isWaiting()); };
+    const auto queueFile = [&](const char* name) { messages.scripted.queueFile(local(name)); };
+    const std::function<void()> ways[] = {
+        [&] { queueFile("One.Lorvane"), tool("SaveAs"); },
+        [&] { queueFile("One.Lorvane"), tool("Open"); },
+        [&] { queueFile("none.Lorvane"), tool("Open"); },
+        [&] { queueFile("no/folder.Lorvane"), tool("SaveAs"); },
+        [&] { tool("Clear"); },
+        [&] { drop(path("One.Lorvane")); },
+        [&] { desk.start(path("One.Lorvane")); },
+        [&] { tool("gfrmOpenWizard"), desk.click("frmStart.optStart(2)"), desk.click("frmStart.cmdOK(0)"); }};
+    for (const auto& way : ways) {
+        const int before = used;
+        messages.scripted.queue(Answer::OK);
+        way();
+        EXPECT_EQ(used, before + 1) << "way " << (&way - ways);
+        EXPECT_FALSE(isWaiting()) << "way " << (&way - ways);
+    }
+    files.beforeUse = [] { throw std::bad_alloc(); };
+    drop(path("One.Lorvane"));
+    EXPECT_FALSE(isWaiting());
+}
+
 // What nobody foresaw is told in a sentence, wherever it was thrown, and the program goes on.
 TEST_F(Files, EveryFailureIsToldAndTheStudyIsKept) {
     set({{"txtd", 0.7}});
