@@ -15,12 +15,21 @@ struct FileDialog {
     std::string defaultExtension;  ///< ".txt"; empty for none
 };
 
+/// The longest name of a file that a dialog takes, in letters.
+inline constexpr int longestFileName = 256;
+
+/// Why a dialog stays open.
+inline constexpr const char* nameTooLong =
+    "The name of the file is longer than 256 letters; choose a shorter one.";
+inline constexpr const char* folderMissing = "The folder of the file does not exist; choose another one.";
+
 class FileDialogs {
 public:
     virtual ~FileDialogs() = default;
 
-    /// Shows the dialog and waits for the path; nothing when it is cancelled. A dialog for saving asks before
-    /// it takes the name of a file that is there.
+    /// Shows the dialog, with the words of its filter as they are told, and waits for the path; nothing when
+    /// it is cancelled. A dialog for opening takes only a file that is there, one for saving only a folder
+    /// that is there, and it asks before it takes the name of a file that is there.
     virtual std::optional<std::string> choose(const FileDialog& dialog) = 0;
 };
 

@@ -1,24 +1,57 @@
 // File dialogs of the desktop.
 #include "qt/qt_file_dialogs.h"
 
+#include <QDir>
 #include <QFile>
 #include <QFileDialog>
 #include <QFileInfo>
+#include <QLineEdit>
+#include <QMessageBox>
 #include <QStandardPaths>
 
 namespace lorvane {
 
 namespace {
 
-// The pattern of a filter, "*.txt" of "(*.txt)|*.txt".
+// The words of a filter, "(*.txt)" of "(*.txt)|*.txt", and its pattern, "*.txt".
+QString wordsOf(const FileDialog& dialog) {
+    return QString::fromStdString(dialog.filter).section(QLatin1Char('|'), 0, 0);
+}
+
 QString patternOf(const FileDialog& dialog) {
     return QString::fromStdString(dialog.filter).section(QLatin1Char('|'), 1);
 }
 
+// The ending that a name without one gets. A name for saving gets the one of the filter where none is told.
 QString suffixOf(const FileDialog& dialog) {
     const QString named = QString::fromStdString(dialog.defaultExtension);
-    return (named.isEmpty() ? patternOf(dialog) : named).section(QLatin1Char('.'), -1);
+    const bool saves = dialog.kind == FileDialog::Kind::save;
+    return (named.isEmpty() && saves ? patternOf(dialog) : named).section(QLatin1Char('.'), -1);
 }
+
+// Stays open with a reason for a path that cannot be taken. The dialogs of a desktop look after that
+// themselves; they have no field of ours.
+class FileBox : public QFileDialog {
+public:
+    using QFileDialog::QFileDialog;
+
+protected:
+    void accept() override {
+        const QString why = findChild<QLineEdit*>() == nullptr ? QString() : problem();
+        if (why.isEmpty())
+            QFileDialog::accept();
+        else
+            QMessageBox::information(this, windowTitle(), why);
+    }
+
+private:
+    QString problem() const {
+        const QFileInfo path(selectedFiles().value(0));
+        if (path.fileName().size() > longestFileName)
+            return QString::fromUtf8(nameTooLong);
+        return path.dir().exists() ? QString() : QString::fromUtf8(folderMissing);
+    }
+};
 
 }  // namespace
 
@@ -27,14 +60,15 @@ std::optional<std::string> QtFileDialogs::choose(const FileDialog& dialog) {
         redraw_();
     if (folder_.isEmpty())
         folder_ = QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation);
-    QFileDialog box(owner_, QString::fromStdString(dialog.title), folder_);
-    box.setNameFilter(QLatin1Char('(') + patternOf(dialog) + QLatin1Char(')'));
-    if (dialog.kind == FileDialog::Kind::save) {
+    FileBox box(owner_, QString::fromStdString(dialog.title), folder_);
+    // Without its details a filter shows what stands before the last bracket.
+    box.setOption(QFileDialog::HideNameFilterDetails);
+    box.setNameFilter(QStringLiteral("%1 (%2)").arg(wordsOf(dialog), patternOf(dialog)));
+    box.setDefaultSuffix(suffixOf(dialog));
+    if (dialog.kind == FileDialog::Kind::save)
         box.setAcceptMode(QFileDialog::AcceptSave);
-        box.setDefaultSuffix(suffixOf(dialog));
-    } else {
+    else
         box.setFileMode(QFileDialog::ExistingFile);
-    }
     if (box.exec() != QDialog::Accepted || box.selectedFiles().isEmpty())
         return std::nullopt;
     const QString path = box.selectedFiles().constFirst();

@@ -1,12 +1,12 @@
 // Scenarios, start screen, files and unsaved work, as a person meets them.
 #include <QApplication>
-#include <QDialogButtonBox>
+#include <QComboBox>
 #include <QDropEvent>
 #include <QFileDialog>
 #include <QLabel>
 #include <QLineEdit>
+#include <QMessageBox>
 #include <QMimeData>
-#include <QPushButton>
 #include <QSettings>
 #include <QStatusBar>
 #include <QTemporaryDir>
@@ -235,30 +235,68 @@ TEST_F(Files, UnsavedWorkIsPicturedOffTheClickAndForgottenWhenSaved) {
     EXPECT_EQ(store.drops, 1);
 }
 
-TEST(QtFileDialogsTest, GiveTheChosenPathWithTheEndingOfTheFilter) {
-    const QTemporaryDir folder;
-    QtFileDialogs dialogs;
-    const auto answer = [&](FileDialog::Kind kind, const QString& name, bool accept) {
-        QString title, filter;
+/// What a person does in a file dialog: types names until one is taken.
+class FileDialogsTest : public testing::Test {
+protected:
+    /// Each name is typed and accepted; what the dialog says to it is answered with No or OK.
+    std::optional<std::string> answer(const FileDialog& dialog, const QStringList& names) {
+        said.clear();
         QTimer::singleShot(0, [&] {
             auto* box = qobject_cast<QFileDialog*>(QApplication::activeModalWidget());
             ASSERT_NE(box, nullptr);
             title = box->windowTitle();
-            filter = box->nameFilters().value(0);
+            filter = box->findChild<QComboBox*>(QStringLiteral("fileTypeCombo"))->currentText();
             box->setDirectory(folder.path());
-            box->findChild<QLineEdit*>()->setText(name);
-            box->findChild<QDialogButtonBox*>()
-                ->button(accept ? QDialogButtonBox::Save : QDialogButtonBox::Cancel)
-                ->click();
+            for (const QString& name : names) {
+                box->findChild<QLineEdit*>()->setText(name);
+                QTimer::singleShot(0, box, [this] { closeMessage(); });
+                QTest::keyClick(box->findChild<QLineEdit*>(), Qt::Key_Return);
+            }
+            if (box->isVisible())
+                box->reject();
         });
-        const auto path = dialogs.choose({kind, "Save file", "(*.Lorvane)|*.Lorvane", ""});
-        EXPECT_EQ(title, QLatin1String("Save file"));
-        EXPECT_EQ(filter, QLatin1String("(*.Lorvane)"));
-        return path;
-    };
-    EXPECT_EQ(answer(FileDialog::Kind::save, QStringLiteral("Größe"), true),
-              folder.filePath(QStringLiteral("Größe.Lorvane")).toStdString());
-    EXPECT_EQ(answer(FileDialog::Kind::open, QStringLiteral("Größe"), false), std::nullopt);
+        return dialogs.choose(dialog);
+    }
+    void closeMessage() {
+        if (auto* message = qobject_cast<QMessageBox*>(QApplication::activeModalWidget())) {
+            said += message->text();
+            message->reject();
+        }
+    }
+    std::string inFolder(const char* name) const {
+        return folder.filePath(QString::fromUtf8(name)).toStdString();
+    }
+
+    const FileDialog save{FileDialog::Kind::save, "Save file", "(*.Lorvane)|*.Lorvane", ""};
+    const FileDialog open{FileDialog::Kind::open, "Open file", "(*.Lorvane)|*.Lorvane", ".Lorvane"};
+    const FileDialog more{FileDialog::Kind::open, "Open database", "(*..Lorvane)|*.Lorvane", ""};
+    const QTemporaryDir folder;
+    QtFileDialogs dialogs;
+    QString title, filter;
+    QStringList said;
+};
+
+TEST_F(FileDialogsTest, ShowTheFilterAsToldAndGiveTheEnding) {
+    EXPECT_EQ(answer(save, {QStringLiteral("Größe")}), inFolder("Größe.Lorvane"));
+    EXPECT_EQ(title.toStdString() + filter.toStdString(), "Save file(*.Lorvane)");
+    DiskFileStore().replace(inFolder("Größe.Lorvane"), "");
+    EXPECT_EQ(answer(open, {QStringLiteral("Größe")}), inFolder("Größe.Lorvane"));
+    EXPECT_EQ(title.toStdString() + filter.toStdString(), "Open file(*.Lorvane)");
+    EXPECT_EQ(answer(more, {QStringLiteral("Größe.Lorvane")}), inFolder("Größe.Lorvane"));
+    EXPECT_EQ(title.toStdString() + filter.toStdString(), "Open database(*..Lorvane)");
+    EXPECT_EQ(answer(more, {}), std::nullopt);
+}
+
+TEST_F(FileDialogsTest, StayOpenForAPathThatCannotBeTaken) {
+    const QString there = QStringLiteral("There.Lorvane");
+    DiskFileStore().replace(inFolder("There.Lorvane"), "");
+    EXPECT_EQ(answer(save, {QString(300, QLatin1Char('x')), QStringLiteral("no/folder"), there}),
+              std::nullopt);
+    ASSERT_EQ(said.size(), 3) << said.join(QLatin1Char('|')).toStdString();
+    EXPECT_EQ(said[0].toStdString() + said[1].toStdString(), std::string(nameTooLong) + folderMissing);
+    EXPECT_TRUE(said[2].contains(there)) << "it is there already";
+    EXPECT_EQ(answer(open, {QStringLiteral("None"), there}), inFolder("There.Lorvane"));
+    EXPECT_EQ(said.size(), 1);
 }
 
 TEST(QtSettingsStoreTest, KeepsTextsAndLivesWithoutAPlace) {
