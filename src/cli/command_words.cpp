@@ -49,4 +49,9 @@ void printLine(std::ostream& out, std::string label, const std::string& value) {
     out << label << value << '\n';
 }
 
+void printNote(std::ostream& out, const std::string& note) {
+    if (!note.empty())
+        out << '\n' << note << '\n';
+}
+
 }  // namespace lorvane

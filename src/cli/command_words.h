@@ -34,6 +34,9 @@ void applySettings(const std::vector<std::string>& settings, Session& session);
 /// One line of an answer: a label, filled up with blanks, and a value.
 void printLine(std::ostream& out, std::string label, const std::string& value);
 
+/// A note below the lines of an answer; nothing where there is none.
+void printNote(std::ostream& out, const std::string& note);
+
 /// The text with a capital first letter.
 std::string capitalised(std::string text);
 

@@ -10,6 +10,7 @@
 #include "cli/json_text.h"
 #include "persistence/scenario_list.h"
 #include "session/answers.h"
+#include "validation/icc_messages.h"
 
 namespace lorvane {
 
@@ -28,6 +29,7 @@ void printPowerLines(const Session& session, std::ostream& out) {
     }
     printLine(out, "Cost", costText(result.txtCost, session.settings().currency));
     printLine(out, "Effect", capitalised(effect.name) + " " + shortestText(effect.value));
+    printNote(out, truncationNote(session.study()));
 }
 
 Json powerJson(const Session& session) {
@@ -35,15 +37,17 @@ Json powerJson(const Session& session) {
     const bool valid = hasPower(session);
     const auto ifValid = [&](double value) { return valid ? Json(value) : Json(); };
     const EffectAnswer effect = effectOf(session.study());
-    return {{"valid", valid},
-            {"power", ifValid(result.txtPower)},
-            {"criticalValue", ifValid(result.txtCritT)},
-            {"df", ifValid(result.xdf)},
-            {"lambda", ifValid(result.xLambda)},
-            {"cost", result.txtCost < 1 ? Json() : Json(result.txtCost)},
-            {"effectName", effect.name},
-            {"effect", effect.value},
-            {"message", valid ? "" : whyNoPower(session)}};
+    Json json = {{"valid", valid},
+                 {"power", ifValid(result.txtPower)},
+                 {"criticalValue", ifValid(result.txtCritT)},
+                 {"df", ifValid(result.xdf)},
+                 {"lambda", ifValid(result.xLambda)},
+                 {"cost", result.txtCost < 1 ? Json() : Json(result.txtCost)},
+                 {"effectName", effect.name},
+                 {"effect", effect.value},
+                 {"message", valid ? "" : whyNoPower(session)}};
+    addNotes(json, truncationNote(session.study()));
+    return json;
 }
 
 using Table = std::vector<std::array<std::string, 4>>;
@@ -68,6 +72,41 @@ void printTable(const Table& table, std::ostream& out) {
             line += (i > 0 ? "  " : "") + (isNumber ? fill + row[i] : row[i] + fill);
         }
         out << line << '\n';
+    }
+}
+
+struct NotedScenario {
+    ScenarioLine line;
+    std::string note;
+};
+
+std::vector<NotedScenario> notedScenarios(const Session& session) {
+    std::vector<NotedScenario> scenarios;
+    for (const std::size_t place : session.scenarios().listed())
+        scenarios.push_back({scenarioLine(session.scenarios(), place), scenarioNote(session, place)});
+    return scenarios;
+}
+
+void printScenariosAsJson(const std::vector<NotedScenario>& scenarios, std::ostream& out) {
+    Json rows = Json::array();
+    for (const auto& [scenario, note] : scenarios) {
+        rows.push_back({{"name", scenario.name},
+                        {"description", scenario.description},
+                        {"power", scenario.power},
+                        {"cost", scenario.cost}});
+        addNotes(rows.back(), note);
+    }
+    out << jsonText({{"scenarios", std::move(rows)}}) << '\n';
+}
+
+void printScenarioTable(const std::vector<NotedScenario>& scenarios, std::ostream& out) {
+    Table table = {{"Name", "Description", "Power", "Cost"}};
+    for (const auto& [scenario, note] : scenarios)
+        table.push_back({scenario.name, scenario.description, scenario.power, scenario.cost});
+    printTable(table, out);
+    for (const auto& [scenario, note] : scenarios) {
+        if (!note.empty())
+            printNote(out, scenario.name + ": " + note);
     }
 }
 
@@ -98,21 +137,11 @@ int makeNew(const NewRequest& request, const CommandLine& line) {
 
 int printScenarios(const ScenariosRequest& request, const CommandLine& line) {
     line.store.open(line.session, request.study);
-    const std::vector<ScenarioLine> lines = scenarioLines(line.session.scenarios());
-    if (request.json) {
-        Json rows = Json::array();
-        for (const ScenarioLine& scenario : lines)
-            rows.push_back({{"name", scenario.name},
-                            {"description", scenario.description},
-                            {"power", scenario.power},
-                            {"cost", scenario.cost}});
-        line.out << jsonText({{"scenarios", std::move(rows)}}) << '\n';
-        return ExitCodes::done;
-    }
-    Table table = {{"Name", "Description", "Power", "Cost"}};
-    for (const ScenarioLine& scenario : lines)
-        table.push_back({scenario.name, scenario.description, scenario.power, scenario.cost});
-    printTable(table, line.out);
+    const std::vector<NotedScenario> scenarios = notedScenarios(line.session);
+    if (request.json)
+        printScenariosAsJson(scenarios, line.out);
+    else
+        printScenarioTable(scenarios, line.out);
     return ExitCodes::done;
 }
 

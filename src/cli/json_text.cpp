@@ -77,6 +77,11 @@ std::string jsonText(const Json& value) {
     return text;
 }
 
+void addNotes(Json& answer, const std::string& note) {
+    if (!note.empty())
+        answer["notes"] = Json::array({note});
+}
+
 Json jsonOf(const ControlValue& value) { return std::visit(JsonOfValue(), value); }
 
 Json jsonOf(const Grid& grid) {

@@ -12,6 +12,9 @@ namespace lorvane {
 /// One line of JSON. Infinities and NaN become null; text that is not UTF-8 gets replacement characters.
 std::string jsonText(const nlohmann::ordered_json& value);
 
+/// Gives an answer its notes, a list; nothing where there is no note.
+void addNotes(nlohmann::ordered_json& answer, const std::string& note);
+
 /// A named value: numbers as numbers, flags as true and false, colours as [red, green, blue].
 nlohmann::ordered_json jsonOf(const ControlValue& value);
 

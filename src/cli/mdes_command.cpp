@@ -10,6 +10,7 @@
 #include "engine/effect_metrics.h"
 #include "search/mdes_texts.h"
 #include "session/answers.h"
+#include "validation/icc_messages.h"
 
 namespace lorvane {
 
@@ -48,6 +49,7 @@ void printFound(const Study& s, double required, const MdesResult& result, std::
         printLine(out, "Rate, " + s.controlName(), fixedText(result.controlRate, 4));
     }
     out << '\n' << words(s, result) << '\n';
+    printNote(out, truncationNote(s));
 }
 
 Json mdesJson(const Study& s, double required, const MdesResult& result, const std::string& why) {
@@ -55,16 +57,18 @@ Json mdesJson(const Study& s, double required, const MdesResult& result, const s
     const auto ifSearched = [&](double value) {
         return result.outcome == MdesOutcome::problem ? Json() : Json(value);
     };
-    return {{"found", found},
-            {"effectName", std::string(GetESName(s))},
-            {"effect", found ? Json(result.effect) : Json()},
-            {"power", ifSearched(result.power)},
-            {"requiredPower", required},
-            {"treatedRate", found && s.isBinary() ? Json(result.treatedRate) : Json()},
-            {"controlRate", found && s.isBinary() ? Json(result.controlRate) : Json()},
-            {"lowCellCounts", found && result.countsAreLow},
-            {"text", found ? words(s, result) : ""},
-            {"message", why}};
+    Json json = {{"found", found},
+                 {"effectName", std::string(GetESName(s))},
+                 {"effect", found ? Json(result.effect) : Json()},
+                 {"power", ifSearched(result.power)},
+                 {"requiredPower", required},
+                 {"treatedRate", found && s.isBinary() ? Json(result.treatedRate) : Json()},
+                 {"controlRate", found && s.isBinary() ? Json(result.controlRate) : Json()},
+                 {"lowCellCounts", found && result.countsAreLow},
+                 {"text", found ? words(s, result) : ""},
+                 {"message", why}};
+    addNotes(json, truncationNote(s));
+    return json;
 }
 
 }  // namespace

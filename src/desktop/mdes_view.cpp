@@ -25,6 +25,7 @@ constexpr int padding = 22;
 constexpr int bandPadding = 20;
 constexpr int spaceOverFigure = 16;
 constexpr int spaceOverLines = 24;
+constexpr int spaceOverNote = 8;
 constexpr int lineWidth = panelWidth - 2 * padding - 2 * bandPadding;
 constexpr const char* computeButton = "frmMDES.cmdComputeMDES";
 constexpr const char* closeButton = "frmMDES.cmdMDESClose";
@@ -73,7 +74,7 @@ void setSecond(QLabel* label, bool second) {
 MdesView::MdesView(Desk& desk, ToolPanel* panel)
     : PanelView(desk, panel, "frmMDES"), prompt_(new QLabel), band_(new Card(CardTone::Accent)),
       figure_(new QWidget), figureName_(new NumberLabel(Qt::AlignLeft)),
-      figureNumber_(new NumberLabel(Qt::AlignLeft)), first_(line()), second_(line()) {
+      figureNumber_(new NumberLabel(Qt::AlignLeft)), first_(line()), second_(line()), note_(line()) {
     panel->setWindowTitle(shownText(windowTitle(WindowId::frmMDES)));
     panel->setAttribute(Qt::WA_ShowWithoutActivating, false);
     panel->content()->setContentsMargins(padding, 26, padding, 18);
@@ -82,6 +83,8 @@ MdesView::MdesView(Desk& desk, ToolPanel* panel)
     panel->content()->addWidget(prompt_);
     panel->content()->addSpacing(22);
     panel->content()->addWidget(makeBand());
+    setSecond(note_, true);
+    note_->setContentsMargins(0, spaceOverNote, 0, 0);
     panel->content()->addSpacing(14);
     panel->content()->addLayout(makeButtons());
     addShortcuts();
@@ -102,6 +105,7 @@ QWidget* MdesView::makeBand() {
     box->addWidget(figure_);
     box->addWidget(first_);
     box->addWidget(second_);
+    box->addWidget(note_);
     return band_;
 }
 
@@ -132,7 +136,7 @@ void MdesView::addShortcuts() {
 }
 
 void MdesView::copy() const {
-    const QStringList lines = {first_->text(), second_->text()};
+    const QStringList lines = {first_->text(), second_->text(), note_->text()};
     QGuiApplication::clipboard()->setText(lines.join(QLatin1Char('\n')).trimmed());
 }
 
@@ -153,6 +157,7 @@ void MdesView::sync() {
     setLine(first_, model.firstLine().Caption);
     setSecond(second_, look.quietSecondLine);
     setLine(second_, model.secondLine().Caption);
+    setLine(note_, model.note().Caption);
     if (isOpen() && !wasOpen_)
         panel()->findChild<PushButton*>(QString::fromUtf8(computeButton))->setFocus();
     wasOpen_ = isOpen();

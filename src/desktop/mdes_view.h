@@ -33,6 +33,7 @@ private:
     NumberLabel* figureNumber_;
     QLabel* first_;
     QLabel* second_;
+    QLabel* note_;
     bool wasOpen_ = false;
 };
 

@@ -58,6 +58,9 @@ ScenarioView::ScenarioView(Desk& desk, ToolPanel* panel)
     panel->setMinimumSize(560, 260);
     table_->setAccessibleName(panel->windowTitle());
     table_->setColumns(scenarioColumns(desk.application().scenarioWindow().vsNames()));
+    table_->setTips([this](int row) {
+        return shownText(desk_.application().scenarioWindow().tip(static_cast<std::size_t>(row + heads)));
+    });
     auto* list = new QHBoxLayout;
     list->setContentsMargins(8, 0, 8, 0);
     list->addWidget(table_);

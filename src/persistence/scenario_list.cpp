@@ -3,6 +3,7 @@
 
 #include "base/number_text.h"
 #include "persistence/scenario_cells.h"
+#include "validation/icc_messages.h"
 
 namespace lorvane {
 
@@ -33,6 +34,19 @@ std::vector<ScenarioLine> scenarioLines(const ScenarioGrid& grid) {
     for (const std::size_t place : grid.listed())
         lines.push_back(scenarioLine(grid, place));
     return lines;
+}
+
+std::string scenarioNote(const Session& session, std::size_t place) {
+    SessionState state;
+    restoreBlock(session.scenarios(), place, state);
+    StudyTrial trial = session.trial();
+    trial.study = state.study;
+    try {
+        trial.refresh();
+    } catch (const ArithmeticFault&) {
+        return "";
+    }
+    return truncationNote(trial.study);
 }
 
 }  // namespace lorvane

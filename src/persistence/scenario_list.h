@@ -4,7 +4,7 @@
 #include <string>
 #include <vector>
 
-#include "session/scenario_grid.h"
+#include "session/session.h"
 
 namespace lorvane {
 
@@ -20,5 +20,9 @@ ScenarioLine scenarioLine(const ScenarioGrid& grid, std::size_t place);
 
 /// One line a scenario in the order of adding; the state of the screen is not among them.
 std::vector<ScenarioLine> scenarioLines(const ScenarioGrid& grid);
+
+/// What stands beside the power of a scenario of the session, by its place; mostly empty. The scenario is
+/// restored and computed aside, so the session stays as it is.
+std::string scenarioNote(const Session& session, std::size_t place);
 
 }  // namespace lorvane

@@ -9,7 +9,6 @@
 #include "base/names.h"
 #include "base/number_text.h"
 #include "persistence/scenario_cells.h"
-#include "persistence/scenario_list.h"
 #include "persistence/study_file.h"
 #include "screen/questions.h"
 
@@ -63,6 +62,7 @@ Dialog ScenarioWindow::makeNameDialog() {
 
 void ScenarioWindow::registerNames(ControlRegistry& registry) const {
     registry.addGrid("frmScenarios.vsNames", vsNames_);
+    registry.addGrid("frmScenarios.vsTips", [this] { return tips(); });
     registry.add("frmScenarios.pnlProgress", progress_.pnlProgress);
     registry.add("frmScenarios.pnlCount", pnlCount_);
     for (int button = 0; button <= cmdScenarios_.last; ++button)
@@ -86,6 +86,13 @@ void ScenarioWindow::registerEvents(EventRegistry& events) {
         else
             closeName();
     });
+}
+
+Grid ScenarioWindow::tips() const {
+    Grid tips{{{""}}};
+    for (std::size_t row = 1; row < vsNames_.rows.size(); ++row)
+        tips.rows.push_back({tip(row)});
+    return tips;
 }
 
 // The heads of the list alone; a name that is being edited is forgotten.

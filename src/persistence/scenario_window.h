@@ -5,11 +5,12 @@
 #include <optional>
 #include <string>
 
+#include "persistence/scenario_list.h"
 #include "platform/control_registry.h"
 #include "platform/event_registry.h"
 #include "screen/design.h"
-#include "screen/part.h"
 #include "screen/dialog.h"
+#include "screen/part.h"
 
 namespace lorvane {
 
@@ -45,6 +46,8 @@ public:
 
     /// The list: an empty column, then name, description, power, cost; the heads are row 0.
     const Grid& vsNames() const noexcept { return vsNames_; }
+    /// The tip of a row; empty where it has none. It is worked out when it is asked for.
+    std::string tip(std::size_t row) const { return scenarioNote(session_, placeOf(row)); }
     const Dialog& nameDialog() const noexcept { return name_; }
     bool nameIsOpen() const { return design_.isOpen(WindowId::frmScenariosName); }
     const ProgressFlight& progress() const noexcept { return progress_; }
@@ -58,6 +61,7 @@ private:
     };
     std::optional<std::size_t> oneRow(const OneRowWords& words);
     bool hasRows() const { return vsNames_.rows.size() > 1; }
+    Grid tips() const;
     Dialog makeNameDialog();
     void ScenariosSetup();
     void writeCount();

@@ -1,6 +1,8 @@
 // The panel of the smallest detectable effect.
 #include "search/mdes_window.h"
 
+#include "validation/icc_messages.h"
+
 namespace lorvane {
 
 namespace {
@@ -29,6 +31,7 @@ void MdesWindow::registerNames(ControlRegistry& registry) const {
     registry.add("frmMDES.pnlMDESTop", pnlMDESTop_);
     registry.add("frmMDES.pnlMDESMid", pnlMDESMid_);
     registry.add("frmMDES.pnlMDES", pnlMDES_);
+    registry.add("frmMDES.pnlNote", pnlNote_);
     registry.add("frmMDES.pnlFigureName", pnlFigureName_);
     registry.add("frmMDES.pnlFigureNumber", pnlFigureNumber_);
     registry.add("frmMDES.cmdComputeMDES", cmdComputeMDES_);
@@ -53,6 +56,7 @@ void MdesWindow::show(State state, const MdesLines& lines, const MdesFigure& fig
     pnlMDESMid_.trouble = state == State::problem;
     pnlMDESMid_.ForeColor = pnlMDESMid_.trouble ? problemColour : black;
     pnlMDES_.Caption = lines.second;
+    pnlNote_.Caption = state == State::result ? truncationNote(design_.study()) : "";
     pnlFigureName_.Caption = figure.name;
     pnlFigureNumber_.Caption = figure.number;
 }

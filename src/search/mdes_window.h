@@ -34,6 +34,8 @@ public:
     const Panel& prompt() const noexcept { return pnlMDESTop_; }
     const Panel& firstLine() const noexcept { return pnlMDESMid_; }
     const Panel& secondLine() const noexcept { return pnlMDES_; }
+    /// What to know of the numbers; empty where there is nothing.
+    const Panel& note() const noexcept { return pnlNote_; }
     const Panel& figureName() const noexcept { return pnlFigureName_; }
     const Panel& figureNumber() const noexcept { return pnlFigureNumber_; }
     /// Whether there is a figure, and what stands before its number: "d = ".
@@ -55,6 +57,7 @@ private:
     Panel pnlMDESTop_;
     Panel pnlMDESMid_;
     Panel pnlMDES_;
+    Panel pnlNote_;
     Panel pnlFigureName_;
     Panel pnlFigureNumber_;
     Button cmdComputeMDES_;

@@ -2,8 +2,10 @@
 #include "search/optimal_texts.h"
 
 #include <cmath>
+#include <utility>
 
 #include "base/number_text.h"
+#include "validation/icc_messages.h"
 
 namespace lorvane {
 
@@ -185,6 +187,8 @@ std::vector<std::string> optimalNotes(const Study& s, const OptimalResult& resul
         notes.push_back("The number of " + s.txtName(1) + " has been increased to avoid low cell counts.");
     if (result.nearby)
         notes.push_back(nearbyNote(s, *result.nearby, currency));
+    if (std::string note = truncationNote(s); !note.empty())
+        notes.push_back(std::move(note));
     return notes;
 }
 

@@ -27,7 +27,50 @@ std::string truncationText(const Study& s, int level) {
            fixedText(limit, 4);
 }
 
+bool hasTruncation(const Study& s, int level) {
+    return s.isBinary() && s.BinaryType == BinaryTypes::oddsRatio && s.result.xValid &&
+           s.logit.truncation(level) != Truncations::none;
+}
+
+// Blocked levels stand in the power with the dispersion of the effect, nested levels with a fixed model not
+// at all.
+bool powerReadsVariance(const Study& s, int level) {
+    return level == s.RandomizedLevel || (level < s.RandomizedLevel && s.txtPop(level) == 0);
+}
+
+std::string whatWasShifted(const Study& s, int level) {
+    const std::string name = lowerCased(s.txtName(level));
+    const std::string span = fixedText(s.txtMRange(level), 4);
+    if (s.IccMetric == IccMetrics::icc)
+        return "the ICC of " + shortestText(s.txtICC(level)) + " for " + name +
+               " could not be kept: its span of risks, " + span + ",";
+    return "the span of risks of " + span + " for " + name + " could not be kept: it";
+}
+
+// The variance that would have been meant is the ICC carried to the logit scale, to first order.
+std::string levelNote(const Study& s, int level) {
+    const double meant = s.txtICC(level) / (s.txtPrev * (1 - s.txtPrev));
+    return "At an event rate of " + shortestText(s.txtPrev) + " " + whatWasShifted(s, level) +
+           " was shifted to " + fixedText(s.limits.txtLL(level), 4) + " to " +
+           fixedText(s.limits.txtUL(level), 4) + ". " +
+           (powerReadsVariance(s, level) ? "The power rests" : "The cell counts, not the power, rest") +
+           " on the variance of that range on the logit scale, " + fixedText(s.logit.LogitV(level), 4) +
+           ", where about " + fixedText(meant, 3) + " was meant. ";
+}
+
 }  // namespace
+
+std::string truncationNote(const Study& study) {
+    std::string note;
+    for (int level = 2; level <= study.NumLevels; ++level) {
+        if (hasTruncation(study, level))
+            note += levelNote(study, level);
+    }
+    if (note.empty())
+        return note;
+    return note + "Enter limits of risks, or a smaller " +
+           (study.IccMetric == IccMetrics::icc ? "ICC" : "span") + ", for the study that was meant.";
+}
 
 std::string iccMessageText(const Study& study, const IccVerdict& verdict) {
     switch (verdict.message) {

@@ -11,6 +11,7 @@
 #include <QStatusBar>
 #include <QTemporaryDir>
 #include <QTimer>
+#include <QToolTip>
 #include <QUrl>
 #include <filesystem>
 
@@ -88,6 +89,20 @@ TEST_F(Files, AScenarioGetsItsNameInADialog) {
     key(Qt::Key_Return);
     EXPECT_EQ(names(), std::vector<std::string>{"Larger"});
     EXPECT_FALSE(isShown("frmScenariosName"));
+}
+
+TEST_F(Files, ATipTellsOfAnIccThatCouldNotBeKept) {
+    for (const double icc : {0.01, 0.1}) {
+        set({{"DataType", 2.0}, {"ICC Metric", 1.0}, {"txtPrev", 0.2}, {"txtICC(2)", icc}});
+        tool("Add scenario");
+    }
+    tool("gfrmScenarios");
+    for (const int row : {0, 1}) {
+        const QPoint at = table().visualRect(table().model()->index(row, 0)).center();
+        QHelpEvent help(QEvent::ToolTip, at, table().viewport()->mapToGlobal(at));
+        QCoreApplication::sendEvent(table().viewport(), &help);
+        EXPECT_EQ(QToolTip::text().contains("the ICC of 0.1 for"), row == 1);
+    }
 }
 
 TEST_F(Files, TheStartScreenOpensARecentFile) {

@@ -81,6 +81,10 @@ TEST_F(RecordTables, TellSelectionByTheNumbersGiven) {
     click(0);
     click(2, Qt::ControlModifier);
     EXPECT_EQ(selections.last().at(0).value<QList<int>>(), (QList<int>{1, 2}));
+    table.setTips([](int row) { return row == 2 ? QStringLiteral("p < 1") : QString(); });
+    for (int position = 0; position < 4; ++position)
+        EXPECT_EQ(table.model()->index(position, 1).data(Qt::ToolTipRole).toString().contains("p &lt; 1"),
+                  position == 2);
     const qsizetype told = selections.count();
     table.setSelectedRows({0, 3, 3, 99, -1});
     EXPECT_EQ(table.selectedRows(), (QList<int>{0, 3}));

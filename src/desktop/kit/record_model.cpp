@@ -66,9 +66,17 @@ QVariant RecordModel::alignment(int column) const {
     return static_cast<int>((isNumber ? Qt::AlignRight : Qt::AlignLeft) | Qt::AlignVCenter);
 }
 
+// A tip wraps its lines only as rich text.
+QVariant RecordModel::tip(int row) const {
+    const QString text = tips_ ? tips_(row) : QString();
+    return text.isEmpty() ? QVariant() : QStringLiteral("<p>%1</p>").arg(text.toHtmlEscaped());
+}
+
 QVariant RecordModel::data(const QModelIndex& index, int role) const {
     if (role == Qt::DisplayRole)
         return text(index.row(), index.column());
+    if (role == Qt::ToolTipRole)
+        return tip(index.row());
     return role == Qt::TextAlignmentRole ? alignment(index.column()) : QVariant();
 }
 

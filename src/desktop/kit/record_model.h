@@ -1,6 +1,8 @@
 // The rows of a table of records and their order. Knows texts only, not what they mean or how they look.
 #pragma once
 
+#include <functional>
+#include <utility>
 #include <vector>
 
 #include <QAbstractTableModel>
@@ -34,6 +36,9 @@ public:
     void setRows(std::vector<QStringList> rows);
     const std::vector<QStringList>& rows() const { return rows_; }
 
+    /// Where the tip of a row comes from, by its number; asked for when it is shown. Plain text.
+    void setTips(std::function<QString(int row)> tips) { tips_ = std::move(tips); }
+
     /// The text of a cell of an existing row; empty where the row has no text for the column.
     QString text(int row, int column) const;
 
@@ -49,9 +54,11 @@ public:
 
 private:
     QVariant alignment(int column) const;
+    QVariant tip(int row) const;
 
     std::vector<RecordColumn> columns_;
     std::vector<QStringList> rows_;
+    std::function<QString(int)> tips_;
     mutable std::vector<double> values_;
     mutable int valuesColumn_ = -1;
 };

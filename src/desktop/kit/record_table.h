@@ -2,6 +2,8 @@
 // row goes by its number in that order, from 0, however the user has sorted the table. Knows texts only.
 #pragma once
 
+#include <functional>
+#include <utility>
 #include <vector>
 
 #include <QList>
@@ -36,6 +38,9 @@ public:
     /// The rows in the owner's order. The sorting, the numbers that are selected and the place scrolled to
     /// stay, and no signal is sent. Nothing happens when the rows are those already shown.
     void setRows(std::vector<QStringList> rows);
+
+    /// Where the tip of a row comes from, by its number in the owner's order; asked for when it is shown.
+    void setTips(std::function<QString(int row)> tips) { records_->setTips(std::move(tips)); }
 
     /// Selects these rows and no others, without a signal. Numbers without a row are left out.
     void setSelectedRows(const QList<int>& rows);
