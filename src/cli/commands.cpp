@@ -8,6 +8,7 @@
 
 #include "base/number_text.h"
 #include "cli/json_text.h"
+#include "engine/power_test.h"
 #include "persistence/scenario_list.h"
 #include "session/answers.h"
 #include "validation/icc_messages.h"
@@ -24,7 +25,8 @@ void printPowerLines(const Session& session, std::ostream& out) {
     if (hasPower(session)) {
         printLine(out, "Power", fixedText(result.txtPower, 4));
         printLine(out, "Critical value", fixedText(result.txtCritT, 4));
-        printLine(out, "Degrees of freedom", shortestText(result.xdf));
+        if (!isNormalTest(session.study()))
+            printLine(out, "Degrees of freedom", shortestText(result.xdf));
         printLine(out, "Lambda", fixedText(result.xLambda, 4));
     }
     printLine(out, "Cost", costText(result.txtCost, session.settings().currency));
@@ -46,6 +48,8 @@ Json powerJson(const Session& session) {
                  {"effectName", effect.name},
                  {"effect", effect.value},
                  {"message", valid ? "" : whyNoPower(session)}};
+    if (isNormalTest(session.study()))
+        json.erase("df");
     addNotes(json, truncationNote(session.study()));
     return json;
 }

@@ -64,13 +64,16 @@ TestPower GetPowerBinary(DistributionLibrary& library, PowerOptions mode, double
     return {crit, tails == Tails::one ? above : above + NormalCDF(library, lower)};
 }
 
+bool isNormalTest(const Study& study) {
+    return study.isBinary() && study.BinaryType == BinaryTypes::riskDifference &&
+           study.PowerOption == PowerOptions::zDistribution;
+}
+
 void ComputePower(Study& study, DistributionLibrary& library) {
     if (!study.isTested())
         return;
     const PowerResult& in = study.result;
-    const bool normal = study.isBinary() && study.BinaryType == BinaryTypes::riskDifference &&
-                        study.PowerOption == PowerOptions::zDistribution;
-    const TestPower test = normal
+    const TestPower test = isNormalTest(study)
                                ? GetPowerBinary(library, study.PowerOption, study.txtAlpha, study.txtTails,
                                                 in.xdf, in.txtVarPooled, in.txtVarSep, in.txtBinaryES)
                                : GetPowerTDist(library, study.txtAlpha, study.txtTails, in.xdf, in.xLambda);

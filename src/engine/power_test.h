@@ -23,6 +23,9 @@ double SmallerOf(double a, double b);
 /// P(T > t) of the noncentral t distribution with noncentrality lambda, 0 or more; df 1 or more.
 double GetPowerT(DistributionLibrary& library, double t, double df, double lambda);
 
+/// Whether the study's test is the normal one, which has no degrees of freedom.
+bool isNormalTest(const Study& study);
+
 /// What a test comes to.
 struct TestPower {
     double crit;   ///< critical value, positive

@@ -22,6 +22,10 @@ def check_answers(folder):
     code, out, _ = run("power", STUDY, "--scenario", "20 schools", "--json")
     answer = json.loads(out)
     assert code == 0 and answer["valid"] and answer["df"] == 18 and 0.86 < answer["power"] < 0.87, out
+    for option, has_df in (("PowerOption=1", True), ("PowerOption=2", False)):
+        binary = [STUDY, "--set", "DataType=2", "--set", "BinaryType=3", "--set", "txtRD=0.1", "--set", option]
+        assert ("Degrees of freedom" in run("power", *binary)[1]) == has_df, option
+        assert ("df" in json.loads(run("power", *binary, "--json")[1])) == has_df, option
     code, out, _ = run("scenarios", STUDY)
     assert code == 0 and len(out.splitlines()) == 4 and "No pretest" in out, out
     code, out, _ = run("scenarios", STUDY, "--json")
