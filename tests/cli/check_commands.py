@@ -2,17 +2,19 @@
 
 import json
 import os
+import shlex
 import subprocess
 import sys
 import tempfile
 from pathlib import Path
 
 PROGRAM, EXAMPLES = sys.argv[1], Path(sys.argv[2])
+DOCUMENTS = Path(sys.argv[3])
 STUDY = str(EXAMPLES / "schools.Lorvane")
 
 
-def run(*arguments, text=""):
-    done = subprocess.run([PROGRAM, *arguments], input=text, capture_output=True, text=True, timeout=60)
+def run(*arguments, text="", folder=None):
+    done = subprocess.run([PROGRAM, *arguments], input=text, capture_output=True, text=True, timeout=60, cwd=folder)
     return done.returncode, done.stdout, done.stderr
 
 
@@ -181,8 +183,27 @@ def check_help():
     assert run("--version")[1].startswith("Lorvane ")
 
 
+def documented_commands(document):
+    """The commands of a document's blocks, "$ lorvane-cli ...", each with the output that stands below it."""
+    for block in document.read_text().split("```")[1::2]:
+        for step in block.replace("\\\n", "").split("\n$ ")[1:]:
+            command, _, output = step.partition("\n")
+            yield shlex.split(command), output.strip()
+
+
+def check_documents(folder):
+    (Path(folder) / "assets").symlink_to(EXAMPLES.parent)
+    for document in (DOCUMENTS / "docs/comparison.md",):
+        commands = list(documented_commands(document))
+        assert commands, document
+        for (program, *arguments), output in commands:
+            _, out, err = run(*arguments, folder=folder)
+            assert program.endswith("lorvane-cli") and (out + err).strip() == output, (document, arguments, out + err)
+
+
 def main():
     with tempfile.TemporaryDirectory() as folder:
+        check_documents(folder)
         check_answers(folder)
         check_failures(folder)
         check_optimal(folder)
