@@ -14,7 +14,8 @@ STUDY = str(EXAMPLES / "schools.Lorvane")
 
 
 def run(*arguments, text="", folder=None):
-    done = subprocess.run([PROGRAM, *arguments], input=text, capture_output=True, text=True, timeout=60, cwd=folder)
+    done = subprocess.run([PROGRAM, *arguments], input=text, capture_output=True, text=True, timeout=60, cwd=folder,
+                          env={**os.environ, "LC_ALL": "C"})
     return done.returncode, done.stdout, done.stderr
 
 
@@ -193,7 +194,7 @@ def documented_commands(document):
 
 def check_documents(folder):
     (Path(folder) / "assets").symlink_to(EXAMPLES.parent)
-    for document in (DOCUMENTS / "docs/comparison.md",):
+    for document in (DOCUMENTS / "README.md", DOCUMENTS / "docs/comparison.md"):
         commands = list(documented_commands(document))
         assert commands, document
         for (program, *arguments), output in commands:
