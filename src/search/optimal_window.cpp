@@ -202,7 +202,12 @@ void OptimalWindow::registerButtons(EventRegistry& events) {
 
 bool OptimalWindow::isOpen() const { return design_.isOpen(WindowId::frmOptimal); }
 
-// An edit takes the result away: it must not be pasted onto another study.
+// Open, or away for a message or with the study before, so that it can come back without its command.
+bool OptimalWindow::canBeSeen() const {
+    return isOpen() || design_.windows().state(WindowId::frmOptimal) == WindowStates::withdrawn;
+}
+
+// An edit takes the result away, also of a wizard that makes way: it must not be pasted onto another study.
 void OptimalWindow::follow(const Changed& changed) {
     writeHeads();
     if (changed.reach == Reach::study || changed.reach == Reach::anew)
@@ -270,7 +275,7 @@ void OptimalWindow::writeHeads() {
 double OptimalWindow::requiredPower() const { return requiredPower_.value_or(design_.study().ReqPower); }
 
 void OptimalWindow::ReDisplayOptimal() {
-    if (running_ || !isOpen())
+    if (running_ || !canBeSeen())
         return;
     const Study& s = design_.study();
     pnlFindPower_.Caption = "Find the number of " + s.txtName(s.NumLevels) + " needed for power of " +

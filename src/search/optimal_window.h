@@ -105,6 +105,7 @@ public:
 
 private:
     bool isOpen() const;
+    bool canBeSeen() const;
     bool hasResult() const { return state_ == State::result; }
     bool isManual(int level) const { return rows_(level).optManual.Value; }
     void registerRow(EventRegistry& events, int level);
