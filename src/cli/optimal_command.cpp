@@ -68,7 +68,7 @@ Answer search(const OptimalRequest& request, Session& session) {
     session.keepSearchOutcome(answer.result.flags);
     if (answer.result.ending != OptimalEnding::found) {
         const OptimalFailure failure =
-            optimalFailure(answer.result.ending, readinessProblems(session.study()));
+            optimalFailure(session.study(), answer.result, readinessProblems(session.study()));
         const std::string title = onOneLine(failure.title);
         answer.why = title + (title.empty() ? "" : ". ") + onOneLine(failure.text);
         return answer;

@@ -41,7 +41,7 @@ private:
     void writeLowerSizes(const SizeRatios& ratios);
     void leaveRoomForCovariates(int level, double ratio);
     bool isOver() const { return result_.ending != OptimalEnding::found; }
-    void end(OptimalEnding ending) { result_.ending = ending; }
+    void end(OptimalEnding ending);
     int top() const { return s_.NumLevels; }
     bool findFirstValid();
     void raiseTop(double step);
@@ -60,6 +60,12 @@ private:
     TrialBench bench_;
     double first_ = 0;  ///< the least size of the top level with a valid design
 };
+
+void Search::end(OptimalEnding ending) {
+    result_.ending = ending;
+    if (ending == OptimalEnding::noSolution)
+        s_.result.Adjusteddf = SizeAdjustments::noSolution;
+}
 
 // The sizes of the levels below the top; false when the search may not run.
 bool Search::prepareSizes() {
@@ -111,7 +117,6 @@ bool Search::findFirstValid() {
     bool raised = false;
     while (!s_.result.xValid) {
         if (n >= largestFirstTop) {
-            s_.result.Adjusteddf = SizeAdjustments::noSolution;
             end(OptimalEnding::noSolution);
             return false;
         }

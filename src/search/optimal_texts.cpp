@@ -12,6 +12,9 @@ namespace lorvane {
 namespace {
 
 constexpr int decimalsOfMyStr = 2;
+constexpr const char* noSolution =
+    "The program has not been able to find a solution. Please save the study and send it to the makers of "
+    "Lorvane, so that they can look into it.";
 
 bool iccIs(const Study& s, IccMetrics metric) { return s.IccMetric == metric; }
 
@@ -130,6 +133,17 @@ std::string raisedTopNote(const Study& s) {
            top + "-level covariates. " + costWithout(s, s.NumLevels);
 }
 
+std::string raisedLevel1Note(const Study& s) {
+    return "The number of " + s.txtName(1) + " has been increased to avoid low cell counts.";
+}
+
+std::string noSolutionText(const Study& s, const OptimalResult& result) {
+    std::string text = noSolution;
+    if (result.level1Raised)
+        text.append("\n").append(raisedLevel1Note(s));
+    return text;
+}
+
 std::string nearbyNote(const Study& s, const Trial& nearby, const Currency& currency) {
     std::string note = "A nearby design costs " + ReFormatCurrency(nearby.cost, currency) + ":";
     for (int level = s.NumLevels; level >= 1; --level) {
@@ -150,12 +164,11 @@ std::vector<ReadinessProblem> readinessProblems(const Study& study) {
     return problems;
 }
 
-OptimalFailure optimalFailure(OptimalEnding ending, const std::vector<ReadinessProblem>& problems) {
-    switch (ending) {
+OptimalFailure optimalFailure(const Study& s, const OptimalResult& result,
+                              const std::vector<ReadinessProblem>& problems) {
+    switch (result.ending) {
     case OptimalEnding::noSolution:
-        return {"",
-                "The program has not been able to find a solution. Please save the study and send it to the "
-                "makers of Lorvane, so that they can look into it."};
+        return {"", noSolutionText(s, result)};
     case OptimalEnding::costOverflow:
         return {"", "Cannot compute because the cost has exceeded the computer's memory."};
     case OptimalEnding::stopped:
@@ -184,7 +197,7 @@ std::vector<std::string> optimalNotes(const Study& s, const OptimalResult& resul
     if (result.covariatesAreTight)
         notes.push_back("It may be possible to lower costs by removing some covariates.");
     if (result.level1Raised)
-        notes.push_back("The number of " + s.txtName(1) + " has been increased to avoid low cell counts.");
+        notes.push_back(raisedLevel1Note(s));
     if (result.nearby)
         notes.push_back(nearbyNote(s, *result.nearby, currency));
     if (std::string note = truncationNote(s); !note.empty())

@@ -31,7 +31,8 @@ struct OptimalFailure {
     std::string title;  ///< empty where there is none
     std::string text;
 };
-OptimalFailure optimalFailure(OptimalEnding ending, const std::vector<ReadinessProblem>& problems);
+OptimalFailure optimalFailure(const Study& study, const OptimalResult& result,
+                              const std::vector<ReadinessProblem>& problems);
 
 /// The notes of a finished run, a paragraph each. The options are those of the run.
 std::vector<std::string> optimalNotes(const Study& study, const OptimalResult& result,

@@ -436,7 +436,7 @@ void OptimalWindow::showNone(const std::vector<ReadinessProblem>& problems) {
         for (const ReadinessProblem& problem : problems)
             mark(design_, problem);
     }
-    const OptimalFailure failure = optimalFailure(result_.ending, problems);
+    const OptimalFailure failure = optimalFailure(design_.study(), result_, problems);
     say(stateAfter(result_.ending), failure.title, failure.text);
     if (result_.ending == OptimalEnding::noSolution) {
         pnlOptimalCost_.Caption = "Solution not found. ";
