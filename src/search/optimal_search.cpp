@@ -63,6 +63,7 @@ private:
 
 void Search::end(OptimalEnding ending) {
     result_.ending = ending;
+    s_.result.txtCostProblem = ending == OptimalEnding::costOverflow;
     if (ending == OptimalEnding::noSolution)
         s_.result.Adjusteddf = SizeAdjustments::noSolution;
 }
@@ -129,15 +130,14 @@ bool Search::findFirstValid() {
     return true;
 }
 
-// Raises the top level by steps until the power is reached.
+// Raises the top level by steps until the power is reached. A trial may cost too much on the way: the lower
+// levels have yet to shrink.
 void Search::raiseTop(double step) {
     while (!bench_.reachesPower() && !isOver()) {
         const double n = bench_.size(top()) + step;
         bench_.trySize(top(), n);
-        if (s_.result.txtCostProblem)
-            end(OptimalEnding::costOverflow);
-        else if (n > largestSize)
-            end(OptimalEnding::noSolution);
+        if (n > largestSize)
+            end(s_.result.txtCostProblem ? OptimalEnding::costOverflow : OptimalEnding::noSolution);
         else if (bench_.runs() % runsBetweenLooks == 0 && !progress_.goOn())
             end(OptimalEnding::stopped);
     }
@@ -182,29 +182,36 @@ void Search::DoTweak() {
     }
 }
 
-void Search::record() { result_.trials.push_back(bench_.trial()); }
+// A trial whose cost left its range is too dear to be an answer.
+void Search::record() {
+    if (!s_.result.txtCostProblem)
+        result_.trials.push_back(bench_.trial());
+}
 
 void Search::CallFindM() {
     FindM();
     if (isOver())
         return;
     record();
+    const LevelSizes first = bench_.trial().sizes;
     for (int i = 1; i <= options_.iterations; ++i) {
         if (!progress_.goOn()) {
             end(OptimalEnding::stopped);
             return;
         }
-        const Trial& first = result_.trials.front();
-        bench_.setSizes(first.sizes);
-        bench_.setSize(top(), first.sizes(top()) + i);
+        bench_.setSizes(first);
+        bench_.setSize(top(), first(top()) + i);
         DoTweak();
         record();
         result_.aTrialFailed = result_.aTrialFailed || !s_.result.xValid;
     }
-    chooseBest();
+    if (result_.trials.empty())
+        end(OptimalEnding::costOverflow);
+    else
+        chooseBest();
 }
 
-// The first of the cheapest; a cost that overflowed reads 0 and ends the search as a failure.
+// The first of the cheapest.
 void Search::chooseBest() {
     for (std::size_t i = 1; i < result_.trials.size(); ++i) {
         const std::int32_t cost = result_.trials[i].cost;
@@ -213,8 +220,6 @@ void Search::chooseBest() {
     }
     bench_.setSizes(result_.cheapest().sizes);
     bench_.compute();
-    if (s_.result.txtCostProblem)
-        end(OptimalEnding::costOverflow);
 }
 
 bool Search::covariatesAreTight() const {
@@ -244,7 +249,6 @@ void Search::run() {
 
 OptimalResult searchOptimalDesign(StudyTrial trial, const OptimalOptions& options, Progress& progress) {
     OptimalResult result;
-    trial.study.result.txtCostProblem = false;
     Search search(trial.study, trial.library(), options, progress, result);
     search.run();
     result.runs = search.runs();

@@ -18,7 +18,7 @@ enum class OptimalEnding {
     found,
     notReady,      ///< the study fails a readiness check; its flags tell which
     noSolution,    ///< no size of the top level gives a valid design, or none in reach gives the power
-    costOverflow,  ///< the cost left the 32-bit range
+    costOverflow,  ///< every design that reaches the power costs more than 32 bits hold
     stopped        ///< by the user
 };
 
@@ -32,7 +32,7 @@ struct SizeChange {
 
 struct OptimalResult {
     OptimalEnding ending = OptimalEnding::notReady;
-    std::vector<Trial> trials;        ///< the first reaches the power with the least top level
+    std::vector<Trial> trials;        ///< by growing top level, from the least that reaches the power
     std::size_t best = 0;             ///< the cheapest trial, the first of several
     bool topRaisedForDf = false;      ///< the least valid top level has more power than required
     bool level1Raised = false;        ///< to avoid low cell counts

@@ -11,6 +11,7 @@ void TrialBench::setSizes(const LevelSizes& sizes) {
 }
 
 void TrialBench::compute() {
+    study_.result.txtCostProblem = false;
     docompute(study_, library_);
     ++runs_;
 }

@@ -20,6 +20,7 @@ public:
     void setSize(int level, double n) { study_.txtNT(level) = study_.txtNC(level) = study_.txtNB(level) = n; }
     void setSizes(const LevelSizes& sizes);
 
+    /// The flag of the cost is this trial's own.
     void compute();
     void trySize(int level, double n) {
         setSize(level, n);
