@@ -2,7 +2,9 @@
 #include "search/optimal_search.h"
 
 #include <algorithm>
+#include <cmath>
 
+#include "base/leaps.h"
 #include "base/money.h"
 #include "search/least_sizes.h"
 #include "search/nearby_designs.h"
@@ -15,22 +17,25 @@ namespace {
 
 constexpr double largestSize = 100000000;
 constexpr double largestFirstTop = 110;  // by then a valid design must have been met
-constexpr int runsBetweenLooks = 1000;
 constexpr int slackOfTop = 5;  // a top level with covariates this near to its least size gets a note
 
-// Steps of the descent: how far a level shrinks at once, and how far above its least size it must be.
+// Steps of the descent: how far a level shrinks at once, and how far above its least size it stays.
 struct Descent {
     double step;
     double margin;
 };
-constexpr Descent descents[] = {{1000, 1000}, {100, 100}, {20, 20}, {2, 4}, {1, 1}};
+constexpr Descent descents[] = {{1000, 1000}, {100, 100}, {20, 20}, {2, 4}, {1, 0}};
+
+long long wholeSteps(double distance, double step) {
+    return distance < step ? 0 : static_cast<long long>(std::floor(distance / step));
+}
 
 class Search {
 public:
     Search(Study& study, DistributionLibrary& library, const OptimalOptions& options, Progress& progress,
            OptimalResult& result)
         : s_(study), options_(options), progress_(progress), result_(result),
-          bench_(study, library, options.power) {}
+          bench_(study, library, options.power, progress) {}
 
     void run();
     std::int64_t runs() const { return bench_.runs(); }
@@ -49,8 +54,10 @@ private:
     void DoLoop(int level, double minimum);
     void DoTweak();
     void CallFindM();
+    void iterate();
     void record();
     void chooseBest();
+    void search();
     bool covariatesAreTight() const;
 
     Study& s_;
@@ -130,17 +137,20 @@ bool Search::findFirstValid() {
     return true;
 }
 
-// Raises the top level by steps until the power is reached. A trial may cost too much on the way: the lower
-// levels have yet to shrink.
+// Raises the top level by steps until the power is reached, which rises with it. A trial may cost too much on
+// the way: the lower levels have yet to shrink.
 void Search::raiseTop(double step) {
-    while (!bench_.reachesPower() && !isOver()) {
-        const double n = bench_.size(top()) + step;
-        bench_.trySize(top(), n);
-        if (n > largestSize)
-            end(s_.result.txtCostProblem ? OptimalEnding::costOverflow : OptimalEnding::noSolution);
-        else if (bench_.runs() % runsBetweenLooks == 0 && !progress_.goOn())
-            end(OptimalEnding::stopped);
-    }
+    if (bench_.reachesPower())
+        return;
+    const double start = bench_.size(top());
+    const long long most = wholeSteps(largestSize - start, step);
+    const auto missesAfter = [&](long long steps) {
+        bench_.trySize(top(), start + static_cast<double>(steps) * step);
+        return !bench_.reachesPower();
+    };
+    const long long missed = stepsWhile(most, missesAfter);
+    if (missesAfter(std::min(missed + 1, most)))
+        end(s_.result.txtCostProblem ? OptimalEnding::costOverflow : OptimalEnding::noSolution);
 }
 
 // The least top level that reaches the power, by ever finer steps; then the lower levels are shrunk.
@@ -158,18 +168,20 @@ void Search::FindM() {
         DoTweak();
 }
 
-// Shrinks a level as long as the power is reached. All steps but the last are taken back once.
+// Shrinks a level by ever finer steps as long as the power is reached, which falls with it.
 void Search::DoLoop(int level, double minimum) {
-    for (const Descent& descent : descents) {
-        const auto mayShrink = [&] {
-            return bench_.reachesPower() && bench_.size(level) >= minimum + descent.margin;
+    if (!bench_.reachesPower())
+        return;
+    for (const auto& [step, margin] : descents) {
+        const double start = bench_.size(level);
+        const long long most = wholeSteps(start - minimum - margin, step);
+        const auto reachesAfter = [&](long long steps) {
+            const double n = start - static_cast<double>(steps) * step;
+            if (n != bench_.size(level))
+                bench_.trySize(level, n);
+            return bench_.reachesPower();
         };
-        if (!mayShrink())
-            continue;
-        while (mayShrink())
-            bench_.trySize(level, bench_.size(level) - descent.step);
-        const bool takeBack = descent.step > 1 || !bench_.reachesPower();
-        bench_.trySize(level, bench_.size(level) + (takeBack ? descent.step : 0));
+        reachesAfter(stepsWhile(most, reachesAfter));
     }
 }
 
@@ -193,22 +205,24 @@ void Search::CallFindM() {
     if (isOver())
         return;
     record();
+    iterate();
+    if (result_.trials.empty())
+        end(OptimalEnding::costOverflow);
+    else
+        chooseBest();
+}
+
+void Search::iterate() {
     const LevelSizes first = bench_.trial().sizes;
     for (int i = 1; i <= options_.iterations; ++i) {
-        if (!progress_.goOn()) {
-            end(OptimalEnding::stopped);
-            return;
-        }
+        if (!progress_.goOn())
+            throw SearchStopped();
         bench_.setSizes(first);
         bench_.setSize(top(), first(top()) + i);
         DoTweak();
         record();
         result_.aTrialFailed = result_.aTrialFailed || !s_.result.xValid;
     }
-    if (result_.trials.empty())
-        end(OptimalEnding::costOverflow);
-    else
-        chooseBest();
 }
 
 // The first of the cheapest.
@@ -231,7 +245,7 @@ bool Search::covariatesAreTight() const {
     return false;
 }
 
-void Search::run() {
+void Search::search() {
     end(OptimalEnding::found);
     s_.result.Adjusteddf = SizeAdjustments::none;
     if (!prepareSizes())
@@ -243,6 +257,14 @@ void Search::run() {
     result_.topRaisedForDf = s_.result.Adjusteddf == SizeAdjustments::topRaised;
     result_.covariatesAreTight = covariatesAreTight();
     result_.nearby = cheaperNearby(bench_, options_, result_.cheapest());
+}
+
+void Search::run() {
+    try {
+        search();
+    } catch (const SearchStopped&) {
+        end(OptimalEnding::stopped);
+    }
 }
 
 }  // namespace

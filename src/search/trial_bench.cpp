@@ -5,6 +5,12 @@
 
 namespace lorvane {
 
+namespace {
+
+constexpr int runsBetweenLooks = 1000;
+
+}  // namespace
+
 void TrialBench::setSizes(const LevelSizes& sizes) {
     for (int level = 1; level <= study_.NumLevels; ++level)
         setSize(level, sizes(level));
@@ -13,7 +19,8 @@ void TrialBench::setSizes(const LevelSizes& sizes) {
 void TrialBench::compute() {
     study_.result.txtCostProblem = false;
     docompute(study_, library_);
-    ++runs_;
+    if (++runs_ % runsBetweenLooks == 0 && !progress_.goOn())
+        throw SearchStopped();
 }
 
 Trial TrialBench::trial() const {

@@ -148,7 +148,7 @@ void checkTrials(SearchBench& bench, const OptimalResult& result) {
         const Trial& trial = result.trials[i];
         EXPECT_EQ(trial.sizes(top), first.sizes(top) + static_cast<double>(i));
         EXPECT_TRUE(!trial.valid || trial.power >= bench.options.power || i > 0);
-        TrialBench trials(bench.study(), bench.library, bench.options.power);
+        TrialBench trials(bench.study(), bench.library, bench.options.power, bench.progress);
         for (int level = 1; level < top; ++level) {
             trials.setSizes(trial.sizes);
             if (bench.options.manual(level))
@@ -198,6 +198,122 @@ TEST(OptimalSearch, EveryTrialReachesThePowerWithNothingToSpare) {
         checkTrials(bench, result);
     }
     EXPECT_GT(found, 150);
+}
+
+// The search as it goes without leaps: step by step, from the sizes that the ratios give.
+class StepByStep {
+public:
+    StepByStep(SearchBench& bench, const OptimalResult& result)
+        : bench_(bench), trials_(bench.study(), bench.library, bench.options.power, bench.progress),
+          top_(bench.study().NumLevels) {
+        const SizeRatios ratios = ratiosOf(bench, bench.options);
+        for (int level = 1; level < top_; ++level)
+            trials_.setSize(level, std::nearbyint(std::max(ratios(level), 1.0)));
+        for (const SizeChange& change : result.changes)
+            trials_.setSize(change.level, change.to);
+    }
+
+    LevelSizes first() {
+        double least = Getmin(bench_.study(), top_);
+        for (trials_.trySize(top_, least); !bench_.study().result.xValid;)
+            trials_.trySize(top_, ++least);
+        for (const double step : {500, 100, 10, 1}) {
+            while (!trials_.reachesPower())
+                trials_.trySize(top_, trials_.size(top_) + step);
+            if (step > 1)
+                trials_.trySize(top_, std::max(trials_.size(top_) - step, least));
+        }
+        shrink();
+        return trials_.trial().sizes;
+    }
+
+    LevelSizes withTop(LevelSizes sizes, double top) {
+        sizes(top_) = top;
+        trials_.setSizes(sizes);
+        shrink();
+        return trials_.trial().sizes;
+    }
+
+private:
+    void shrink() {
+        trials_.compute();
+        for (int level = top_ - 1; level >= 1; --level) {
+            if (!bench_.options.manual(level))
+                shrink(level, Getmin(bench_.study(), level));
+        }
+    }
+
+    void shrink(int level, double least) {
+        const std::pair<double, double> steps[] = {{1000, 1000}, {100, 100}, {20, 20}, {2, 4}, {1, 1}};
+        for (const auto& [step, margin] : steps) {
+            const auto goesOn = [&, margin = margin] {
+                return trials_.reachesPower() && trials_.size(level) >= least + margin;
+            };
+            if (!goesOn())
+                continue;
+            while (goesOn())
+                trials_.trySize(level, trials_.size(level) - step);
+            if (step > 1 || !trials_.reachesPower())
+                trials_.trySize(level, trials_.size(level) + step);
+        }
+    }
+
+    SearchBench& bench_;
+    TrialBench trials_;
+    const int top_;
+};
+
+// Values of an open-ended range of sizes, costs and powers.
+void makeWide(SearchBench& bench, std::mt19937& random) {
+    makeRandom(bench, random);
+    const auto tenTo = [&](double low, double high) {
+        return std::pow(10, std::uniform_real_distribution<double>(low, high)(random));
+    };
+    Study& s = bench.study();
+    for (int level = 1; level <= s.NumLevels; ++level) {
+        s.txtTauSq(level) = tenTo(-12, -1);
+        s.txtICC(level) = level > 1 ? tenTo(-8, -1) : 0;
+        for (auto* costs : {&s.txtCostT, &s.txtCostC, &s.txtCostB})
+            (*costs)(level) = tenTo(-7, 7);
+    }
+    s.txtAlpha = tenTo(-4, -0.5);
+    s.txtd = tenTo(-1.5, 0);
+    s.txtTails = Tails(1 + static_cast<int>(random() % 2));
+    s.PowerOption = PowerOptions(1 + static_cast<int>(random() % 2));
+    const double powers[] = {0.02, 0.3, 0.8, 0.95, 0.999};
+    bench.options.power = powers[random() % std::size(powers)];
+    bench.options.iterations = 5;
+    for (int level = 1; level <= 3; ++level) {
+        bench.options.manual(level) = random() % 5 == 0;
+        bench.options.numReps(level) = std::floor(tenTo(0, 4));
+    }
+    bench.refresh();
+}
+
+TEST(OptimalSearch, LeapsEndWhereSingleStepsEnd) {
+    std::mt19937 random(17);
+    int found = 0;
+    for (int i = 0; i < 150; ++i) {
+        SearchBench bench;
+        makeWide(bench, random);
+        if (!bench.study().result.xValid)
+            continue;
+        const OptimalResult result = bench.search();
+        EXPECT_LT(result.runs, 10000);
+        if (result.ending != OptimalEnding::found || result.trials.size() < 6)
+            continue;
+        ++found;
+        StepByStep walk(bench, result);
+        const LevelSizes first = walk.first();
+        for (std::size_t trial = 0; trial < result.trials.size(); ++trial) {
+            const double top = first(bench.study().NumLevels) + static_cast<double>(trial);
+            const LevelSizes sizes = trial == 0 ? first : walk.withTop(first, top);
+            for (int level = 1; level <= bench.study().NumLevels; ++level)
+                ASSERT_EQ(result.trials[trial].sizes(level), sizes(level))
+                    << "level " << level << " of trial " << trial << " of study " << i;
+        }
+    }
+    EXPECT_GT(found, 80);
 }
 
 TEST(OptimalSearch, CovariatesAndLowCellsRaiseTheSizes) {
@@ -355,6 +471,34 @@ TEST(OptimalSearch, EveryEndingPutsTheStudyBack) {
     bench.options.manual(1) = true;
     bench.options.numReps(1) = 20;
     EXPECT_EQ(endingOf(), OptimalEnding::found) << "set by hand, a cost of zero does not count";
+}
+
+// Asks to stop at a look of its own choice.
+struct Watch final : Progress {
+    bool goOn() override { return ++looks != stopAt; }
+    int looks = 0;
+    int stopAt = 0;
+};
+
+// A unit of level 1 costs next to nothing: its descents are long.
+TEST(OptimalSearch, DescentsLookAtTheProgress) {
+    SearchBench bench(2, 1);
+    Study& s = bench.study();
+    s.txtICC(2) = 0.3, s.txtTauSq(2) = 2e-9, s.txtd = 0.2, s.txtAlpha = 0.001;
+    s.txtCostT(1) = s.txtCostC(1) = 0.1, s.txtCostB(2) = 1000000;
+    bench.options.power = 0.95;
+    bench.refresh();
+    Watch watch;
+    const auto search = [&] { return searchOptimalDesign(bench.trial, bench.options, watch); };
+    const OptimalResult result = search();
+    EXPECT_EQ(result.ending, OptimalEnding::found);
+    EXPECT_GT(result.runs, 1000);
+    EXPECT_EQ(watch.looks, bench.options.iterations + result.runs / 1000);
+    const int looks = watch.looks;
+    for (watch.stopAt = 1; watch.stopAt <= looks; ++watch.stopAt) {
+        watch.looks = 0;
+        EXPECT_EQ(search().ending, OptimalEnding::stopped) << "at look " << watch.stopAt;
+    }
 }
 
 TEST(OptimalWizard, AStoppedSearchOffersToStartAgain) {

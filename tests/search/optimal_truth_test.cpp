@@ -15,7 +15,7 @@ namespace {
 class Enumeration {
 public:
     Enumeration(SearchBench& bench, const LevelSizes& bounds)
-        : trials_(bench.study(), bench.library, bench.options.power), bounds_(bounds),
+        : trials_(bench.study(), bench.library, bench.options.power, bench.progress), bounds_(bounds),
           top_(bench.study().NumLevels) {
         lookAt(top_ - 1);
     }
