@@ -120,6 +120,9 @@ constexpr int finerRounds = 4;
 
 // Over the admissible range the power of an odds ratio rises to one peak and falls, so its wide range can be
 // leaped over. That of a risk difference is narrow and is walked step by step.
+//
+// An odds ratio below 1 lies between 0 and 1, so its units are ten times finer: its walk ends on a grid of
+// 0.0001, where one above 1 ends on 0.001. That is nearer to the true threshold.
 BinaryMetric metricOf(const Study& study) {
     const int direction = SetDefaultDirection(study);
     if (study.BinaryType == BinaryTypes::riskDifference)
@@ -154,6 +157,9 @@ private:
     bool cutByIcc_ = false;
 };
 
+// Out of reach, the effect told is the one that the climb ends on, within the admissible range: the finest
+// step that gained nothing, and not the highest of all trials. A coarse step may have passed the summit by
+// then, where the power hardly changes.
 MdesResult BinarySearch::run() {
     findLimit();
     climbToPeak();
@@ -217,7 +223,8 @@ void BinarySearch::climb(Count step, double floor) {
 }
 
 // With unequal arms the power of a risk difference first dips below that of no effect; the first climb passes
-// through the dip. Where nothing rises above it the peak is the null effect.
+// through the dip, since a climb that ended there would miss every effect beyond it. What is found is nearer
+// to the true threshold. Where nothing rises above the power of no effect the peak is the null effect.
 void BinarySearch::climbToPeak() {
     Count step = firstStep;
     climb(step, power(0));

@@ -13,7 +13,7 @@ enum class MdesOutcome {
 
 struct MdesResult {
     MdesOutcome outcome = MdesOutcome::problem;
-    double effect = 0;       ///< where the search ended, in the study's own metric
+    double effect = 0;       ///< where the search ended, also out of reach, in the study's own metric
     double power = 0;        ///< of this effect; out of reach: the highest possible
     double controlRate = 0;  ///< event rates of this effect, for a binary study
     double treatedRate = 0;
