@@ -59,7 +59,7 @@ Json mdesJson(const Study& s, double required, const MdesResult& result, const s
     };
     Json json = {{"found", found},
                  {"effectName", std::string(GetESName(s))},
-                 {"effect", found ? Json(result.effect) : Json()},
+                 {"effect", ifSearched(result.effect)},
                  {"power", ifSearched(result.power)},
                  {"requiredPower", required},
                  {"treatedRate", found && s.isBinary() ? Json(result.treatedRate) : Json()},

@@ -58,6 +58,8 @@ def check_mdes():
     assert code == 0 and answer["effectName"] == "odds ratio" and answer["controlRate"] == 0.4, out
     code, out, err = run("mdes", STUDY, *binary, "--set", "txtNB(3)=3", "--power", "0.999")
     assert code == 1 and out == "" and err.startswith("The highest possible power is "), err
+    answer = json.loads(run("mdes", STUDY, *binary, "--set", "txtNB(3)=3", "--power", "0.999", "--json")[1])
+    assert not answer["found"] and f"with an effect size of {answer['effect']}." in answer["message"], answer
     code, out, err = run("mdes", STUDY, "--set", "txtICC(2)=0.95", "--json")
     assert code == 1 and json.loads(out)["power"] is None and "sum of the ICCs" in err, err
 
