@@ -172,11 +172,11 @@ void Search::FindM() {
 void Search::DoLoop(int level, double minimum) {
     if (!bench_.reachesPower())
         return;
-    for (const auto& [step, margin] : descents) {
+    for (const Descent& descent : descents) {
         const double start = bench_.size(level);
-        const long long most = wholeSteps(start - minimum - margin, step);
+        const long long most = wholeSteps(start - minimum - descent.margin, descent.step);
         const auto reachesAfter = [&](long long steps) {
-            const double n = start - static_cast<double>(steps) * step;
+            const double n = start - static_cast<double>(steps) * descent.step;
             if (n != bench_.size(level))
                 bench_.trySize(level, n);
             return bench_.reachesPower();
