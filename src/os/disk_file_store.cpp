@@ -19,7 +19,6 @@ namespace {
 
 namespace fs = std::filesystem;
 
-constexpr mode_t permissionsOfNewFile = 0666;
 constexpr std::size_t readStep = 1u << 16;
 
 // Writes NUL bytes out, since a message would end at the first of them.
@@ -85,21 +84,23 @@ void flushFolder(const fs::path& folder) {
         ::fsync(opened.descriptor());
 }
 
-mode_t permissionsOf(const fs::file_status& status) {
+mode_t permissionsOf(const fs::file_status& status, mode_t permissionsOfNewFile) {
     return fs::exists(status) ? static_cast<mode_t>(status.permissions()) : permissionsOfNewFile;
 }
 
 // The new file is writable at first, because another process must be able to lock it if this one dies. It
 // gets the permissions of the old file, which may be read-only, at the end. Some file systems know no
 // permissions and refuse them; that is no failure.
-void writeWhole(const std::string& path, const fs::path& target, std::string_view content) {
+void writeWhole(const std::string& path, const fs::path& target, std::string_view content,
+                mode_t permissionsOfNewFile) {
     const fs::file_status old = fs::status(target);
     checkThatItIsNoOther(path, old);
-    TemporaryFile file(target, permissionsOf(old) | S_IWUSR);
+    const mode_t permissions = permissionsOf(old, permissionsOfNewFile);
+    TemporaryFile file(target, permissions | S_IWUSR);
     if (!file.isOpen() || !writeAll(file.descriptor(), content) || ::fsync(file.descriptor()) != 0)
         failWriting(path, errorWords(errno));
     if (fs::exists(old))
-        ::fchmod(file.descriptor(), permissionsOf(old));
+        ::fchmod(file.descriptor(), permissions);
     if (!file.takePlaceOf(target))
         failWriting(path, errorWords(errno));
 }
@@ -144,7 +145,7 @@ void DiskFileStore::replace(const std::string& path, std::string_view content) {
         failWriting(path, why);
     try {
         const fs::path target = realTarget(path);
-        writeWhole(path, target, content);
+        writeWhole(path, target, content, permissionsOfNewFile_);
         flushFolder(target.parent_path());
     } catch (const fs::filesystem_error& error) {
         failWriting(path, error.code().message());

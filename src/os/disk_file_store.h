@@ -1,6 +1,8 @@
 // Files on the disk of a POSIX system.
 #pragma once
 
+#include <sys/stat.h>
+
 #include "platform/file_store.h"
 
 namespace lorvane {
@@ -8,6 +10,10 @@ namespace lorvane {
 /// Reads and replaces ordinary files only: a folder, a pipe or a device is a FileProblem.
 class DiskFileStore final : public FileStore {
 public:
+    /// A new file gets these permissions less the umask, from its first byte on.
+    explicit DiskFileStore(mode_t permissionsOfNewFile = 0666)
+        : permissionsOfNewFile_(permissionsOfNewFile) {}
+
     std::string read(const std::string& path, std::size_t largest) const override;
 
     bool exists(const std::string& path) const override;
@@ -15,6 +21,9 @@ public:
     /// Where the path is a symbolic link, the link stays and the file that it leads to is replaced. The new
     /// file keeps the permissions of the old one.
     void replace(const std::string& path, std::string_view content) override;
+
+private:
+    mode_t permissionsOfNewFile_;
 };
 
 }  // namespace lorvane

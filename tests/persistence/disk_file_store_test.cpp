@@ -28,6 +28,10 @@ protected:
         return static_cast<std::size_t>(std::distance(fs::directory_iterator(folder), {}));
     }
 
+    unsigned permissionsOf(const std::string& name) const {
+        return static_cast<unsigned>(fs::status(folder / name).permissions());
+    }
+
     // The reason that a refused action tells.
     std::string reasonOf(const std::function<void()>& action) const {
         try {
@@ -67,7 +71,11 @@ TEST_F(DiskFileStoreTest, KeepsALinkAndThePermissions) {
     store.replace(pathOf("link"), "new");
     EXPECT_TRUE(fs::is_symlink(folder / "link"));
     EXPECT_EQ(contentOf("real"), "new");
-    EXPECT_EQ(fs::status(folder / "real").permissions(), fs::perms::owner_read | fs::perms::owner_write);
+    EXPECT_EQ(permissionsOf("real"), 0600u);
+    const mode_t umask = ::umask(0);
+    DiskFileStore(0640).replace(pathOf("shared"), "new");
+    ::umask(umask);
+    EXPECT_EQ(permissionsOf("shared"), 0640u);
 }
 
 TEST_F(DiskFileStoreTest, FollowsLinksToTheirEnd) {
