@@ -115,13 +115,19 @@ const char* wordOf(Answer answer) {
 
 Json jsonOf(const ScriptedDialogs::ShownMessage& shown) {
     Json buttons = Json::array();
-    for (const Answer button : shown.message.buttons)
-        buttons.push_back(wordOf(button));
-    return {{"kind", "message"},
-            {"title", shown.message.title},
-            {"text", shown.message.text},
-            {"buttons", std::move(buttons)},
-            {"answer", wordOf(shown.answer)}};
+    Json labels = Json::array();
+    for (const MessageButton& button : shown.message.buttons) {
+        buttons.push_back(wordOf(button.answer));
+        labels.push_back(button.label.empty() ? wordOf(button.answer) : button.label);
+    }
+    Json message = {{"kind", "message"},
+                    {"title", shown.message.title},
+                    {"text", shown.message.text},
+                    {"buttons", buttons},
+                    {"answer", wordOf(shown.answer)}};
+    if (labels != buttons)
+        message["labels"] = std::move(labels);
+    return message;
 }
 
 Json jsonOf(const ScriptedDialogs::ShownFileDialog& shown) {

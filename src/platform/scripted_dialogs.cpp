@@ -9,12 +9,13 @@ namespace lorvane {
 namespace {
 
 bool offers(const MessageBox& message, Answer answer) {
-    return std::find(message.buttons.begin(), message.buttons.end(), answer) != message.buttons.end();
+    return std::any_of(message.buttons.begin(), message.buttons.end(),
+                       [&](const MessageButton& button) { return button.answer == answer; });
 }
 
 Answer safeAnswer(const MessageBox& message) {
     if (message.buttons.size() == 1)
-        return message.buttons.front();
+        return message.buttons.front().answer;
     return offers(message, Answer::Cancel) ? Answer::Cancel : Answer::No;
 }
 

@@ -2,6 +2,9 @@
 #include "qt/qt_message_boxes.h"
 
 #include <QMessageBox>
+#include <QPushButton>
+#include <algorithm>
+#include <iterator>
 
 namespace lorvane {
 
@@ -9,33 +12,29 @@ namespace {
 
 struct ButtonRow {
     Answer answer;
-    QMessageBox::StandardButton button;
+    QMessageBox::StandardButton standard;
+    QMessageBox::ButtonRole role;
 };
 
-constexpr ButtonRow buttonRows[] = {{Answer::OK, QMessageBox::Ok},
-                                    {Answer::Cancel, QMessageBox::Cancel},
-                                    {Answer::Yes, QMessageBox::Yes},
-                                    {Answer::No, QMessageBox::No}};
+constexpr ButtonRow buttonRows[] = {{Answer::OK, QMessageBox::Ok, QMessageBox::AcceptRole},
+                                    {Answer::Cancel, QMessageBox::Cancel, QMessageBox::RejectRole},
+                                    {Answer::Yes, QMessageBox::Yes, QMessageBox::AcceptRole},
+                                    {Answer::No, QMessageBox::No, QMessageBox::DestructiveRole}};
 
-QMessageBox::StandardButton buttonOf(Answer answer) {
-    for (const ButtonRow& row : buttonRows) {
-        if (row.answer == answer)
-            return row.button;
-    }
-    return QMessageBox::NoButton;
+const ButtonRow& rowOf(Answer answer) {
+    return *std::find_if(std::begin(buttonRows), std::end(buttonRows),
+                         [&](const ButtonRow& row) { return row.answer == answer; });
 }
 
-// Closing a box by its frame is its Cancel, or its only button.
-Answer answerOf(int button, const MessageBox& message) {
-    for (const ButtonRow& row : buttonRows) {
-        if (row.button == button)
-            return row.answer;
-    }
-    return message.buttons.size() == 1 ? message.buttons.front() : Answer::Cancel;
+QPushButton* addButton(QMessageBox& box, const MessageButton& button) {
+    const ButtonRow& row = rowOf(button.answer);
+    return button.label.empty() ? box.addButton(row.standard)
+                                : box.addButton(QString::fromStdString(button.label), row.role);
 }
 
 }  // namespace
 
+// Closing a box by its frame or by Escape is its Cancel, or its only button.
 Answer QtMessageBoxes::show(const MessageBox& message) {
     if (redraw_)
         redraw_();
@@ -44,12 +43,19 @@ Answer QtMessageBoxes::show(const MessageBox& message) {
     box.setWindowTitle(QString::fromStdString(message.title));
     box.setTextFormat(Qt::PlainText);
     box.setText(QString::fromStdString(message.text));
-    QMessageBox::StandardButtons buttons;
-    for (const Answer answer : message.buttons)
-        buttons |= buttonOf(answer);
-    box.setStandardButtons(buttons);
-    box.setDefaultButton(buttonOf(message.buttons.front()));
-    return answerOf(box.exec(), message);
+    const Answer preset = message.preset.value_or(message.buttons.front().answer);
+    Answer answer = message.buttons.size() == 1 ? message.buttons.front().answer : Answer::Cancel;
+    for (const MessageButton& button : message.buttons) {
+        QPushButton* added = addButton(box, button);
+        if (button.answer == preset)
+            box.setDefaultButton(added);
+        if (button.answer == answer)
+            box.setEscapeButton(added);
+        QObject::connect(added, &QPushButton::clicked, &box,
+                         [&answer, given = button.answer] { answer = given; });
+    }
+    box.exec();
+    return answer;
 }
 
 }  // namespace lorvane

@@ -244,9 +244,10 @@ void Design::RestoreForms(FormSet set) {
         SynchForms(WindowId::Design, WindowAction::bringBack);
 }
 
-Answer Design::ask(std::string title, std::string text, std::vector<Answer> buttons) {
+Answer Design::ask(std::string title, std::string text, std::vector<MessageButton> buttons,
+                   std::optional<Answer> preset) {
     SuspendForms(FormSet::main);
-    const Answer answer = messages_.show({std::move(title), std::move(text), std::move(buttons)});
+    const Answer answer = messages_.show({std::move(title), std::move(text), std::move(buttons), preset});
     RestoreForms(FormSet::main);
     return answer;
 }

@@ -89,8 +89,10 @@ public:
     void SuspendForms(FormSet set);
     void RestoreForms(FormSet set);
 
-    /// Shows a message between SuspendForms and RestoreForms and returns the answer.
-    Answer ask(std::string title, std::string text, std::vector<Answer> buttons = {Answer::OK});
+    /// Shows a message between SuspendForms and RestoreForms and returns the answer. Enter gives the preset
+    /// one, or the first where there is none.
+    Answer ask(std::string title, std::string text, std::vector<MessageButton> buttons = {Answer::OK},
+               std::optional<Answer> preset = {});
 
     /// The close request of the screen asks first; true when the program is to end.
     bool closeRequest();

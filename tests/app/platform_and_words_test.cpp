@@ -76,7 +76,7 @@ TEST(ScriptedAnswers, ComeFromTheQueueElseAreHarmless) {
         ScriptedDialogs boxes;
         for (const Answer answer : c.queued)
             boxes.queue(answer);
-        EXPECT_EQ(boxes.show({"title", "text ", c.buttons}), c.answer);
+        EXPECT_EQ(boxes.show({"title", "text ", {c.buttons.begin(), c.buttons.end()}}), c.answer);
         const auto shown = boxes.take();
         ASSERT_EQ(shown.size(), 1u);
         const auto& message = std::get<ScriptedDialogs::ShownMessage>(shown[0]);
