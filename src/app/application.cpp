@@ -8,6 +8,7 @@
 #include "base/names.h"
 #include "base/number_text.h"
 #include "base/utf8.h"
+#include "persistence/recovery.h"
 
 namespace lorvane {
 
@@ -16,7 +17,8 @@ Application::Application(const Platform& platform)
     : platform_(platform), session_(platform.distributions, detectCurrency(platform.locale),
                                     platform.clock == nullptr ? steadyClock_ : *platform.clock),
       design_(session_, platform.messages), recent_(platform.settings),
-      store_(platform.files, platform.programFolder, platform.hourglass), studyFiles_(design_, store_, recent_, platform.dialogs),
+      store_(platform.files, platform.programFolder, platform.hourglass),
+      studyFiles_(design_, store_, recent_, platform.dialogs),
       startScreen_(design_, studyFiles_, recent_, platform.files),
       optimalWindow_(design_, platform.progress == nullptr ? noProgress_ : *platform.progress),
       commands_(commandRows({session_, design_, dialogs_, details_, mdesWindow_, optimalWindow_,
@@ -189,31 +191,15 @@ void Application::set(std::span<const Assignment> values) { setValues(session_, 
 void Application::start(const std::string& file) {
     handle([&] {
         recent_.GetFiles();
-        const bool broughtBack = offerLeftBehind();
+        const bool broughtBack = Recovery(design_, studyFiles_, platform_.unsaved).offer();
         if (!file.empty() && !broughtBack)
             studyFiles_.OpenFile(file);
         else if (!file.empty())
-            studyFiles_.askAndOpen(file);
+            studyFiles_.askAndOpen(file, Answer::Cancel);
         else if (!broughtBack)
             startScreen_.open();
         design_.SynchForms(WindowId::frmTips, WindowAction::open);
     });
-}
-
-// Whether the study on screen is one that an earlier run has left behind.
-bool Application::offerLeftBehind() {
-    const auto left = platform_.unsaved == nullptr ? std::nullopt : platform_.unsaved->takeLeftBehind();
-    if (!left)
-        return false;
-    const std::string whose = left->file.empty() ? "a new study" : "\"" + left->file + "\"";
-    const Answer answer =
-        design_.ask("Unsaved study",
-                    "Lorvane ended before the last changes of " + whose + " were saved. Bring them back?",
-                    {Answer::Yes, Answer::No});
-    const bool back = answer == Answer::Yes && studyFiles_.bringBack(*left);
-    if (!back)
-        platform_.unsaved->drop();
-    return back;
 }
 
 void Application::askAndOpen(const std::string& path) {

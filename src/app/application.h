@@ -69,6 +69,9 @@ public:
     /// The study as it would be saved now; nothing while it is as it was opened or saved.
     std::optional<UnsavedStudy> unsavedStudy() const { return studyFiles_.unsavedStudy(); }
 
+    /// What became of a study that an earlier run left behind.
+    BroughtBack broughtBack() const noexcept { return studyFiles_.broughtBack(); }
+
     /// Values for the study by name, see loadValues and setValues. Throws UseProblem or ArithmeticFault and
     /// changes nothing then.
     void load(std::span<const Assignment> values);
@@ -125,7 +128,6 @@ public:
     std::vector<ScenarioLine> scenarios() const { return scenarioLines(session_.scenarios()); }
 
 private:
-    bool offerLeftBehind();
     void follow(const Changed& changed);
     void registerNames();
     void registerPanels();

@@ -133,6 +133,8 @@ int printPower(const PowerRequest& request, const CommandLine& line) {
 }
 
 int makeNew(const NewRequest& request, const CommandLine& line) {
+    if (!request.force)
+        line.store.checkFree(request.out);
     applySettings(request.settings, line.session);
     line.store.save(line.session, request.out);
     line.out << "The file " << request.out << " has been saved.\n";

@@ -18,6 +18,7 @@ struct PowerRequest {
 struct NewRequest {
     std::string out;
     std::vector<std::string> settings;
+    bool force = false;  ///< writes over a file that is there
 };
 
 struct ScenariosRequest {

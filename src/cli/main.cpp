@@ -35,6 +35,10 @@ void addSettings(CLI::App* command, std::vector<std::string>& settings) {
         ->allow_extra_args(false);
 }
 
+void addForce(CLI::App* command, bool& force) {
+    command->add_flag("--force", force, "Write over a file that is there");
+}
+
 void addPower(CLI::App& cli, PowerRequest& request) {
     CLI::App* command = cli.add_subcommand("power", "Power and cost of a study");
     command->add_option("STUDY", request.study, "Study file")->required();
@@ -60,6 +64,7 @@ void addOptimal(CLI::App& cli, OptimalRequest& request) {
         ->type_name("K");
     addSettings(command, request.settings);
     command->add_option("--out", request.out, "Save the study with the sizes found")->type_name("NEW");
+    addForce(command, request.force);
     command->add_flag("--json", request.json, "Answer with one JSON object");
     command->footer(
         "Example:\n  lorvane-cli optimal schools.Lorvane --power 0.9 --fix 1=22 --out cheap.Lorvane");
@@ -78,6 +83,7 @@ void addMdes(CLI::App& cli, MdesRequest& request) {
 void addNew(CLI::App& cli, NewRequest& request) {
     CLI::App* command = cli.add_subcommand("new", "A study file from the start values");
     command->add_option("--out", request.out, "Study file to write")->required()->type_name("STUDY");
+    addForce(command, request.force);
     addSettings(command, request.settings);
     command->footer("Example:\n  lorvane-cli new --out trial.Lorvane --set NumLevels=3 --set txtd=0.4");
 }

@@ -118,6 +118,8 @@ Json optimalJson(const Study& s, const Answer& answer) {
 
 int printOptimal(const OptimalRequest& request, const CommandLine& line) {
     Session& session = line.session;
+    if (!request.out.empty() && !request.force)
+        line.store.checkFree(request.out);
     line.store.open(session, request.study);
     applySettings(request.settings, session);
     if (request.iterations)

@@ -17,6 +17,7 @@ struct OptimalRequest {
     std::optional<int> iterations;      ///< larger top levels that are tried; the study's own
     std::string out;                    ///< a file for the study with the sizes found; empty for none
     bool json = false;
+    bool force = false;  ///< writes over a file that is there
 };
 
 /// Prints the sizes, the cost, the power and the notes, and returns the exit code. Throws UseProblem,

@@ -15,6 +15,9 @@ CrashGuard::CrashGuard(Desk& desk, UnsavedStore& store, int interval) : desk_(de
 
 // A saved study needs no picture; a changed one gets one when the time has come.
 void CrashGuard::follow() {
+    const BroughtBack before = std::exchange(broughtBack_, desk_.application().broughtBack());
+    if (broughtBack_ == BroughtBack::letGo && before != BroughtBack::letGo)
+        leavePicture();
     if (desk_.session().isAsSaved())
         forget();
     else if (!timer_.isActive())
@@ -47,9 +50,20 @@ void CrashGuard::forget() {
     writer_.start([this] { store_.drop(); });
 }
 
+// The study on the screen needs a picture of its own then.
+void CrashGuard::leavePicture() {
+    timer_.stop();
+    mayHold_ = false;
+    kept_.reset();
+    writer_.start([this] { store_.leave(); });
+}
+
 void CrashGuard::finish() {
     disconnect(&desk_, nullptr, this, nullptr);
-    forget();
+    if (desk_.application().broughtBack() == BroughtBack::onScreen)
+        leavePicture();
+    else
+        forget();
     writer_.waitForDone();
 }
 

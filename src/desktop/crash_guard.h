@@ -13,7 +13,8 @@
 
 namespace lorvane::desktop {
 
-/// Begins with the first unsaved change and ends with finish; the store is written by another thread.
+/// Begins with the first unsaved change and ends with finish; the store is written by another thread. The
+/// picture of a study that was brought back goes only when that study is saved.
 class CrashGuard : public QObject {
     Q_OBJECT
 
@@ -28,12 +29,14 @@ private:
     void follow();
     void keepPicture();
     void forget();
+    void leavePicture();
 
     Desk& desk_;
     UnsavedStore& store_;
     QTimer timer_;
     QThreadPool writer_;  ///< one thread, so that pictures keep their order
     std::optional<UnsavedStudy> kept_;
+    BroughtBack broughtBack_ = BroughtBack::none;
     bool mayHold_ = true;  ///< there may be a picture, at first one that was taken over
 };
 

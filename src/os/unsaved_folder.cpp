@@ -6,9 +6,11 @@
 
 #include <fcntl.h>
 #include <sys/file.h>
+#include <sys/stat.h>
 #include <unistd.h>
 
 #include <algorithm>
+#include <charconv>
 #include <cstdlib>
 #include <filesystem>
 #include <utility>
@@ -22,6 +24,7 @@ namespace fs = std::filesystem;
 
 constexpr const char* pictureEnding = ".Lorvane";
 constexpr const char* lockEnding = ".lock";
+constexpr const char* asideEnding = ".damaged";
 constexpr int mostAtOnce = 1000;
 constexpr std::size_t largestPicture = 256u << 20;
 constexpr std::size_t longestPath = 1u << 16;
@@ -44,9 +47,11 @@ std::vector<std::string> picturesIn(const std::string& folder) {
     return stems;
 }
 
-void writeOwner(int lock, const std::string& file) {
+// The path of the study's file, and after a NUL byte, which no path holds, the hash of what it held.
+void writeOwner(int lock, const UnsavedStudy& study) {
+    const std::string owner = study.file + '\0' + std::to_string(study.fileContent);
     if (::ftruncate(lock, 0) == 0)
-        static_cast<void>(!::pwrite(lock, file.data(), file.size(), 0));
+        static_cast<void>(!::pwrite(lock, owner.data(), owner.size(), 0));
 }
 
 }  // namespace
@@ -70,8 +75,8 @@ bool UnsavedFolder::takeLock(const std::string& stem, int flags) {
 
 bool UnsavedFolder::makeLock() {
     std::error_code error;
-    if (fs::create_directories(folder_, error))
-        fs::permissions(folder_, fs::perms::owner_all, error);
+    fs::create_directories(folder_, error);
+    fs::permissions(folder_, fs::perms::owner_all, error);
     const std::string own = folder_ + "/unsaved-" + std::to_string(::getpid()) + "-";
     for (int i = 0; i < mostAtOnce; ++i) {
         if (takeLock(own + std::to_string(i), O_CREAT | O_EXCL))
@@ -84,7 +89,7 @@ void UnsavedFolder::keep(const UnsavedStudy& study) {
     if (folder_.empty() || (stem_.empty() && !makeLock()))
         return;
     try {
-        writeOwner(lock_.descriptor(), study.file);
+        writeOwner(lock_.descriptor(), study);
         files_.replace(stem_ + pictureEnding, study.table);
     } catch (const FileProblem&) {
         // Without room for a picture the program works without one.
@@ -96,29 +101,54 @@ void UnsavedFolder::drop() {
         return;
     ::unlink((stem_ + pictureEnding).c_str());
     ::unlink((stem_ + lockEnding).c_str());
+    leave();
+}
+
+void UnsavedFolder::readOwner(UnsavedStudy& study) const {
+    std::string owner(longestPath, '\0');
+    const ssize_t got = ::pread(lock_.descriptor(), owner.data(), owner.size(), 0);
+    owner.resize(got > 0 ? static_cast<std::size_t>(got) : 0);
+    const std::size_t end = std::min(owner.find('\0'), owner.size());
+    study.file = owner.substr(0, end);
+    std::from_chars(owner.data() + std::min(end + 1, owner.size()), owner.data() + owner.size(),
+                    study.fileContent);
+}
+
+// A picture whose lock has been lost is nobody's and is offered too. One that has gone before it was locked
+// was another program's, which has ended well.
+std::optional<LeftBehind> UnsavedFolder::takeLeftBehind() {
+    for (const std::string& stem : picturesIn(folder_)) {
+        const std::string place = stem + pictureEnding;
+        if (!takeLock(stem, O_CREAT))
+            continue;
+        LeftBehind left;
+        left.place = place;
+        left.aside = stem + asideEnding;
+        readOwner(left.study);
+        ::chmod(place.c_str(), forTheUserAlone);
+        try {
+            left.study.table = files_.read(place, largestPicture);
+        } catch (const FileProblem& problem) {
+            left.problem = problem.what();
+        }
+        if (files_.exists(place))
+            return left;
+        drop();
+    }
+    return std::nullopt;
+}
+
+void UnsavedFolder::leave() {
     stem_.clear();
     lock_.closeNow();
 }
 
-std::string UnsavedFolder::readOwner() const {
-    std::string file(longestPath, '\0');
-    const ssize_t got = ::pread(lock_.descriptor(), file.data(), file.size(), 0);
-    file.resize(got > 0 ? static_cast<std::size_t>(got) : 0);
-    return file;
-}
-
-std::optional<UnsavedStudy> UnsavedFolder::takeLeftBehind() {
-    for (const std::string& stem : picturesIn(folder_)) {
-        if (!takeLock(stem, 0))
-            continue;
-        try {
-            return UnsavedStudy{readOwner(), files_.read(stem + pictureEnding, largestPicture)};
-        } catch (const FileProblem&) {
-            stem_.clear();
-            lock_.closeNow();
-        }
-    }
-    return std::nullopt;
+void UnsavedFolder::setAside() {
+    if (stem_.empty())
+        return;
+    ::rename((stem_ + pictureEnding).c_str(), (stem_ + asideEnding).c_str());
+    ::unlink((stem_ + lockEnding).c_str());
+    leave();
 }
 
 }  // namespace lorvane

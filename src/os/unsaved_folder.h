@@ -25,17 +25,19 @@ public:
 
     void keep(const UnsavedStudy& study) override;
     void drop() override;
-    std::optional<UnsavedStudy> takeLeftBehind() override;
+    std::optional<LeftBehind> takeLeftBehind() override;
+    void leave() override;
+    void setAside() override;
 
 private:
     bool takeLock(const std::string& stem, int flags);
     bool makeLock();
-    std::string readOwner() const;
+    void readOwner(UnsavedStudy& study) const;
 
     std::string folder_;
     std::string stem_;  ///< path of picture and lock without their endings; empty while there is none
-    OpenFile lock_;     ///< held as long as the program runs; holds the path of the study's file
-    DiskFileStore files_;
+    OpenFile lock_;     ///< held as long as the program runs; holds the study's file by path and hash
+    DiskFileStore files_{0600};
 };
 
 }  // namespace lorvane

@@ -93,15 +93,19 @@ ScenarioGrid readStudyText(const std::string& text, const std::string& path) {
     }
 }
 
+std::string readStudyFile(const FileStore& files, const std::string& path) {
+    return files.read(path, largestFile);
+}
+
 ScenarioGrid LoadGrid(const FileStore& files, const std::string& path) {
-    return readStudyText(files.read(path, largestFile), path);
+    return readStudyText(readStudyFile(files, path), path);
 }
 
 void SaveGrid(FileStore& files, const std::string& path, const ScenarioGrid& grid) {
     files.replace(path, studyFileText(grid));
 }
 
-void loadTable(Session& session, ScenarioGrid table, const std::string& file) {
+void loadTable(Session& session, ScenarioGrid table, const std::string& file, std::uint64_t content) {
     session.edit({"", Reach::anew, IfFault::show}, [&](SessionState& state) {
         startAnew(state);
         RestoreScenario(table, SystemScenarioName, state);
@@ -110,7 +114,7 @@ void loadTable(Session& session, ScenarioGrid table, const std::string& file) {
         if (file.empty())
             state.settings.currency = session.systemCurrency();
     });
-    session.setCurrentFile(file);
+    session.setCurrentFile(file, content);
 }
 
 void restoreScenario(Session& session, std::size_t place) {

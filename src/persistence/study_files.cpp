@@ -39,13 +39,48 @@ void StudyFiles::remember(const std::string& path) {
     recent_.SaveFiles();
 }
 
-void StudyFiles::save(const std::string& path) {
+void StudyFiles::write(const std::string& path) {
     store_.save(session_, path);
+    broughtBack_ = BroughtBack::none;
     remember(path);
+}
+
+void StudyFiles::save(const std::string& path) {
+    store_.checkUnchanged(session_, path);
+    write(path);
+}
+
+bool StudyFiles::hasChanged(const std::string& path) const {
+    try {
+        store_.checkUnchanged(session_, path);
+        return false;
+    } catch (const FileProblem&) {
+        return true;
+    }
+}
+
+Answer StudyFiles::askAboutChange(const std::string& path) {
+    return design_.ask("The file has changed",
+                       "Another program has changed " + path +
+                           " since it was opened. Saving puts this study in its place. ",
+                       {{Answer::Yes, "Save anyway"}, {Answer::No, "Save as"}, Answer::Cancel}, Answer::No);
+}
+
+// What can be done about a failed save; the study keeps its name and its changes.
+bool StudyFiles::askAfterFailure(const std::string& text) {
+    return design_.ask("File was not saved                       ", text,
+                       {{Answer::Yes, "Save as"}, Answer::Cancel}) == Answer::Yes &&
+           FileSave(SaveMode::saveAs);
 }
 
 bool StudyFiles::FileSave(SaveMode mode) {
     std::string path = session_.currentFile();
+    if (mode == SaveMode::save && hasChanged(path)) {
+        const Answer answer = askAboutChange(path);
+        if (answer == Answer::Cancel)
+            return false;
+        mode = answer == Answer::No ? SaveMode::saveAs : mode;
+    }
     if (mode == SaveMode::saveAs || path.empty()) {
         const auto chosen = chooseFile({FileDialog::Kind::save, "Save file", filter, ""});
         if (!chosen)
@@ -53,12 +88,14 @@ bool StudyFiles::FileSave(SaveMode mode) {
         path = *chosen;
     }
     try {
-        save(path);
+        write(path);
+    } catch (const ProtectedFile& problem) {
+        design_.tellStatus(problem.what());
+        return askAfterFailure(problem.what());
     } catch (const FileProblem& problem) {
         design_.tellStatus(problem.what());
-        design_.ask("File was not saved                       ",
-                    "File could not be saved. It is probably being used by another program                ");
-        return false;
+        return askAfterFailure(
+            "File could not be saved. It is probably being used by another program                ");
     }
     design_.ask("File saved", "The file " + path + " has been saved. ");
     return true;
@@ -74,6 +111,7 @@ void StudyFiles::open(const std::string& path) {
         design_.putBack(windows);
         throw;
     }
+    noteOtherStudy();
     if (!store_.isTemplate(path))
         remember(path);
     design_.SynchForms(WindowId::frmTips, WindowAction::open);
@@ -96,20 +134,25 @@ bool StudyFiles::OpenFile(const std::string& path) {
     }
 }
 
-bool StudyFiles::mayClear() {
+bool StudyFiles::mayClear(Answer preset) {
     return !session_.isDirty() ||
            design_.ask("Confirmation needed",
                        "This will clear all data and saved scenarios. Ok to proceed?         ",
-                       {Answer::OK, Answer::Cancel}) == Answer::OK;
+                       {Answer::OK, Answer::Cancel}, preset) == Answer::OK;
 }
 
-void StudyFiles::askAndOpen(const std::string& path) {
-    if (mayClear())
+void StudyFiles::askAndOpen(const std::string& path, Answer preset) {
+    if (mayClear(preset))
         OpenFile(path);
 }
 
+void StudyFiles::noteOtherStudy() {
+    if (broughtBack_ == BroughtBack::onScreen)
+        broughtBack_ = BroughtBack::letGo;
+}
+
 void StudyFiles::Clear() {
-    if (!mayClear())
+    if (!mayClear(Answer::OK))
         return;
     design_.SuspendForms(FormSet::main);
     try {
@@ -119,6 +162,7 @@ void StudyFiles::Clear() {
         design_.RestoreForms(FormSet::main);
         startWithoutTemplate();
     }
+    noteOtherStudy();
     session_.noteClean();
     session_.noteAsSaved();
 }
@@ -136,20 +180,15 @@ void StudyFiles::startWithoutTemplate() {
 std::optional<UnsavedStudy> StudyFiles::unsavedStudy() const {
     if (session_.isAsSaved())
         return std::nullopt;
-    return UnsavedStudy{session_.currentFile(), studyFileText(savedTable(session_))};
+    return UnsavedStudy{session_.currentFile(), studyFileText(savedTable(session_)), session_.fileContent()};
 }
 
-bool StudyFiles::bringBack(const UnsavedStudy& study) {
-    try {
-        ScenarioGrid table = readStudyText(study.table, study.file);
-        design_.SuspendForms(FormSet::main);
-        loadTable(session_, std::move(table), study.file);
-    } catch (const FileProblem& problem) {
-        design_.tellStatus(problem.what());
-        return false;
-    }
+void StudyFiles::bringBack(const LeftBehind& picture) {
+    ScenarioGrid table = readStudyText(picture.study.table, picture.place);
+    design_.SuspendForms(FormSet::main);
+    loadTable(session_, std::move(table), picture.study.file, picture.study.fileContent);
+    broughtBack_ = BroughtBack::onScreen;
     design_.SynchForms(WindowId::frmTips, WindowAction::open);
-    return true;
 }
 
 }  // namespace lorvane

@@ -14,6 +14,13 @@ namespace lorvane {
 
 enum class SaveMode { save = 0, saveAs = 1 };
 
+/// A study that was brought back keeps its picture until it is saved.
+enum class BroughtBack {
+    none,      ///< there is none, or it has been saved
+    onScreen,  ///< it stands on the screen
+    letGo      ///< another study has taken its place
+};
+
 class StudyFiles {
 public:
     StudyFiles(Design& design, const StudyStore& store, RecentFiles& recent, FileDialogs& dialogs);
@@ -28,12 +35,14 @@ public:
     /// cannot be opened nothing changes; the status line tells why.
     bool OpenFile(const std::string& path);
 
-    /// The same without dialogs and messages. Throws FileProblem and changes nothing then.
+    /// The same without dialogs and messages. Throws FileProblem and changes nothing then; so it does for the
+    /// study's own file when another program has written it since.
     void open(const std::string& path);
     void save(const std::string& path);
 
-    /// Asks whether unsaved work may go, and opens the file; an empty path asks for it.
-    void askAndOpen(const std::string& path);
+    /// Asks whether unsaved work may go, and opens the file; an empty path asks for it. Enter gives the
+    /// preset answer.
+    void askAndOpen(const std::string& path, Answer preset = Answer::OK);
 
     /// Asks for a file to open; nothing on Cancel.
     std::optional<std::string> chooseFile(const FileDialog& dialog);
@@ -44,12 +53,20 @@ public:
     /// The study as it would be saved now; nothing while it is as it was opened or saved. Changes nothing.
     std::optional<UnsavedStudy> unsavedStudy() const;
 
-    /// Puts a study that was not saved on the screen, under the name of its file; false, with the reason in
-    /// the status line, when it cannot be read.
-    bool bringBack(const UnsavedStudy& study);
+    /// Puts a study that was not saved on the screen, under the name of its file. Throws FileProblem and
+    /// changes nothing then.
+    void bringBack(const LeftBehind& picture);
+
+    /// What became of the study that was brought back.
+    BroughtBack broughtBack() const noexcept { return broughtBack_; }
 
 private:
-    bool mayClear();
+    bool mayClear(Answer preset);
+    bool hasChanged(const std::string& path) const;
+    Answer askAboutChange(const std::string& path);
+    bool askAfterFailure(const std::string& text);
+    void write(const std::string& path);
+    void noteOtherStudy();
     void startWithoutTemplate();
     void remember(const std::string& path);
 
@@ -58,6 +75,7 @@ private:
     const StudyStore& store_;
     RecentFiles& recent_;
     FileDialogs& dialogs_;
+    BroughtBack broughtBack_ = BroughtBack::none;
 };
 
 }  // namespace lorvane

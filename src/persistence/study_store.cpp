@@ -5,6 +5,7 @@
 #include <system_error>
 #include <vector>
 
+#include "base/content_hash.h"
 #include "base/names.h"
 #include "base/use_problem.h"
 #include "persistence/scenario_list.h"
@@ -33,7 +34,8 @@ void StudyStore::open(Session& session, const std::string& path) const {
         return;
     }
     const Waiting waiting(hourglass_);
-    loadTable(session, LoadGrid(files_, path), path);
+    const std::string text = readStudyFile(files_, path);
+    loadTable(session, readStudyText(text, path), path, contentHash(text));
     session.noteAsSaved();
 }
 
@@ -45,12 +47,28 @@ void StudyStore::openTemplate(Session& session) const {
 void StudyStore::save(Session& session, const std::string& path) const {
     const Waiting waiting(hourglass_);
     ScenarioGrid table = savedTable(session);
-    SaveGrid(files_, path, table);
+    const std::string text = studyFileText(table);
+    files_.replace(path, text);
     // The state of the screen stays in the table until the next save or open.
     session.edit({"", Reach::display}, [&](SessionState& state) { state.scenarios = std::move(table); });
-    session.setCurrentFile(path);
+    session.setCurrentFile(path, contentHash(text));
     session.noteClean();
     session.noteAsSaved();
+}
+
+void StudyStore::checkUnchanged(const Session& session, const std::string& path) const {
+    if (path != session.currentFile() || !files_.exists(path))
+        return;
+    if (contentHash(readStudyFile(files_, path)) != session.fileContent())
+        throw FileProblem("The file \"" + path +
+                          "\" has been changed by another program since it was opened; save under another "
+                          "name, or open it again.");
+}
+
+void StudyStore::checkFree(const std::string& path) const {
+    if (files_.exists(path))
+        throw FileProblem("The file \"" + path +
+                          "\" is there already; choose another name, or give --force.");
 }
 
 void restoreScenario(Session& session, const std::string& name) {

@@ -27,6 +27,13 @@ public:
     /// that was there stays then.
     void save(Session& session, const std::string& path) const;
 
+    /// Passes when the path is the session's file as it was read or last saved, or when nothing is there that
+    /// saving would lose. Throws FileProblem when another program has written the session's file since.
+    void checkUnchanged(const Session& session, const std::string& path) const;
+
+    /// Throws FileProblem when there is something at the path.
+    void checkFree(const std::string& path) const;
+
     bool isTemplate(const std::string& path) const;
 
 private:

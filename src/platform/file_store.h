@@ -14,6 +14,12 @@ public:
     using std::runtime_error::runtime_error;
 };
 
+/// A file that its owner has protected from being written.
+class ProtectedFile : public FileProblem {
+public:
+    using FileProblem::FileProblem;
+};
+
 class FileStore {
 public:
     virtual ~FileStore() = default;

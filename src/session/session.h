@@ -3,6 +3,7 @@
 #pragma once
 
 #include <cstddef>
+#include <cstdint>
 #include <functional>
 #include <optional>
 #include <string>
@@ -115,7 +116,13 @@ public:
 
     /// Path of the open file; empty for a new study.
     const std::string& currentFile() const noexcept { return currentFile_; }
-    void setCurrentFile(std::string path) { currentFile_ = std::move(path); }
+    void setCurrentFile(std::string path, std::uint64_t content = 0) {
+        currentFile_ = std::move(path);
+        fileContent_ = content;
+    }
+
+    /// Hash of what the open file held when it was last read or written; 0: not known.
+    std::uint64_t fileContent() const noexcept { return fileContent_; }
 
     /// Every computation with a follower makes the study dirty, and so does every step. A save, a clear and
     /// the way back to the saved state end that.
@@ -159,6 +166,7 @@ private:
     std::size_t lastRevision_ = 0;
     std::size_t savedRevision_ = 0;
     std::string currentFile_;
+    std::uint64_t fileContent_ = 0;
     bool dirty_ = false;
     std::vector<std::function<void(const Changed&)>> followers_;
 };

@@ -37,6 +37,9 @@ def check_answers(folder):
     code, out, _ = run("new", "--out", new, "--set", "txtd=0.4", "--set", "ICC Metric=1", "--set", "NumLevels=3",
                        "--set", "RandomizedLevel=2", "--set", "txtName(1)=Patients")
     assert code == 0, out
+    for command in (["new"], ["optimal", STUDY]):
+        code, _, err = run(*command, "--out", new)
+        assert code == 3 and "--force" in err, err
     code, out, _ = run("drive", new, text='get NumLevels RandomizedLevel txtd txtName(1) "ICC Metric"\n')
     assert json.loads(out) == {"NumLevels": 3, "RandomizedLevel": 2, "txtd": 0.4, "txtName(1)": "Patients",
                                "ICC Metric": 1}, out
@@ -92,6 +95,7 @@ def check_optimal(folder):
     code, out, _ = run("optimal", STUDY, "--json")
     answer = json.loads(out)
     assert answer["found"] and answer["power"] >= 0.8 and len(answer["sizes"]) == 3 and answer["cost"] > 0, out
+    assert run("optimal", STUDY, "--force", "--out", cheap)[0] == 0
     code, out, err = run("optimal", STUDY, "--set", "txtModel(3)=1")
     assert code == 1 and out == "" and err.startswith("Model is fixed. Optimal design cannot be computed"), err
     code, out, err = run("optimal", STUDY, "--json", "--set", "txtNB(3)=1")
@@ -158,7 +162,7 @@ def check_paths_that_lead_nowhere(folder):
 def check_output(folder):
     """An answer that cannot be written is an error of its own, whatever the command."""
     commands = [["--help"], ["--version"], ["power", STUDY], ["power", STUDY, "--json"], ["optimal", STUDY],
-                ["mdes", STUDY], ["scenarios", STUDY], ["new", "--out", str(Path(folder) / "x.Lorvane")],
+                ["mdes", STUDY], ["scenarios", STUDY], ["new", "--force", "--out", str(Path(folder) / "x.Lorvane")],
                 ["drive", STUDY], ["power", STUDY, "--set", "txtNB(3)=1"]]
     for arguments in commands:
         read, write = os.pipe()

@@ -20,8 +20,10 @@
 #include "desktop/kit/record_table.h"
 #include "desktop/kit/start_page.h"
 #include "desktop_bench.h"
+#include "persistence/study_file.h"
 #include "qt/qt_file_dialogs.h"
 #include "qt/qt_settings_store.h"
+#include "support/test_platform.h"
 
 namespace lorvane::desktop {
 namespace {
@@ -228,9 +230,13 @@ TEST_F(Files, AWindowThatCannotBePaintedIsToldOnce) {
 struct CountedPictures final : UnsavedStore {
     std::vector<UnsavedStudy> kept;
     int drops = 0;
+    int leaves = 0;
+    std::optional<LeftBehind> left;
     void keep(const UnsavedStudy& study) override { kept.push_back(study); }
     void drop() override { ++drops; }
-    std::optional<UnsavedStudy> takeLeftBehind() override { return std::nullopt; }
+    std::optional<LeftBehind> takeLeftBehind() override { return std::exchange(left, {}); }
+    void leave() override { ++leaves; }
+    void setAside() override {}
 };
 
 TEST_F(Files, UnsavedWorkIsPicturedOffTheClickAndForgottenWhenSaved) {
@@ -248,6 +254,32 @@ TEST_F(Files, UnsavedWorkIsPicturedOffTheClickAndForgottenWhenSaved) {
     ASSERT_EQ(store.kept.size(), 1u) << "one picture of one state";
     EXPECT_NE(store.kept[0].table.find(",d,0.3,"), std::string::npos);
     EXPECT_EQ(store.drops, 1);
+}
+
+// What an earlier run left unsaved stays on the disk until the study that came from it is saved.
+TEST_F(Files, APictureOutlivesAStudyThatIsNotSaved) {
+    struct Case {
+        const char* tool;  ///< before the program ends
+        int drops, leaves;
+    };
+    for (const Case& c : {Case{"", 0, 1}, {"Clear", 0, 1}, {"Save", 1, 0}}) {
+        SCOPED_TRACE(c.tool);
+        TestPlatform outside;
+        CountedPictures store;
+        store.left = LeftBehind{{"/study", studyFileText(savedTable(application.session())), 0}, "", "", ""};
+        Application next(outside.platform(&store));
+        Desk face(next, outside.messages);
+        CrashGuard guard(face, store, 50);
+        outside.messages.queue(Answer::Yes);
+        face.start("");
+        EXPECT_EQ(next.session().currentFile(), "/study");
+        outside.messages.queue(Answer::OK);
+        if (*c.tool != '\0')
+            face.tool(c.tool);
+        guard.finish();
+        EXPECT_EQ(store.drops, c.drops);
+        EXPECT_EQ(store.leaves, c.leaves);
+    }
 }
 
 /// What a person does in a file dialog: types names until one is taken.

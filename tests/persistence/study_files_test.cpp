@@ -11,13 +11,19 @@ namespace {
 struct MemoryUnsaved final : UnsavedStore {
     std::optional<UnsavedStudy> kept;
     int drops = 0;
+    bool left = false;
 
     void keep(const UnsavedStudy& study) override { kept = study; }
     void drop() override {
         kept.reset();
         ++drops;
     }
-    std::optional<UnsavedStudy> takeLeftBehind() override { return kept; }
+    std::optional<LeftBehind> takeLeftBehind() override {
+        return kept && !left ? std::optional(LeftBehind{*kept, "/pictures/1", "/pictures/1.damaged", ""})
+                             : std::nullopt;
+    }
+    void leave() override { left = true; }
+    void setAside() override { left = true; }
 };
 
 // A store that cannot be read or written.
@@ -168,18 +174,93 @@ TEST_F(StudyFilesTest, UnsavedWorkIsOfferedOnceAfterACrash) {
     EXPECT_EQ(outside.files.files["/study"], file);
     EXPECT_EQ(unsaved.drops, 0);
 
+    EXPECT_EQ(again.broughtBack(), BroughtBack::onScreen);
+    again.tool("Save");
+    EXPECT_EQ(again.broughtBack(), BroughtBack::none);
+    app.open("/study");
+
+    // Enter at the next question keeps what was brought back; letting it go keeps the picture.
+    for (const bool letGo : {false, true}) {
+        Application third(outside.platform(&unsaved));
+        outside.messages.queue(Answer::Yes);
+        if (letGo)
+            outside.messages.queue(Answer::OK);
+        outside.messages.take();
+        third.start("/study");
+        EXPECT_EQ(third.broughtBack(), letGo ? BroughtBack::letGo : BroughtBack::onScreen);
+        const auto shown = outside.messages.take();
+        EXPECT_EQ(std::get<ScriptedDialogs::ShownMessage>(shown.at(1)).message.preset, Answer::Cancel);
+    }
+    EXPECT_EQ(unsaved.drops, 0);
+
+    Application later(outside.platform(&unsaved));
+    later.start("");
+    EXPECT_TRUE(unsaved.left) << "nobody answered";
+    unsaved.left = false;
     outside.messages.queue(Answer::No);
     Application refused(outside.platform(&unsaved));
     refused.start("");
     EXPECT_EQ(unsaved.drops, 1);
     EXPECT_EQ(refused.design().windows().state(WindowId::frmStart), WindowStates::open);
+}
 
-    unsaved.kept = UnsavedStudy{"/study", "half a pic"};
+TEST_F(StudyFilesTest, ADamagedPictureIsKeptUnderANameThatIsTold) {
+    unsaved.kept = UnsavedStudy{"/study", "half a pic", 0};
     outside.messages.queue(Answer::Yes);
-    Application damaged(outside.platform(&unsaved));
-    damaged.start("/study");
-    EXPECT_EQ(unsaved.drops, 2);
-    EXPECT_EQ(damaged.design().study().txtd, 0.3);
+    app.start("");
+    const auto shown = outside.messages.take();
+    const MessageBox& question = std::get<ScriptedDialogs::ShownMessage>(shown.at(0)).message;
+    EXPECT_EQ(question.preset, Answer::Cancel);
+    EXPECT_NE(question.text.find("stays as /pictures/1.damaged"), std::string::npos);
+    EXPECT_NE(question.text.find("\"/pictures/1\" is not a study file"), std::string::npos);
+    EXPECT_NE(text("pnlStatus.Caption").find("/pictures/1.damaged"), std::string::npos);
+    EXPECT_TRUE(unsaved.left && unsaved.kept);
+    EXPECT_EQ(unsaved.drops, 0);
+}
+
+// What another program wrote since the study was read is not written over without a question.
+TEST_F(StudyFilesTest, AFileThatAnotherProgramChangedIsAskedAbout) {
+    app.save("/study");
+    const std::string foreign = outside.files.files["/study"] + "\r\n";
+    outside.files.files["/study"] = foreign;
+    setD(0.6);
+    EXPECT_THROW(app.save("/study"), FileProblem);
+    app.tool("Save");
+    EXPECT_EQ(outside.files.files["/study"], foreign) << "nobody answered";
+    outside.messages.queue(Answer::No);
+    outside.messages.queueFile("/mine");
+    app.tool("Save");
+    EXPECT_EQ(text("CurrentFile"), "/mine");
+    EXPECT_EQ(outside.files.files["/study"], foreign);
+    outside.files.files["/mine"] = foreign;
+    outside.messages.queue(Answer::Yes);
+    app.tool("Save");
+    EXPECT_NE(outside.files.files["/mine"], foreign);
+    EXPECT_FALSE(isDirty());
+    outside.messages.take();
+    app.tool("Save");
+    EXPECT_EQ(onlyMessage(), "File saved|The file /mine has been saved. ");
+    outside.files.files.erase("/mine");
+    app.save("/mine");
+}
+
+// The panel of the smallest effect lends the screen its answer.
+TEST_F(StudyFilesTest, ALentEffectReachesNeitherFileNorTheNextStudy) {
+    app.load(std::vector<Assignment>{{"txtd", 0.3}, {"txtNT(2)", 10.0}, {"txtNC(2)", 10.0}});
+    app.save("/other");
+    setD(0.2);
+    app.tool("gfrmMDES");
+    app.click("frmMDES.cmdComputeMDES");
+    ASSERT_NE(app.design().study().txtd, 0.2);
+    app.tool("Add scenario");
+    app.save("/own");
+    app.open("/other");
+    app.click("frmMDES.cmdMDESClose");
+    EXPECT_EQ(app.design().study().txtd, 0.3);
+    app.open("/own");
+    EXPECT_EQ(app.design().study().txtd, 0.2);
+    app.restoreScenario("Scenario 0001");
+    EXPECT_EQ(app.design().study().txtd, 0.2);
 }
 
 TEST_F(StudyFilesTest, WhatADialogTakesCanBeSavedAndOpened) {

@@ -26,7 +26,7 @@ protected:
         const pid_t child = ::fork();
         if (child == 0) {
             UnsavedFolder own((folder / "deep").string());
-            own.keep({"earlier", "and longer than the last"});
+            own.keep({"earlier", "and longer than the last", 1});
             own.keep(study);
             ::kill(::getpid(), SIGKILL);
         }
@@ -36,16 +36,16 @@ protected:
     }
 
     fs::path folder;
-    const UnsavedStudy study{"/home/Größe \"x\"\n.Lorvane", "table\n"};
+    const UnsavedStudy study{"/home/Größe \"x\"\n.Lorvane", "table\n", 17};
 };
 
 TEST_F(UnsavedFolderTest, OnlyWhatADeadProgramKeptIsLeftBehind) {
     auto running = program();
-    running.keep({"running", "x"});
+    running.keep({"running", "x", 0});
     auto other = program();
     EXPECT_FALSE(other.takeLeftBehind().has_value());
     crash();
-    EXPECT_TRUE(other.takeLeftBehind() == study);
+    EXPECT_TRUE(other.takeLeftBehind()->study == study);
     EXPECT_FALSE(program().takeLeftBehind().has_value()) << "it has an owner again";
     other.drop();
     EXPECT_EQ(filesLeft(), 2) << "picture and lock of the running program";
@@ -55,14 +55,32 @@ TEST_F(UnsavedFolderTest, OnlyWhatADeadProgramKeptIsLeftBehind) {
 
 TEST_F(UnsavedFolderTest, APictureThatWasTakenOverStaysUntilItIsDropped) {
     crash();
-    { EXPECT_TRUE(program().takeLeftBehind() == study); }
+    { EXPECT_TRUE(program().takeLeftBehind()->study == study); }
     auto next = program();
-    EXPECT_TRUE(next.takeLeftBehind() == study) << "the program that asked has crashed too";
-    next.keep({"", "newer"});
+    EXPECT_TRUE(next.takeLeftBehind()->study == study) << "the program that asked has crashed too";
+    next.keep({"", "newer", 0});
     EXPECT_EQ(filesLeft(), 2);
     next.drop();
     EXPECT_FALSE(program().takeLeftBehind().has_value());
     EXPECT_EQ(filesLeft(), 0);
+}
+
+TEST_F(UnsavedFolderTest, APictureIsPrivateAndStaysWhereItIsLeftOrSetAside) {
+    fs::create_directories(folder / "deep");
+    crash();
+    EXPECT_EQ(fs::status(folder / "deep").permissions(), fs::perms::owner_all);
+    auto next = program();
+    const auto left = next.takeLeftBehind();
+    EXPECT_EQ(fs::status(left->place).permissions(), fs::perms::owner_read | fs::perms::owner_write);
+    next.leave();
+    next.keep({"", "of its own", 0});
+    EXPECT_EQ(filesLeft(), 4);
+    next.drop();
+    fs::remove(fs::path(left->place).replace_extension(".lock"));
+    EXPECT_EQ(next.takeLeftBehind()->study.table, study.table) << "without a lock it is nobody's";
+    next.setAside();
+    EXPECT_FALSE(program().takeLeftBehind().has_value());
+    EXPECT_TRUE(fs::exists(left->aside));
 }
 
 TEST_F(UnsavedFolderTest, WithoutAFolderThereIsNoPicture) {
