@@ -6,8 +6,10 @@
 #include <unistd.h>
 
 #include <cerrno>
-#include <cstring>
+#include <csignal>
+#include <cstdint>
 #include <filesystem>
+#include <optional>
 #include <system_error>
 
 #include "os/open_file.h"
@@ -20,6 +22,7 @@ namespace {
 namespace fs = std::filesystem;
 
 constexpr std::size_t readStep = 1u << 16;
+constexpr const char* tooLarge = "it is larger than any study file";
 
 // Writes NUL bytes out, since a message would end at the first of them.
 std::string shown(std::string path) {
@@ -33,9 +36,12 @@ std::string shown(std::string path) {
                       "); check its name and its folder.");
 }
 
-[[noreturn]] void failWriting(const std::string& path, const std::string& why) {
-    throw FileProblem("The file \"" + shown(path) + "\" cannot be written (" + why +
-                      "); choose another folder or make room, and save again.");
+constexpr const char* otherPlace = "choose another folder or make room, and save again";
+constexpr const char* otherName = "save under another name";
+
+[[noreturn]] void failWriting(const std::string& path, const std::string& why,
+                              const std::string& whatNext = otherPlace) {
+    throw FileProblem("The file \"" + shown(path) + "\" cannot be written (" + why + "); " + whatNext + ".");
 }
 
 // What is wrong with a name, or nullptr. The system would stop reading a name at a NUL byte and open another
@@ -58,12 +64,28 @@ fs::path realTarget(const std::string& path) {
     return target;
 }
 
-// A folder, a pipe or a device is not replaced by a file.
-void checkThatItIsNoOther(const std::string& path, const fs::file_status& status) {
-    if (fs::is_directory(status))
+// The file that stands at the target, or nothing.
+std::optional<struct stat> fileAt(const std::string& path, const fs::path& target) {
+    struct stat found {};
+    if (::stat(target.c_str(), &found) == 0)
+        return found;
+    if (errno != ENOENT && errno != ENOTDIR)
+        failWriting(path, errorWords(errno));
+    return std::nullopt;
+}
+
+// A folder, a pipe or a device is not replaced by a file. A rename asks nobody whether the old file may be
+// written, and the superuser may write every file; its permissions still say what its owner wants.
+void checkThatItMayGo(const std::string& path, const fs::path& target, const struct stat& old) {
+    if (S_ISDIR(old.st_mode))
         failWriting(path, "it is a folder");
-    if (fs::exists(status) && !fs::is_regular_file(status))
+    if (!S_ISREG(old.st_mode))
         failWriting(path, "it is no ordinary file");
+    const bool hasWriter = (old.st_mode & (S_IWUSR | S_IWGRP | S_IWOTH)) != 0;
+    if (!hasWriter)
+        failWriting(path, "it is write-protected", otherName);
+    if (::faccessat(AT_FDCWD, target.c_str(), W_OK, AT_EACCESS) != 0)
+        failWriting(path, errno == EACCES ? "it is write-protected" : errorWords(errno), otherName);
 }
 
 bool writeAll(int descriptor, std::string_view content) {
@@ -84,23 +106,28 @@ void flushFolder(const fs::path& folder) {
         ::fsync(opened.descriptor());
 }
 
-mode_t permissionsOf(const fs::file_status& status, mode_t permissionsOfNewFile) {
-    return fs::exists(status) ? static_cast<mode_t>(status.permissions()) : permissionsOfNewFile;
+// Owner, group and permissions as the old file has them, as far as the system allows. What its group may do
+// is for no other group. Some file systems know no permissions and refuse them; that is no failure.
+void makeLike(const struct stat& old, int descriptor) {
+    constexpr auto sameOwner = static_cast<uid_t>(-1);
+    const bool hasGroup =
+        ::fchown(descriptor, old.st_uid, old.st_gid) == 0 || ::fchown(descriptor, sameOwner, old.st_gid) == 0;
+    const mode_t kept = hasGroup ? S_IRWXU | S_IRWXG | S_IRWXO : S_IRWXU | S_IRWXO;
+    ::fchmod(descriptor, old.st_mode & kept);
 }
 
-// The new file is writable at first, because another process must be able to lock it if this one dies. It
-// gets the permissions of the old file, which may be read-only, at the end. Some file systems know no
-// permissions and refuse them; that is no failure.
+// The place of an old file is taken by one that is the user's alone until it is complete. It is writable, as
+// another process must be able to lock it if this one dies.
 void writeWhole(const std::string& path, const fs::path& target, std::string_view content,
                 mode_t permissionsOfNewFile) {
-    const fs::file_status old = fs::status(target);
-    checkThatItIsNoOther(path, old);
-    const mode_t permissions = permissionsOf(old, permissionsOfNewFile);
-    TemporaryFile file(target, permissions | S_IWUSR);
+    const std::optional<struct stat> old = fileAt(path, target);
+    if (old)
+        checkThatItMayGo(path, target, *old);
+    TemporaryFile file(target, old ? S_IRUSR | S_IWUSR : permissionsOfNewFile);
     if (!file.isOpen() || !writeAll(file.descriptor(), content) || ::fsync(file.descriptor()) != 0)
         failWriting(path, errorWords(errno));
-    if (fs::exists(old))
-        ::fchmod(file.descriptor(), permissions);
+    if (old)
+        makeLike(*old, file.descriptor());
     if (!file.takePlaceOf(target))
         failWriting(path, errorWords(errno));
 }
@@ -118,11 +145,13 @@ std::string DiskFileStore::read(const std::string& path, std::size_t largest) co
         failReading(path, "it is a folder");
     if (!S_ISREG(status.st_mode))
         failReading(path, "it is no ordinary file");
+    if (static_cast<std::uintmax_t>(status.st_size) > largest)
+        failReading(path, tooLarge);
     std::string content;
     while (true) {
         const std::size_t filled = content.size();
         if (filled > largest)
-            failReading(path, "it is larger than any study file");
+            failReading(path, tooLarge);
         content.resize(filled + readStep);
         const ssize_t got = ::read(file.descriptor(), content.data() + filled, readStep);
         content.resize(filled + static_cast<std::size_t>(got > 0 ? got : 0));
@@ -140,9 +169,11 @@ bool DiskFileStore::exists(const std::string& path) const {
     return fs::exists(path, error);
 }
 
+// A file beyond the size limit of the process would end the program, and shall be a failed write instead.
 void DiskFileStore::replace(const std::string& path, std::string_view content) {
     if (const char* why = problemOfName(path))
         failWriting(path, why);
+    std::signal(SIGXFSZ, SIG_IGN);
     try {
         const fs::path target = realTarget(path);
         writeWhole(path, target, content, permissionsOfNewFile_);

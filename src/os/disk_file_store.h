@@ -19,7 +19,8 @@ public:
     bool exists(const std::string& path) const override;
 
     /// Where the path is a symbolic link, the link stays and the file that it leads to is replaced. The new
-    /// file keeps the permissions of the old one.
+    /// file keeps owner, group and permissions of the old one where the system allows, and never a bit that
+    /// starts it as a program of its owner. A write-protected file is not replaced.
     void replace(const std::string& path, std::string_view content) override;
 
 private:

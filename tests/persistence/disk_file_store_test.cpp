@@ -1,11 +1,14 @@
 #include "os/disk_file_store.h"
 
 #include <fcntl.h>
+#include <grp.h>
 #include <gtest/gtest.h>
+#include <sys/resource.h>
 #include <sys/stat.h>
 #include <sys/wait.h>
 #include <unistd.h>
 
+#include <cstdio>
 #include <filesystem>
 #include <fstream>
 #include <functional>
@@ -14,6 +17,8 @@ namespace lorvane {
 namespace {
 
 namespace fs = std::filesystem;
+
+constexpr uid_t nobody = 65534;
 
 class DiskFileStoreTest : public ::testing::Test {
 protected:
@@ -119,17 +124,88 @@ TEST_F(DiskFileStoreTest, TellsWhatCannotBeDone) {
 
 // Permissions do not bind the superuser, so that the test steps down from it.
 TEST_F(DiskFileStoreTest, TellsWhatIsNotAllowed) {
-    constexpr uid_t nobody = 65534;
-    store.replace(pathOf("study"), "old");
-    fs::permissions(folder / "study", fs::perms::none);
-    fs::permissions(folder, fs::perms::owner_read | fs::perms::owner_exec | fs::perms::others_exec);
+    for (const char* name : {"study", "protected", "others"})
+        store.replace(pathOf(name), "old");
+    ::chmod(pathOf("study").c_str(), 0222);
+    ::chmod(pathOf("protected").c_str(), 0444);
+    EXPECT_EQ(writing(pathOf("protected")), "it is write-protected") << "by its permissions alone";
+    ::chmod(pathOf("others").c_str(), ::geteuid() == 0 ? 0644 : 0444);
+    fs::permissions(folder, fs::perms::owner_read | fs::perms::owner_exec | fs::perms::group_exec);
     const bool steppedDown = ::geteuid() == 0 && ::seteuid(nobody) == 0;
     EXPECT_EQ(reading(pathOf("study")), "Permission denied");
     EXPECT_EQ(writing(pathOf("study")), "Permission denied");
+    EXPECT_EQ(writing(pathOf("others")), "it is write-protected");
     ASSERT_EQ(steppedDown ? ::seteuid(0) : 0, 0);
     fs::permissions(folder, fs::perms::owner_all);
-    fs::permissions(folder / "study", fs::perms::owner_all);
+    for (const char* name : {"study", "protected", "others"}) {
+        fs::permissions(folder / name, fs::perms::owner_all);
+        EXPECT_EQ(contentOf(name), "old");
+    }
+}
+
+// A team's file stays the team's, or nobody's of another group; a new study starts no program.
+TEST_F(DiskFileStoreTest, KeepsOwnerAndGroupWhereTheSystemAllows) {
+    if (::geteuid() != 0)
+        GTEST_SKIP() << "only the superuser gives files away";
+    constexpr gid_t team = 54321, noTeam = 54322;
+    constexpr uid_t owner = 12345;
+    struct Case {
+        uid_t saver;
+        gid_t groupOfSaver, group;
+        mode_t before;
+        std::string after;
+    };
+    fs::permissions(folder, fs::perms::all);
+    for (const Case& c : {Case{0, 0, team, 06664, "12345:54321 664"},
+                          {nobody, team, team, 0666, "65534:54321 666"},
+                          {nobody, noTeam, team, 0666, "65534:65534 606"}}) {
+        store.replace(pathOf("study"), "old");
+        ASSERT_EQ(::chown(pathOf("study").c_str(), owner, c.group), 0);
+        ::chmod(pathOf("study").c_str(), c.before);
+        ASSERT_EQ(::setgroups(1, &c.groupOfSaver), 0);
+        ASSERT_EQ(c.saver == 0 ? 0 : ::setegid(nobody) + ::seteuid(c.saver), 0);
+        EXPECT_EQ(writing(pathOf("study")), "done");
+        ASSERT_EQ(::seteuid(0) + ::setegid(0), 0);
+        struct stat found {};
+        ::stat(pathOf("study").c_str(), &found);
+        char words[64];
+        std::snprintf(words, sizeof words, "%u:%u %o", found.st_uid, found.st_gid, found.st_mode & 07777);
+        EXPECT_EQ(words, c.after);
+        fs::remove(folder / "study");
+    }
+}
+
+// What this process has read from files so far.
+std::size_t bytesRead() {
+    std::ifstream counts("/proc/self/io");
+    std::string name;
+    std::size_t bytes = 0;
+    counts >> name >> bytes;
+    return bytes;
+}
+
+TEST_F(DiskFileStoreTest, RefusesAHugeFileUnread) {
+    std::ofstream(folder / "huge").close();
+    fs::resize_file(folder / "huge", std::uintmax_t{5} << 30);
+    const std::size_t before = bytesRead();
+    EXPECT_EQ(reasonOf([&] { store.read(pathOf("huge"), 1 << 20); }), "it is larger than any study file");
+    EXPECT_LT(bytesRead() - before, 10000u);
+}
+
+TEST_F(DiskFileStoreTest, AFileBeyondTheLimitOfTheProcessIsAFailedSave) {
+    store.replace(pathOf("study"), "old");
+    const pid_t child = ::fork();
+    if (child == 0) {
+        const rlimit limit{1000, 1000};
+        ::setrlimit(RLIMIT_FSIZE, &limit);
+        const auto save = [&] { store.replace(pathOf("study"), std::string(20000, 'x')); };
+        ::_exit(reasonOf(save) == "File too large" ? 0 : 1);
+    }
+    int status = 0;
+    ASSERT_EQ(::waitpid(child, &status, 0), child);
+    EXPECT_EQ(status, 0);
     EXPECT_EQ(contentOf("study"), "old");
+    EXPECT_EQ(filesInFolder(), 1u);
 }
 
 TEST_F(DiskFileStoreTest, RemovesWhatTheDeadLeftAndNothingElse) {

@@ -100,6 +100,11 @@ int fchmod(int file, mode_t mode) {
     return static_cast<int>(isWatched(file) ? changing("fchmod", call) : call());
 }
 
+int fchown(int file, uid_t owner, gid_t group) noexcept {
+    const auto call = [&] { return syscall(SYS_fchown, file, owner, group); };
+    return static_cast<int>(isWatched(file) ? changing("fchown", call) : call());
+}
+
 int fsync(int file) {
     const auto call = [&] { return syscall(SYS_fsync, file); };
     return static_cast<int>(isWatched(file) ? changing("fsync", call) : call());
