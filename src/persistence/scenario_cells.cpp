@@ -27,22 +27,24 @@ struct FileCell {
     std::size_t column;
     FieldRef field;
     bool isDecimals;
-    std::string key;  ///< label of the row
+    std::string key;                      ///< label of the row
+    bool (*isKept)(const SessionState&);  ///< null: always
 };
 
 std::string keyOf(const FilePlace& place, FieldRef ref) {
-    if (place.key.empty() || ref->index != FieldIndex::levelDigit)
+    const bool isOfLevel = ref->index == FieldIndex::levelDigit || ref->index == FieldIndex::level;
+    if (place.key.empty() || !isOfLevel || ref.index == 0)
         return std::string(place.key);
     return std::string(place.key) + std::to_string(ref.index);
 }
 
 void addCell(std::vector<FileCell>& cells, const FilePlace& place, FieldRef ref, bool isDecimals) {
-    if (place.column == 0)
+    if (place.column == 0 || ref.index < place.firstIndex)
         return;
     const int k = place.row + ref.index * place.rowsPerIndex;
     const int column = place.column + ref.index * place.columnsPerIndex;
-    cells.push_back(
-        {static_cast<std::size_t>(k), static_cast<std::size_t>(column), ref, isDecimals, keyOf(place, ref)});
+    cells.push_back({static_cast<std::size_t>(k), static_cast<std::size_t>(column), ref, isDecimals,
+                     keyOf(place, ref), place.isKept});
 }
 
 // The cells of a block from its first row down. Fields of a level have the same decimals at all levels.
@@ -152,6 +154,9 @@ double CellReader::readNumberCell(const FileCell& cell) const {
 }
 
 FieldValue CellReader::read(const FileCell& cell) const {
+    static const SessionState fresh;
+    if (cell.isKept != nullptr && text(cell.k, cell.column).empty())
+        return readField(fresh, cell.field);
     if (!cell.isDecimals && cell.field->member.kind == FieldKind::text)
         return std::string(text(cell.k, cell.column));
     if (!cell.isDecimals && cell.field->member.kind == FieldKind::flag)
@@ -172,6 +177,23 @@ void checkRandomizedLevel(const CellReader& reader) {
                     "a level of the study belongs here");
 }
 
+// Entered limits of risks stand in the file together or not at all.
+void checkLimits(const CellReader& reader) {
+    const FilePlace& mode = fieldOf("RangeMode").place;
+    const bool entered =
+        readNumber(reader.text(static_cast<std::size_t>(mode.row), static_cast<std::size_t>(mode.column))) ==
+        static_cast<double>(RangeModes::limits);
+    for (const FileCell& cell : fileCells()) {
+        if (cell.field->stem != "txtLL" && cell.field->stem != "txtUL")
+            continue;
+        const bool filled = !reader.text(cell.k, cell.column).empty();
+        if (entered && !filled)
+            reader.fail(cell.k, cell.column, "a number belongs here");
+        if (filled && !entered)
+            reader.fail(cell.k, cell.column, "a limit of risks belongs here only where RangeMode is 2");
+    }
+}
+
 // Reads the whole block before anything is written.
 std::vector<FieldValue> readBlock(const CellReader& reader) {
     std::vector<FieldValue> values;
@@ -179,6 +201,7 @@ std::vector<FieldValue> readBlock(const CellReader& reader) {
     for (const FileCell& cell : fileCells())
         values.push_back(reader.read(cell));
     checkRandomizedLevel(reader);
+    checkLimits(reader);
     return values;
 }
 
@@ -199,6 +222,8 @@ void SaveScenario(ScenarioGrid& grid, const SessionState& state, std::string_vie
     Scenario scenario{std::string(name), {}};
     const PowerResult& result = state.study.result;
     for (const FileCell& cell : fileCells()) {
+        if (cell.isKept != nullptr && !cell.isKept(state))
+            continue;
         if (!cell.key.empty())
             scenario.block.put(cell.k, keyColumn, cell.key);
         scenario.block.put(cell.k, cell.column, cellText(cell, state));

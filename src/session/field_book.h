@@ -78,6 +78,8 @@ struct FilePlace {
     std::string_view key = {};  ///< label of the row, for the reader of the raw table
     int rowsPerIndex = 0;
     int columnsPerIndex = 0;
+    int firstIndex = 0;                             ///< the file keeps none below it
+    bool (*isKept)(const SessionState&) = nullptr;  ///< null: always; otherwise an empty cell is the default
 };
 
 /// One row of the book.

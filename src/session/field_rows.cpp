@@ -78,6 +78,12 @@ constexpr FilePlace linkRow(int rowOfLevel4, int column, std::string_view key) {
 
 constexpr int value = 2, second = 3, third = 4;  // columns of the rows with keys
 
+// Limits that a person entered; others follow from the spans. Rows 63 to 65, level 4 first; level 1 has none.
+bool entersLimits(const SessionState& state) { return state.study.limits.RangeMode == RangeModes::limits; }
+constexpr FilePlace limitsRow(int column) {
+    return {63 + highestLevel, column, "Limits ", -1, 0, 2, entersLimits};
+}
+
 constexpr Field rows[] = {
     // Design ------------------------------------------------------------------------------------------------
     {.stem = "NumLevels",
@@ -588,17 +594,20 @@ constexpr Field rows[] = {
     {.stem = "RangeMode",
      .member = study<&Study::limits, &RiskLimits::RangeMode>,
      .choices = oneOrTwo,
-     .words = "Entry of risks"},
+     .words = "Entry of risks",
+     .place = {62, value, "RangeMode", 0, 0, 0, entersLimits}},
     {.stem = "txtLL",
      .member = study<&Study::limits, &RiskLimits::txtLL>,
      .index = FieldIndex::level,
      .limits = risk,
-     .words = "Lower limit of risks of {level}"},
+     .words = "Lower limit of risks of {level}",
+     .place = limitsRow(value)},
     {.stem = "txtUL",
      .member = study<&Study::limits, &RiskLimits::txtUL>,
      .index = FieldIndex::level,
      .limits = risk,
-     .words = "Upper limit of risks of {level}"},
+     .words = "Upper limit of risks of {level}",
+     .place = limitsRow(second)},
     {.stem = "ScenarioNumber",
      .member = setting<&StudySettings::ScenarioNumber>,
      .isWritable = false,

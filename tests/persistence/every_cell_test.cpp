@@ -23,11 +23,11 @@ std::string textOf(const FieldValue& value) {
     return text != nullptr ? *text : shortestText(std::get<double>(value));
 }
 
-// All values and decimals that have a place in a file.
+// All values and decimals that have a place in every file.
 Texts keptIn(const SessionState& state) {
     Texts texts;
     forEachField([&](FieldRef ref) {
-        if (ref->place.column > 0)
+        if (ref->place.column > 0 && ref->place.isKept == nullptr)
             texts[ref.name()] = textOf(readField(state, ref));
     });
     for (const Field& field : fieldBook()) {

@@ -67,5 +67,45 @@ TEST(RoundTrip, ScenariosKeepTheirOrderAndSummary) {
     EXPECT_THROW(application.restoreScenario("Kopy"), UseProblem);
 }
 
+// Limits that follow from spans are in no file, so that other files stay as they were.
+TEST(RoundTrip, EnteredLimitsOfRisksComeBack) {
+    TestPlatform outside;
+    Application application(outside.platform());
+    const auto power = [](const Application& from) { return from.design().study().result.txtPower; };
+    const auto restore = [&](std::size_t row) {
+        application.select("frmScenarios.vsNames", {row});
+        application.tool("Restore scenario");
+    };
+    application.load(std::vector<Assignment>{{"DataType", 2.0},
+                                             {"txtPrev", 0.5},
+                                             {"txtOR", 3.0},
+                                             {"txtNT(2)", 20.0},
+                                             {"txtNC(2)", 20.0},
+                                             {"ICC Metric", 2.0},
+                                             {"txtMRange(2)", 0.3}});
+    application.tool("Add scenario");
+    application.save("spans");
+    EXPECT_EQ(LoadGrid(outside.files, "spans").block(0).text(62, 1), "");
+    const double ofSpans = power(application);
+    application.set(std::vector<Assignment>{{"RangeMode", 2.0}, {"txtLL(2)", 0.3}, {"txtUL(2)", 0.7}});
+    const double ofLimits = power(application);
+    ASSERT_TRUE(ofLimits > 0 && ofLimits != ofSpans) << ofLimits;
+    application.tool("Add scenario");
+    application.save("limits");
+    const ScenarioGrid grid = LoadGrid(outside.files, "limits");
+    const ScenarioBlock& block = grid.block(1);
+    std::string text;
+    for (const auto& [k, column] : {std::pair{62, 1}, {62, 2}, {63, 1}, {65, 1}, {65, 2}, {65, 3}, {66, 1}})
+        text += std::string(block.text(static_cast<std::size_t>(k), static_cast<std::size_t>(column))) + "|";
+    EXPECT_EQ(text, "RangeMode|2|Limits 4|Limits 2|0.3|0.7||");
+    Application opened(outside.platform());
+    opened.open("limits");
+    EXPECT_EQ(power(opened), ofLimits);
+    restore(1);
+    EXPECT_EQ(power(application), ofSpans);
+    restore(2);
+    EXPECT_EQ(power(application), ofLimits);
+}
+
 }  // namespace
 }  // namespace lorvane

@@ -63,18 +63,22 @@ TEST_F(StudyFile, WrongCellsAreNamed) {
         const char* text;
         const char* problem;
     };
-    for (const Case& c : {Case{5, 2, "7", "row 6, column 3, one of 2, 3, 4 belongs here"},
-                          {8, 2, "half", "row 9, column 3, a number belongs here"},
-                          {8, 2, "", "row 9, column 3, a number belongs here"},
-                          {2, 3, "1e999", "row 3, column 4, a number belongs here"},
-                          {6, 2, "1.5", "row 7, column 3, one of 1, 2 belongs here"},
-                          {31, 2, "maybe", "row 32, column 3, True or False belongs here"},
-                          {39, 2, "", "row 40, column 3, a number belongs here"},
-                          {41, 2, "0", "row 42, column 3, a number above 0 belongs here"},
-                          {47, 2, "3000000000", "row 48, column 3, a whole number belongs here"},
-                          {51, 2, "4", "row 52, column 3, a level of the study belongs here"},
-                          {1, 23, "high", "row 2, column 24, a number belongs here"},
-                          {77, 0, "Other", "row 78, column 1, the scenario has fewer than 100 rows"}}) {
+    for (const Case& c :
+         {Case{5, 2, "7", "row 6, column 3, one of 2, 3, 4 belongs here"},
+          {8, 2, "half", "row 9, column 3, a number belongs here"},
+          {8, 2, "", "row 9, column 3, a number belongs here"},
+          {2, 3, "1e999", "row 3, column 4, a number belongs here"},
+          {6, 2, "1.5", "row 7, column 3, one of 1, 2 belongs here"},
+          {31, 2, "maybe", "row 32, column 3, True or False belongs here"},
+          {39, 2, "", "row 40, column 3, a number belongs here"},
+          {41, 2, "0", "row 42, column 3, a number above 0 belongs here"},
+          {47, 2, "3000000000", "row 48, column 3, a whole number belongs here"},
+          {51, 2, "4", "row 52, column 3, a level of the study belongs here"},
+          {62, 2, "3", "row 63, column 3, one of 1, 2 belongs here"},
+          {62, 2, "2", "row 64, column 3, a number belongs here"},
+          {65, 3, "0.5", "row 66, column 4, a limit of risks belongs here only where RangeMode is 2"},
+          {1, 23, "high", "row 2, column 24, a number belongs here"},
+          {77, 0, "Other", "row 78, column 1, the scenario has fewer than 100 rows"}}) {
         const std::string message =
             openingOf(c.column == 0 ? withName(c.row, c.text) : withCell(c.row, c.column, c.text));
         EXPECT_EQ(message, "The file \"bad\" is not a study file that can be opened: at " +
