@@ -139,10 +139,19 @@ bool isWhole(std::optional<double> number) {
     return number && std::fabs(*number) <= std::numeric_limits<int>::max() && *number == std::floor(*number);
 }
 
+// A number with a decimal comma is no number, but what is meant can be told.
+std::string numberWanted(std::string_view text) {
+    std::string pointed(trimmed(text));
+    std::replace(pointed.begin(), pointed.end(), ',', '.');
+    if (pointed == trimmed(text) || !readNumber(pointed))
+        return "a number belongs here";
+    return "a number with a point belongs here, as " + pointed + " for " + std::string(trimmed(text));
+}
+
 double CellReader::readNumberCell(const FileCell& cell) const {
     const std::optional<double> number = readNumber(text(cell.k, cell.column));
     if (!number)
-        fail(cell.k, cell.column, "a number belongs here");
+        fail(cell.k, cell.column, numberWanted(text(cell.k, cell.column)));
     const std::vector<double> choices = choicesOf(cell);
     if (!choices.empty() && std::find(choices.begin(), choices.end(), *number) == choices.end())
         fail(cell.k, cell.column, "one of " + choiceWords(choices) + " belongs here");

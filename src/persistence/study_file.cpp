@@ -1,6 +1,7 @@
 // A study file on the disk.
 #include "persistence/study_file.h"
 
+#include <algorithm>
 #include <utility>
 
 #include "persistence/csv.h"
@@ -62,6 +63,12 @@ std::string place(const TableProblem& problem) {
     return problem.column() == 0 ? row : row + ", column " + std::to_string(problem.column());
 }
 
+// The header has no semicolon of its own.
+bool isPartedBySemicolons(const std::string& text) {
+    const std::string_view header = std::string_view(text).substr(0, text.find_first_of("\r\n"));
+    return std::count(header.begin(), header.end(), ';') > std::count(header.begin(), header.end(), ',');
+}
+
 }  // namespace
 
 std::string studyFileText(const ScenarioGrid& grid) {
@@ -88,6 +95,9 @@ ScenarioGrid readStudyText(const std::string& text, const std::string& path) {
     try {
         return readTable(text);
     } catch (const TableProblem& problem) {
+        if (isPartedBySemicolons(text))
+            throw FileProblem("The file \"" + path +
+                              "\" was saved by a spreadsheet with semicolons; save it with commas.");
         throw FileProblem("The file \"" + path + "\" is not a study file that can be opened: at " +
                           place(problem) + ", " + problem.what() + ".");
     }

@@ -3,6 +3,7 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <functional>
 
 #include "app/application.h"
@@ -66,6 +67,8 @@ TEST_F(StudyFile, WrongCellsAreNamed) {
     for (const Case& c :
          {Case{5, 2, "7", "row 6, column 3, one of 2, 3, 4 belongs here"},
           {8, 2, "half", "row 9, column 3, a number belongs here"},
+          {8, 2, "0,13", "row 9, column 3, a number with a point belongs here, as 0.13 for 0,13"},
+          {8, 2, "1,000,000", "row 9, column 3, a number belongs here"},
           {8, 2, "", "row 9, column 3, a number belongs here"},
           {2, 3, "1e999", "row 3, column 4, a number belongs here"},
           {6, 2, "1.5", "row 7, column 3, one of 1, 2 belongs here"},
@@ -97,7 +100,10 @@ TEST_F(StudyFile, HostileContentIsRefused) {
     std::string manyRows = header;
     for (int i = 0; i < 1000101; ++i)
         manyRows += "x,,,,,,,,,,,,,,,,,,,,,,,,,,,,,\n";
+    std::string semicolons = good;
+    std::replace(semicolons.begin(), semicolons.end(), ',', ';');
     const std::pair<const char*, std::string> table[] = {
+        {"was saved by a spreadsheet with semicolons; save it with commas.", semicolons},
         {"is empty", ""},
         {"row 1", "PK\x03\x04 not a table"},
         {"holds no scenario", header},
