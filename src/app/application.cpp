@@ -78,10 +78,13 @@ void Application::handle(Event event) {
     design_.tellStatus("");
     try {
         event();
-    } catch (const ArithmeticFault&) {
-        showAgain();
+    } catch (const StudyFault&) {
         announce();
         throw;
+    } catch (const ArithmeticFault& fault) {
+        showAgain();
+        announce();
+        throw StudyFault(fault, session_.study());
     } catch (...) {
         announce();
         throw;
@@ -93,7 +96,7 @@ void Application::handle(Event event) {
 void Application::showAgain() {
     try {
         session_.refresh();
-    } catch (const ArithmeticFault&) {
+    } catch (const StudyFault&) {
         // The screen asks for other data by now, and the fault that brought us here is on its way.
     }
 }
@@ -101,8 +104,8 @@ void Application::showAgain() {
 void Application::tool(const std::string& name) {
     const Tool* tool = commands_.find(name);
     if (tool == nullptr)
-        throw UseProblem("There is no tool \"" + name + "\"; the nearest is \"" + commands_.nearest(name) +
-                         "\".");
+        throw UseProblem("There is no tool " + inQuotes(name) + "; the nearest is \"" +
+                         commands_.nearest(name) + "\".");
     if (!tool->Enabled)
         throw UseProblem("The tool \"" + name + "\" is not on offer as the study stands (" +
                          tool->ToolTipText + ").");
@@ -112,14 +115,14 @@ void Application::tool(const std::string& name) {
 void Application::click(const std::string& control) {
     handle([&] {
         if (!events_.click(control))
-            throw UseProblem("There is no control \"" + control + "\" to click.");
+            throw UseProblem("There is no control " + inQuotes(control) + " to click.");
     });
 }
 
 void Application::type(const std::string& control, const std::string& text) {
     TextBox* box = events_.textBox(control);
     if (box == nullptr)
-        throw UseProblem("There is no text box \"" + control + "\".");
+        throw UseProblem("There is no text box " + inQuotes(control) + ".");
     if (text.size() > ScenarioGrid::longestCell || !isCleanText(text))
         throw UseProblem("The text for " + control + " must be UTF-8 text of at most " +
                          std::to_string(ScenarioGrid::longestCell) + " bytes without NUL.");
@@ -129,7 +132,7 @@ void Application::type(const std::string& control, const std::string& text) {
 void Application::select(const std::string& grid, const std::vector<std::size_t>& rows) {
     Grid* table = events_.selectableGrid(grid);
     if (table == nullptr)
-        throw UseProblem("There is no table \"" + grid + "\" in which rows can be selected.");
+        throw UseProblem("There is no table " + inQuotes(grid) + " in which rows can be selected.");
     const std::set<std::size_t> chosen(rows.begin(), rows.end());
     if (chosen.contains(0) || (!chosen.empty() && *chosen.rbegin() >= table->rows.size()))
         throw UseProblem("The rows of " + grid + " go from 1 to " + std::to_string(table->rows.size() - 1) +
@@ -140,19 +143,22 @@ void Application::select(const std::string& grid, const std::vector<std::size_t>
 void Application::close(const std::string& window) {
     handle([&] {
         if (!events_.close(window))
-            throw UseProblem("There is no window \"" + window + "\" to close.");
+            throw UseProblem("There is no window " + inQuotes(window) + " to close.");
     });
 }
 
-void Application::spin(const std::string& control, int direction, ArrowHold hold) {
+void Application::spin(const std::string& control, int direction, ArrowHold hold, int times) {
     if (const auto* spun = events_.spin(control)) {
-        handle([&] { (*spun)(direction); });
+        handle([&] {
+            for (int i = 0; i < times; ++i)
+                (*spun)(direction);
+        });
         return;
     }
     const auto field = findArrows(control);
     if (!field)
-        throw UseProblem("There are no arrows \"" + control + "\".");
-    handle([&] { design_.Spin(*field, direction, hold); });
+        throw UseProblem("There are no arrows " + inQuotes(control) + ".");
+    handle([&] { design_.Spin(*field, direction, hold, times); });
 }
 
 void Application::spinReleased() {
@@ -180,7 +186,7 @@ void Application::setNumber(const std::string& name, double value) {
         throw UseProblem("There is no number \"" + name + "\".");
     if (!(value >= number->low && value <= number->high))
         throw UseProblem(name + " must lie from " + shortestText(number->low) + " to " +
-                         shortestText(number->high) + ", not at " + shortestText(value) + ".");
+                         shortestText(number->high) + ", not at " + sentenceText(value) + ".");
     handle([&] { number->write(value); });
 }
 

@@ -97,7 +97,8 @@ public:
     void type(const std::string& control, const std::string& text);
     void select(const std::string& grid, const std::vector<std::size_t>& rows);
     void close(const std::string& window);
-    void spin(const std::string& control, int direction, ArrowHold hold = ArrowHold::click);
+    void spin(const std::string& control, int direction, ArrowHold hold = ArrowHold::click,
+              int times = 1);
     void spinReleased();
 
     /// What a double click on the cell of a field does; nothing for a name without a field.

@@ -1,5 +1,5 @@
 // The one failure that a computation can raise: arithmetic that cannot go on.
-// Knows nothing of studies; carries only the name of the routine that stopped.
+// Knows nothing of studies; carries the name of the routine that stopped, which no person is shown.
 #pragma once
 
 #include <cmath>
@@ -13,9 +13,9 @@ namespace lorvane {
 /// overflow. Searches and graphs put their study back and let it pass; the outermost handler tells the user.
 class ArithmeticFault : public std::runtime_error {
 public:
-    explicit ArithmeticFault(const char* routine)
-        : std::runtime_error(std::string("The arithmetic of ") + routine +
-                             " cannot go on with these values; please modify the values entered last."),
+    /// The culprit is what most likely stopped it, in words.
+    explicit ArithmeticFault(const char* routine, const std::string& culprit = "the values entered last")
+        : std::runtime_error("The arithmetic cannot go on with these values; please modify " + culprit + "."),
           routine_(routine) {}
 
     /// Name of the routine that stopped, a string literal.

@@ -7,10 +7,15 @@
 #include <vector>
 
 #include "base/number_text.h"
+#include "base/utf8.h"
 
 namespace lorvane {
 
 namespace {
+
+// No known name is longer; what follows in a longer one brings none nearer.
+constexpr std::size_t longestCompared = 80;
+constexpr std::size_t longestQuoted = 60;
 
 std::size_t editDistance(const std::string& a, const std::string& b) {
     std::vector<std::size_t> row(b.size() + 1);
@@ -46,12 +51,14 @@ std::string indexedName(std::string_view stem, int index) {
     return std::string(stem) + "(" + std::to_string(index) + ")";
 }
 
+std::string inQuotes(std::string_view name) { return '"' + cutInMiddle(name, longestQuoted) + '"'; }
+
 std::string nearestName(std::string_view name, std::span<const std::string> known) {
-    const std::string wanted = lowerCased(name);
+    const std::string wanted = lowerCased(name.substr(0, longestCompared));
     std::string best;
     std::size_t fewest = std::numeric_limits<std::size_t>::max();
     for (const std::string& candidate : known) {
-        const std::size_t edits = editDistance(wanted, lowerCased(candidate));
+        const std::size_t edits = editDistance(wanted, lowerCased(candidate.substr(0, longestCompared)));
         if (edits < fewest) {
             fewest = edits;
             best = candidate;

@@ -20,6 +20,9 @@ IndexedName splitName(std::string_view name);
 /// The stem with its index, as in "txtNT(2)".
 std::string indexedName(std::string_view stem, int index);
 
+/// A name or a value as a sentence tells it: in quotes, a long one without its middle.
+std::string inQuotes(std::string_view name);
+
 /// The known name with the fewest single-letter edits from the given one, upper and lower case being the
 /// same; empty when there are no known names.
 std::string nearestName(std::string_view name, std::span<const std::string> known);

@@ -6,6 +6,8 @@
 #include <cmath>
 #include <limits>
 
+#include "base/names.h"
+
 namespace lorvane {
 
 namespace {
@@ -63,6 +65,20 @@ std::string shortestText(double value) {
     return plainDecimal(value);
 }
 
+std::string sentenceText(double value) {
+    const double size = std::fabs(value);
+    if (!std::isfinite(value) || value == 0 || (size >= 1e-7 && size < 1e15))
+        return shortestText(value);
+    std::array<char, 40> buffer{};
+    const auto end =
+        std::to_chars(buffer.data(), buffer.data() + buffer.size(), value, std::chars_format::scientific);
+    std::string text(buffer.data(), end.ptr);
+    const std::size_t plus = text.find('+');
+    if (plus != std::string::npos)
+        text.erase(plus, 1);
+    return text;
+}
+
 std::string fixedText(double value, int decimals) {
     if (!std::isfinite(value))
         return plainDecimal(value);
@@ -92,6 +108,20 @@ std::optional<double> readNumber(std::string_view text) {
     if (!whole || !std::isfinite(value))
         return std::nullopt;
     return value;
+}
+
+bool hasDecimalComma(std::string_view text) {
+    const std::size_t comma = text.find(',');
+    if (comma == std::string_view::npos)
+        return false;
+    std::string pointed(text);
+    pointed[comma] = '.';
+    return readNumber(pointed).has_value();
+}
+
+std::string unreadNumber(std::string_view text) {
+    return inQuotes(text) +
+           (hasDecimalComma(text) ? "; use a point, not a comma, before the decimals." : ".");
 }
 
 std::string_view trimmed(std::string_view text) {

@@ -15,6 +15,9 @@ namespace lorvane {
 /// A zero has no sign. Infinities and NaN give "inf", "-inf", "nan".
 std::string shortestText(double value);
 
+/// A number in a sentence: as above, but numbers that would be very long as "1e308".
+std::string sentenceText(double value);
+
 /// The value with a fixed number of decimals (0 or more), rounded half away from zero on its shortest
 /// decimal text, so that 0.125 gives "0.13" and 0.285 gives "0.29". A result of zero has no sign.
 std::string fixedText(double value, int decimals);
@@ -25,6 +28,13 @@ std::string groupedText(std::int64_t value);
 /// The number that the whole text spells, blanks around it allowed; nothing for any other text,
 /// for infinities and for NaN.
 std::optional<double> readNumber(std::string_view text);
+
+/// The end of a sentence that refuses a text which is no number: the text in quotes, and the advice to use a
+/// point where a comma may be meant as one.
+std::string unreadNumber(std::string_view text);
+
+/// Whether the text would be a number, were its one comma a point.
+bool hasDecimalComma(std::string_view text);
 
 /// The text without the blanks at both ends.
 std::string_view trimmed(std::string_view text);

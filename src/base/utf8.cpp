@@ -2,9 +2,50 @@
 #include "base/utf8.h"
 
 #include <algorithm>
+#include <array>
+#include <cstdio>
 #include <vector>
 
 namespace lorvane {
+
+namespace {
+
+// The number of the letter at the head of a text.
+unsigned codePoint(std::string_view letter) {
+    unsigned code = static_cast<unsigned char>(letter[0]);
+    if (letter.size() > 1)
+        code &= 0x7Fu >> letter.size();
+    for (const char c : letter.substr(1))
+        code = code << 6 | (static_cast<unsigned char>(c) & 0x3F);
+    return code;
+}
+
+struct CodeRange {
+    unsigned first, last;
+};
+
+// Control characters, marks and overrides of the writing direction, line and paragraph separators.
+constexpr CodeRange steering[] = {{0, 0x1F},        {0x7F, 0x9F},     {0x61C, 0x61C},  {0x200E, 0x200F},
+                                  {0x2028, 0x202E}, {0x2066, 0x2069}, {0xFEFF, 0xFEFF}};
+
+bool steersScreen(unsigned code) {
+    return std::any_of(std::begin(steering), std::end(steering),
+                       [code](const CodeRange& range) { return code >= range.first && code <= range.last; });
+}
+
+std::string escaped(unsigned code) {
+    if (code == '\n')
+        return "\\n";
+    if (code == '\r')
+        return "\\r";
+    if (code == '\t')
+        return "\\t";
+    std::array<char, 12> buffer{};
+    std::snprintf(buffer.data(), buffer.size(), code <= 0xFF ? "\\x%02x" : "\\u%04x", code);
+    return buffer.data();
+}
+
+}  // namespace
 
 std::size_t letterLength(std::string_view text) {
     const auto byte = [&](std::size_t i) { return static_cast<unsigned char>(text[i]); };
@@ -32,6 +73,22 @@ bool isCleanText(std::string_view text) {
         text.remove_prefix(length);
     }
     return true;
+}
+
+std::string printable(std::string_view text, LineEnds ends) {
+    std::string shown;
+    while (!text.empty()) {
+        const std::size_t length = letterLength(text);
+        const std::string_view letter = text.substr(0, std::max<std::size_t>(length, 1));
+        const unsigned code = codePoint(letter);
+        const bool isMeant = letter == "\n" && ends == LineEnds::kept;
+        if (!isMeant && (length == 0 || steersScreen(code)))
+            shown += escaped(code);
+        else
+            shown += letter;
+        text.remove_prefix(letter.size());
+    }
+    return shown;
 }
 
 std::string cutInMiddle(std::string_view text, std::size_t letters) {

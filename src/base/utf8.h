@@ -13,6 +13,13 @@ std::size_t letterLength(std::string_view text);
 /// Whether the text is UTF-8 without a NUL, which every file and every window can take.
 bool isCleanText(std::string_view text);
 
+/// What becomes of line ends; they are kept where a text has lines.
+enum class LineEnds { escaped, kept };
+
+/// The text with what would steer a screen (control characters, changes of the writing direction, bytes that
+/// are no letters) written as "\x1b" or "\u202e".
+std::string printable(std::string_view text, LineEnds ends = LineEnds::escaped);
+
 /// The text with at most so many letters, 3 or more; a longer one has an ellipsis in place of its middle.
 std::string cutInMiddle(std::string_view text, std::size_t letters);
 

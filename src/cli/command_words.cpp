@@ -5,7 +5,9 @@
 #include <cctype>
 #include <ostream>
 
+#include "base/names.h"
 #include "base/number_text.h"
+#include "base/utf8.h"
 #include "session/assignments.h"
 
 namespace lorvane {
@@ -19,7 +21,7 @@ std::vector<Assignment> assignments(const std::vector<std::string>& settings) {
     for (const std::string& setting : settings) {
         const std::size_t sign = setting.find('=');
         if (sign == std::string::npos)
-            throw UseProblem("--set takes FIELD=VALUE, not \"" + setting + "\".");
+            throw UseProblem("--set takes FIELD=VALUE, not " + inQuotes(setting) + ".");
         values.push_back(parseAssignment(setting.substr(0, sign), setting.substr(sign + 1)));
     }
     return values;
@@ -41,17 +43,17 @@ std::string onOneLine(std::string text) {
     std::replace(text.begin(), text.end(), '\n', ' ');
     while (const auto twice = text.find("  ") + 1)
         text.erase(twice, 1);
-    return std::string(trimmed(text));
+    return printable(trimmed(text));
 }
 
 void printLine(std::ostream& out, std::string label, const std::string& value) {
     label.resize(std::max(label.size() + 1, labelWidth), ' ');
-    out << label << value << '\n';
+    out << printable(label) << printable(value) << '\n';
 }
 
 void printNote(std::ostream& out, const std::string& note) {
     if (!note.empty())
-        out << '\n' << note << '\n';
+        out << '\n' << printable(note, LineEnds::kept) << '\n';
 }
 
 }  // namespace lorvane

@@ -40,7 +40,7 @@ void printNote(std::ostream& out, const std::string& note);
 /// The text with a capital first letter.
 std::string capitalised(std::string text);
 
-/// The text without line ends and double blanks.
+/// The text without line ends and double blanks, fit for a screen.
 std::string onOneLine(std::string text);
 
 }  // namespace lorvane

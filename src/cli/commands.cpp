@@ -7,6 +7,7 @@
 #include <ostream>
 
 #include "base/number_text.h"
+#include "base/utf8.h"
 #include "cli/json_text.h"
 #include "engine/power_test.h"
 #include "persistence/scenario_list.h"
@@ -106,11 +107,12 @@ void printScenariosAsJson(const std::vector<NotedScenario>& scenarios, std::ostr
 void printScenarioTable(const std::vector<NotedScenario>& scenarios, std::ostream& out) {
     Table table = {{"Name", "Description", "Power", "Cost"}};
     for (const auto& [scenario, note] : scenarios)
-        table.push_back({scenario.name, scenario.description, scenario.power, scenario.cost});
+        table.push_back(
+            {printable(scenario.name), printable(scenario.description), scenario.power, scenario.cost});
     printTable(table, out);
     for (const auto& [scenario, note] : scenarios) {
         if (!note.empty())
-            printNote(out, scenario.name + ": " + note);
+            printNote(out, printable(scenario.name) + ": " + note);
     }
 }
 

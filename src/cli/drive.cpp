@@ -25,31 +25,55 @@ using Session = DriveSession;
 
 Json done() { return {{"ok", true}}; }
 
-FieldValue fieldValueOf(const std::string& name, const Json& value) {
+std::string valueWords(const std::string& name) {
+    return inQuotes(name) + " takes a number, a text, or true or false.";
+}
+
+FieldValue fieldValueOf(const std::string& name, const nlohmann::json& value) {
     if (value.is_boolean())
         return value.get<bool>();
     if (value.is_number())
         return value.get<double>();
     if (value.is_string())
         return value.get<std::string>();
-    throw UseProblem(name + " takes a number, a text, or true or false.");
+    throw UseProblem(valueWords(name));
 }
 
-Json load(Session& session, ScriptWords& words) {
-    const Json fields = Json::parse(words.rest(), nullptr, false);
+// The members of an object in the order of their names; the last value of a name counts. The parser's own
+// object that keeps an order looks through all its names at every new one.
+std::vector<Assignment> assignmentsOf(const std::string& text) {
+    std::vector<std::string> names;
+    const auto watch = [&](int depth, nlohmann::json::parse_event_t event, const nlohmann::json& parsed) {
+        using enum nlohmann::json::parse_event_t;
+        const bool opens = event == object_start || event == array_start;
+        if (opens && !names.empty())
+            throw UseProblem(valueWords(names.back()));
+        if (event == key && depth == 1)
+            names.push_back(parsed.get<std::string>());
+        return event != array_start;
+    };
+    nlohmann::json fields = nlohmann::json::parse(text, watch, false);
     if (!fields.is_object())
         throw UseProblem("load takes one JSON object, such as load {\"txtd\": 0.5}.");
     std::vector<Assignment> values;
-    for (const auto& [name, value] : fields.items())
-        values.push_back({name, fieldValueOf(name, value)});
-    session.application.load(values);
+    for (const std::string& name : names) {
+        if (!fields.contains(name))
+            continue;
+        values.push_back({name, fieldValueOf(name, fields[name])});
+        fields.erase(name);
+    }
+    return values;
+}
+
+Json load(Session& session, ScriptWords& words) {
+    session.application.load(assignmentsOf(words.rest()));
     return done();
 }
 
 double numberOf(const std::string& what, const std::string& text) {
     if (const auto number = readNumber(text))
         return *number;
-    throw UseProblem(what + " must be a number, not \"" + text + "\".");
+    throw UseProblem(what + " must be a number, not " + unreadNumber(text));
 }
 
 Json set(Session& session, ScriptWords& words) {
@@ -70,7 +94,7 @@ Json get(Session& session, ScriptWords& words) {
     while (const auto name = words.next()) {
         const auto value = registry.read(*name);
         if (!value)
-            throw UseProblem("There is no name \"" + *name + "\"; the nearest is \"" +
+            throw UseProblem("There is no name " + inQuotes(*name) + "; the nearest is \"" +
                              nearestName(*name, registry.names()) + "\".");
         answer[*name] = jsonOf(*value);
     }
@@ -161,7 +185,7 @@ Json queueAnswer(Session& session, ScriptWords& words) {
             return done();
         }
     }
-    throw UseProblem("The answer must be OK, Cancel, Yes or No, not \"" + word + "\".");
+    throw UseProblem("The answer must be OK, Cancel, Yes or No, not " + inQuotes(word) + ".");
 }
 
 Json tool(Session& session, ScriptWords& words) {
@@ -183,7 +207,7 @@ Json type(Session& session, ScriptWords& words) {
 std::size_t rowOf(const std::string& word) {
     const auto number = readNumber(word);
     if (!number || *number < 0 || *number != std::floor(*number) || *number > 1e6)
-        throw UseProblem("A row must be a whole number, not \"" + word + "\".");
+        throw UseProblem("A row must be a whole number, not " + inQuotes(word) + ".");
     return static_cast<std::size_t>(*number);
 }
 
@@ -205,14 +229,13 @@ Json spin(Session& session, ScriptWords& words) {
     const std::string control = words.need("The name of the arrows");
     const std::string direction = words.need("up or down");
     if (direction != "up" && direction != "down")
-        throw UseProblem("The direction must be up or down, not \"" + direction + "\".");
+        throw UseProblem("The direction must be up or down, not " + inQuotes(direction) + ".");
     const std::string times = words.next().value_or("1");
     const auto count = readNumber(times);
     if (!count || *count < 1 || *count != std::floor(*count) || *count > 1000000)
-        throw UseProblem("The number of clicks must be a whole number from 1 to 1000000, not \"" + times +
-                         "\".");
-    for (int i = 0; i < static_cast<int>(*count); ++i)
-        session.application.spin(control, direction == "up" ? 1 : -1);
+        throw UseProblem("The number of clicks must be a whole number from 1 to 1000000, not " +
+                         inQuotes(times) + ".");
+    session.application.spin(control, direction == "up" ? 1 : -1, ArrowHold::click, static_cast<int>(*count));
     return done();
 }
 
@@ -221,7 +244,7 @@ Json grid(Session& session, ScriptWords& words) {
     const ControlRegistry& registry = session.application.names();
     if (const auto table = registry.grid(name))
         return jsonOf(*table);
-    throw UseProblem("There is no grid \"" + name + "\"; the nearest is \"" +
+    throw UseProblem("There is no grid " + inQuotes(name) + "; the nearest is \"" +
                      nearestName(name, registry.gridNames()) + "\".");
 }
 
@@ -274,8 +297,8 @@ Json dist(Session& session, ScriptWords& words) {
             library.NoncentralTTails(t, df, lambda, upper, unused);
         return {{"value", value}, {"upper", upper}};
     }
-    throw UseProblem("There is no distribution function \"" + function +
-                     "\"; there are normal, normal-inverse, t-inverse and noncentral-t.");
+    throw UseProblem("There is no distribution function " + inQuotes(function) +
+                     "; there are normal, normal-inverse, t-inverse and noncentral-t.");
 }
 
 struct Command {
@@ -297,7 +320,7 @@ Json run(Session& session, std::string_view line) {
         if (command.name == name)
             return command.run(session, words);
     }
-    throw UseProblem("There is no command \"" + name + "\".");
+    throw UseProblem("There is no command " + inQuotes(name) + ".");
 }
 
 }  // namespace

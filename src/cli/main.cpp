@@ -3,9 +3,11 @@
 #include <csignal>
 #include <functional>
 #include <iostream>
+#include <sstream>
 #include <system_error>
 
 #include "app/application.h"
+#include "base/utf8.h"
 #include "cli/commands.h"
 #include "cli/drive.h"
 #include "cli/mdes_command.h"
@@ -170,7 +172,11 @@ int run(int argc, char** argv) {
     try {
         cli.parse(argc, argv);
     } catch (const CLI::ParseError& error) {
-        return cli.exit(error) == 0 ? ExitCodes::done : ExitCodes::wrongUse;
+        std::ostringstream told;
+        if (cli.exit(error, std::cout, told) == 0)
+            return ExitCodes::done;
+        std::cerr << printable(told.str(), LineEnds::kept);
+        return ExitCodes::wrongUse;
     }
     return runChosen(cli, requests);
 }

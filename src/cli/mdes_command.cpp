@@ -48,7 +48,7 @@ void printFound(const Study& s, double required, const MdesResult& result, std::
         printLine(out, "Rate, " + s.treatedName(), fixedText(result.treatedRate, 4));
         printLine(out, "Rate, " + s.controlName(), fixedText(result.controlRate, 4));
     }
-    out << '\n' << words(s, result) << '\n';
+    printNote(out, words(s, result));
     printNote(out, truncationNote(s));
 }
 

@@ -5,6 +5,7 @@
 #include <nlohmann/json.hpp>
 #include <ostream>
 
+#include "base/names.h"
 #include "base/number_text.h"
 #include "base/use_problem.h"
 #include "cli/json_text.h"
@@ -19,6 +20,16 @@ namespace {
 
 using Json = nlohmann::ordered_json;
 
+// The setting has a name of its own on the command line.
+void setIterations(Session& session, int iterations) {
+    const FieldRef field = writableField("IterationsForOptimal");
+    const std::vector<Assignment> values = {{field.name(), static_cast<double>(iterations)}};
+    const std::string why = refusal(session.study(), field, values[0].value, ValueSource::dialog);
+    if (!why.empty())
+        throw UseProblem("--iterations" + why.substr(field.name().size()));
+    setValues(session, values);
+}
+
 // "2=5": level 2 gets 5 units per unit above.
 void fix(const std::string& text, int top, OptimalOptions& options) {
     const std::size_t sign = text.find('=');
@@ -28,7 +39,7 @@ void fix(const std::string& text, int top, OptimalOptions& options) {
     if (!level || !size || !isWhole(*level) || !isWhole(*size) || *level < 1 || *level >= top || *size < 1 ||
         *size > 1000000)
         throw UseProblem("--fix takes LEVEL=N with a level below the top, 1 to " + std::to_string(top - 1) +
-                         ", and a whole number of units from 1 to 1000000, not \"" + text + "\".");
+                         ", and a whole number of units from 1 to 1000000, not " + inQuotes(text) + ".");
     options.manual(static_cast<int>(*level)) = true;
     options.numReps(static_cast<int>(*level)) = *size;
 }
@@ -95,8 +106,7 @@ void printFound(const Study& s, const Answer& answer, std::ostream& out) {
     printLine(out, "Power", fixedText(best.power, 4));
     for (int level = s.NumLevels; level >= 1; --level)
         printLine(out, s.txtName(level), sizeWords(s, level, best.sizes(level)));
-    if (!answer.notes.empty())
-        out << '\n' << answer.notes << '\n';
+    printNote(out, answer.notes);
 }
 
 Json optimalJson(const Study& s, const Answer& answer) {
@@ -123,8 +133,7 @@ int printOptimal(const OptimalRequest& request, const CommandLine& line) {
     line.store.open(session, request.study);
     applySettings(request.settings, session);
     if (request.iterations)
-        setValues(session, std::vector<Assignment>{
-                               {"IterationsForOptimal", static_cast<double>(*request.iterations)}});
+        setIterations(session, *request.iterations);
     const Answer answer = search(request, session);
     if (request.json)
         line.out << jsonText(optimalJson(session.study(), answer)) << '\n';

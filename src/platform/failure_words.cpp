@@ -7,6 +7,7 @@
 
 #include "base/arithmetic_fault.h"
 #include "base/use_problem.h"
+#include "base/utf8.h"
 #include "platform/file_store.h"
 
 namespace lorvane {
@@ -18,9 +19,7 @@ std::string sentence(const std::string& why) {
            "); check the names and folders that it uses, save your work, and try again.";
 }
 
-}  // namespace
-
-std::string failureWords() {
+std::string wordsInFlight() {
     try {
         throw;
     } catch (const UseProblem& problem) {
@@ -39,5 +38,10 @@ std::string failureWords() {
         return sentence("no reason was given");
     }
 }
+
+}  // namespace
+
+// A name in a sentence may hold anything.
+std::string failureWords() { return printable(wordsInFlight()); }
 
 }  // namespace lorvane

@@ -182,12 +182,12 @@ void Design::moveWindows(bool heldArrow) {
     SynchCellCounts();
 }
 
-void Design::Spin(FieldRef field, int direction, ArrowHold hold) {
+void Design::Spin(FieldRef field, int direction, ArrowHold hold, int times) {
     if (field->panel == FieldPanel::icc)
         ShowICC(true);
     if (field->panel == FieldPanel::tauSq)
         ShowTauSq(true);
-    stepField(session_, field, direction, hold);
+    stepField(session_, field, direction, hold, times);
 }
 
 void Design::DisplayPowerMode(DisplayModes mode) {

@@ -47,9 +47,9 @@ public:
     void ShowICC(bool show);
     void ShowTauSq(bool show);
 
-    /// One step of a field by its arrows, after the panel that belongs to it. The problem window does not
+    /// Steps of a field by its arrows, after the panel that belongs to it. The problem window does not
     /// open by itself during a tick of a held arrow; its release asks for a refresh. Throws ArithmeticFault.
-    void Spin(FieldRef field, int direction, ArrowHold hold = ArrowHold::click);
+    void Spin(FieldRef field, int direction, ArrowHold hold = ArrowHold::click, int times = 1);
 
     /// Draws an outline around the rectangle between two controls, where they are shown, and takes it away
     /// again. A computation clears those of number 2 to 6.

@@ -511,8 +511,10 @@ void SmallDialogs::applyValue() {
     const FieldLimits limits = limitsOf(session_.study(), *valueField_.field);
     const bool whole = valueField_->decimals == nullptr;
     if (!number || !limits.holds(*number) || (whole && *number != std::floor(*number))) {
+        const std::string& text = value_.box(valueBox).Text;
         refuse(value_, std::string("Please enter a ") + (whole ? "whole number " : "number ") +
-                           limits.words() + "              ");
+                           limits.words() + (hasDecimalComma(text) ? ", with a point, not a comma" : "") +
+                           "              ");
         return;
     }
     close(value_);

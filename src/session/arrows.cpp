@@ -65,13 +65,23 @@ std::string nameOfDecimals(const Field& field) {
     return "decimals of " + std::string(field.decimalsWord.empty() ? "spans" : field.decimalsWord);
 }
 
+// Where a click leaves the value, those after it would, too.
+void stepTimes(SessionState& state, FieldRef field, int direction, int times) {
+    for (int i = 0; i < times; ++i) {
+        const double before = readNumberField(state, field);
+        enterField(state, field, afterArrow(state, field, direction));
+        if (readNumberField(state, field) == before)
+            return;
+    }
+}
+
 }  // namespace
 
-void stepField(Session& session, FieldRef field, int direction, ArrowHold hold) {
+void stepField(Session& session, FieldRef field, int direction, ArrowHold hold, int times) {
     const std::string run = indexedName(field->spin, field.index);
     session.edit(
         {stepWords(session.study(), field), Reach::study, IfFault::keep, run, hold == ArrowHold::tick},
-        [&](SessionState& state) { enterField(state, field, afterArrow(state, field, direction)); });
+        [&](SessionState& state) { stepTimes(state, field, direction, times); });
 }
 
 void SETDECS(Session& session, const Field& field, int decimals) {

@@ -11,9 +11,10 @@ enum class ArrowHold {
     tick    ///< one of many while the arrow is held
 };
 
-/// One step of a field by its arrows, up (1) or down (-1). Clicks on one pair of arrows within a second of
-/// each other are one step of undo. Throws ArithmeticFault; the change stays then.
-void stepField(Session& session, FieldRef field, int direction, ArrowHold hold = ArrowHold::click);
+/// Steps of a field by its arrows, up (1) or down (-1), computed and told at their end. Clicks on one pair of
+/// arrows within a second of each other are one step of undo. Throws ArithmeticFault; the change stays then.
+void stepField(Session& session, FieldRef field, int direction, ArrowHold hold = ArrowHold::click,
+               int times = 1);
 
 /// Changes the decimals of a field at all levels: the stored values are rounded to what is shown, but never
 /// to one that the field does not take, or that would stop a computation that went on. Throws

@@ -3,6 +3,7 @@
 
 #include <algorithm>
 
+#include "base/names.h"
 #include "base/number_text.h"
 #include "session/field_words.h"
 #include "session/structure.h"
@@ -81,7 +82,7 @@ std::string nameOf(const Study& study, std::span<const Assignment> values) {
 FieldRef writableField(const std::string& name) {
     const auto field = findField(name);
     if (!field || !(*field)->isWritable)
-        throw UseProblem("There is no field \"" + name + "\"; the nearest is \"" + nearestField(name) +
+        throw UseProblem("There is no field " + inQuotes(name) + "; the nearest is \"" + nearestField(name) +
                          "\".");
     return *field;
 }
@@ -93,11 +94,11 @@ Assignment parseAssignment(const std::string& name, const std::string& text) {
     if (kind == FieldKind::flag) {
         if (const auto flag = readFlag(text))
             return {name, *flag};
-        throw UseProblem(name + " takes true or false, not \"" + text + "\".");
+        throw UseProblem(name + " takes true or false, not " + inQuotes(text) + ".");
     }
     if (const auto number = readNumber(text))
         return {name, *number};
-    throw UseProblem(name + " takes a number, not \"" + text + "\".");
+    throw UseProblem(name + " takes a number, not " + unreadNumber(text));
 }
 
 void loadValues(Session& session, std::span<const Assignment> values) {

@@ -76,11 +76,11 @@ std::string numberRefusal(const Study& study, FieldRef ref, double value, ValueS
     if (!std::isfinite(value))
         return ref.name() + " must be a finite number.";
     if (!choices.empty() && std::find(choices.begin(), choices.end(), value) == choices.end())
-        return ref.name() + " must be " + listWords(choices) + ", not " + shortestText(value) + ".";
+        return ref.name() + " must be " + listWords(choices) + ", not " + sentenceText(value) + ".";
     const FieldLimits limits = limitsOf(study, *ref.field);
     const bool binds = source == ValueSource::dialog || ref->bindsFiles;
     if (binds && !limits.holds(value))
-        return ref.name() + " must lie " + limits.words() + ", not at " + shortestText(value) + ".";
+        return ref.name() + " must lie " + limits.words() + ", not at " + sentenceText(value) + ".";
     return "";
 }
 

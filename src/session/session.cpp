@@ -4,6 +4,7 @@
 #include <utility>
 
 #include "session/field_book.h"
+#include "session/likely_cause.h"
 
 namespace lorvane {
 
@@ -13,12 +14,15 @@ constexpr std::chrono::seconds longestPauseOfRun{1};
 
 // A study that cannot be computed asks for other data.
 void noteFault(Moment& moment, const ArithmeticFault& fault) {
-    moment.faultWords = fault.what();
+    moment.faultWords = StudyFault(fault, moment.state.study).what();
     moment.state.study.result.xValid = false;
     moment.computation.outcome = {Obstacle::data, "Please modify data", {}, {}, {}};
 }
 
 }  // namespace
+
+StudyFault::StudyFault(const ArithmeticFault& fault, const Study& study)
+    : ArithmeticFault(fault.routine(), likelyCause(study)) {}
 
 Session::Session(DistributionLibrary& library, Currency systemCurrency, const Clock& clock)
     : library_(library), systemCurrency_(std::move(systemCurrency)), clock_(clock), lastClick_(clock.now()) {
@@ -46,15 +50,16 @@ void Session::edit(const Edit& edit, const Change& change) {
         if (edit.reach == Reach::anew || edit.reach == Reach::study)
             compute();
     } catch (const ArithmeticFault& fault) {
+        const StudyFault told(fault, study());
         if (edit.ifFault == IfFault::undo) {
             now_ = before;
-            throw;
+            throw told;
         }
         noteFault(now_, fault);
         record(edit, std::move(own));
         tell(changed);
         if (edit.ifFault == IfFault::keep)
-            throw;
+            throw told;
         return;
     } catch (...) {
         now_ = before;
@@ -114,7 +119,7 @@ void Session::refresh() {
     } catch (const ArithmeticFault& fault) {
         noteFault(now_, fault);
         tell({});
-        throw;
+        throw StudyFault(fault, study());
     }
     tell({});
 }

@@ -33,6 +33,13 @@ enum class IfFault {
     show   ///< the values stay, and other data are asked for
 };
 
+/// A fault of the study itself, with the values that most likely caused it. The session has put the study
+/// back or has told its followers.
+class StudyFault : public ArithmeticFault {
+public:
+    StudyFault(const ArithmeticFault& fault, const Study& study);
+};
+
 /// A change as the followers hear of it.
 struct Changed {
     Reach reach = Reach::study;

@@ -147,7 +147,7 @@ TEST_F(App, ParseReadsEveryKind) {
         EXPECT_EQ(std::get<bool>(parseAssignment("Link N2", word).value), flag) << word;
     const std::tuple<const char*, const char*, const char*> refused[] = {
         {"txtd", "1e999", "txtd takes a number, not \"1e999\"."},
-        {"txtd", "0,5", "txtd takes a number, not \"0,5\"."},
+        {"txtd", "0,5", "txtd takes a number, not \"0,5\"; use a point, not a comma, before the decimals."},
         {"txtd", "", "txtd takes a number, not \"\"."},
         {"Link N2", "yes", "Link N2 takes true or false, not \"yes\"."},
         {"txtDD", "1", "There is no field \"txtDD\"; the nearest is \"txtd\"."},
@@ -209,7 +209,7 @@ TEST_F(App, AnEventIsAnnouncedAfterAFaultAndThePowerAsksForData) {
     fail();
     EXPECT_EQ(seen, std::vector<std::string>{"Please modify data"});
     EXPECT_FALSE(hasPower(app.session()));
-    EXPECT_TRUE(whyNoPower(app.session()).ends_with("please modify the values entered last."));
+    EXPECT_TRUE(whyNoPower(app.session()).ends_with("please modify the values of Subjects."));
     EXPECT_THROW(app.click("nothing"), UseProblem);
     EXPECT_THROW(app.close("nothing"), UseProblem);
     EXPECT_EQ(seen.size(), 3u);
@@ -246,7 +246,52 @@ TEST_F(App, AfterAFaultWhyNoPowerNeverSaysValid) {
         failed = problemOf([&] { app.spin("spnIcc(2)", 1); }) != "done";
     ASSERT_TRUE(failed);
     EXPECT_FALSE(hasPower(app.session()));
-    EXPECT_TRUE(whyNoPower(app.session()).ends_with("please modify the values entered last."));
+    EXPECT_TRUE(whyNoPower(app.session()).ends_with("please modify the values of Level 2s."));
+}
+
+TEST_F(App, WhatIsRefusedLeavesEveryResult) {
+    const std::function<void()> refused[] = {
+        [&] {
+            app.set(Values{{"txtd", 11.0}});
+        },
+        [&] {
+            app.set(Values{{"RandomizedLevel", 3.0}, {"txtd", 0.1}});
+        },
+        [&] {
+            app.load(Values{{"txtNT(1)", 0.0}, {"txtNC(1)", 0.0}, {"txtd", 0.5}});
+        },
+        [&] {
+            app.load(Values{{"BinaryType", 5.0}});
+        },
+        [&] { app.tool("Nothing"); },
+        [&] { app.tool("Redo"); },
+        [&] { app.click("nothing"); },
+        [&] { app.close("nothing"); },
+        [&] { app.type("nothing", ""); },
+        [&] { app.spin("nothing", 1); },
+        [&] { app.select("vsA", {99}); },
+        [&] { app.setNumber("frmOptimal.txtNumReps(1)", 0); },
+        [&] { app.restoreScenario("nothing"); },
+        [&] { app.open("nothing"); }};
+    for (const auto& [button, result] :
+         {std::pair{"frmMDES.cmdComputeMDES", "frmMDES.pnlFigureNumber.Caption"},
+          {"frmOptimal.cmdOpt(2)", "frmOptimal.pnlCostNumber.Caption"}}) {
+        app.load(Values{{"ICC Metric", 1.0},
+                        {"txtICC(2)", 0.1},
+                        {"txtd", 0.5},
+                        {"txtCostT(1)", 1.0},
+                        {"txtCostC(1)", 1.0},
+                        {"txtCostT(2)", 5.0},
+                        {"txtCostC(2)", 5.0}});
+        app.click(button);
+        app.save("kept");
+        ASSERT_NE(text(result), "") << button;
+        const auto before = state();
+        for (std::size_t i = 0; i < std::size(refused); ++i) {
+            EXPECT_NE(problemOf(refused[i]), "done") << i;
+            EXPECT_EQ(changedSince(before), "") << i;
+        }
+    }
 }
 
 TEST_F(App, ARefusalOpensNoWindowThatWasClosed) {

@@ -5,6 +5,7 @@
 #include <vector>
 
 #include "base/letter_case.h"
+#include "base/utf8.h"
 
 namespace lorvane {
 namespace {
@@ -24,6 +25,15 @@ TEST(Names, FindsTheNearestName) {
     EXPECT_EQ(nearestName("TXTICC(2", known), "txtICC(2)");
     EXPECT_EQ(nearestName("d", known), "txtd");
     EXPECT_EQ(nearestName("d", std::vector<std::string>{}), "");
+    EXPECT_EQ(inQuotes(std::string(61, 'x')), '"' + std::string(30, 'x') + "…" + std::string(29, 'x') + '"');
+}
+
+TEST(Names, SteerNoScreen) {
+    EXPECT_EQ(printable("Ä 日 𐐀 \"\\\""), "Ä 日 𐐀 \"\\\"");
+    EXPECT_EQ(printable("\x1b[31m\a\n\r\t\x7f"), "\\x1b[31m\\x07\\n\\r\\t\\x7f");
+    EXPECT_EQ(printable("\u009b\u202ea\u2069\u2028\ufeff"), "\\x9b\\u202ea\\u2069\\u2028\\ufeff");
+    EXPECT_EQ(printable("\xC3 \xFF\xD0"), "\\xc3 \\xff\\xd0");
+    EXPECT_EQ(printable("a\n\x1b", LineEnds::kept), "a\n\\x1b");
 }
 
 TEST(Names, HaveCapitalAndSmallLettersInEveryAlphabet) {

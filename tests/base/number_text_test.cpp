@@ -37,6 +37,16 @@ TEST(NumberText, AZeroHasNoSign) {
     EXPECT_EQ(shortestText(-0.0), "0");
 }
 
+TEST(NumberText, ASentenceHasShortNumbers) {
+    EXPECT_EQ(sentenceText(1e308), "1e308");
+    EXPECT_EQ(sentenceText(-2.5e15), "-2.5e15");
+    EXPECT_EQ(sentenceText(1e-8), "1e-08");
+    EXPECT_EQ(sentenceText(1e14), "100000000000000");
+    EXPECT_EQ(sentenceText(0.000001), "0.000001");
+    EXPECT_EQ(unreadNumber("0,13"), "\"0,13\"; use a point, not a comma, before the decimals.");
+    EXPECT_EQ(unreadNumber("1,2,3"), "\"1,2,3\".");
+}
+
 TEST(NumberText, GroupsThousands) {
     EXPECT_EQ(groupedText(0), "0");
     EXPECT_EQ(groupedText(999), "999");

@@ -6,6 +6,7 @@ import shlex
 import subprocess
 import sys
 import tempfile
+import time
 from pathlib import Path
 
 PROGRAM, EXAMPLES = sys.argv[1], Path(sys.argv[2])
@@ -31,6 +32,12 @@ def check_answers(folder):
         assert ("df" in json.loads(run("power", *binary, "--json")[1])) == has_df, option
     code, out, _ = run("scenarios", STUDY)
     assert code == 0 and len(out.splitlines()) == 4 and "No pretest" in out, out
+    steering = str(Path(folder) / "steering.Lorvane")
+    run("drive", text='set txtName(1) "a\\n\\u001b[31m"\nset txtGroupName(1) "\\u202e"\ntool "Add scenario"\n'
+        f'type frmScenariosName.txtScenarioName "b\\u001b[2J"\nsave {steering}\n')
+    for command in ("scenarios", "optimal", "mdes", "power"):
+        _, out, err = run(command, steering)
+        assert not set("\x1b\u202e") & set(out + err), (command, out, err)
     code, out, _ = run("scenarios", STUDY, "--json")
     assert [row["name"] for row in json.loads(out)["scenarios"]] == ["16 schools", "No pretest", "20 schools"]
     new = str(Path(folder) / "new.Lorvane")
@@ -76,6 +83,22 @@ def check_examples():
         for row in rows:
             answer = json.loads(run("power", str(study), "--scenario", row["name"], "--json")[1])
             assert f"{answer['power']:.3f}" == row["power"] and f"{answer['cost']:,}" == row["cost"], (study, row)
+
+
+def check_long_lines():
+    """A line that is a mistake, or asks for much, is answered at once."""
+    many = {f"name{number}": 1 for number in range(200_000)}
+    names = "x" * 100_000
+    lines = [f"get {names}", f"tool {names}", f"load {json.dumps(many)}", "spin spnNT(2) up 1000000",
+             "spin frmOptimal.OptimalspnNT(1) up 1000000", "get txtNT(2)"]
+    started = time.monotonic()
+    code, out, _ = run("drive", text="\n".join(lines) + "\n")
+    took = time.monotonic() - started
+    answers = [json.loads(line) for line in out.splitlines()]
+    assert took < 8 and all(len(answer["error"]) < 200 for answer in answers[:3]), (took, answers)
+    assert '"name0"' in answers[2]["error"] and answers[-1] == {"txtNT(2)": 1000000}, answers
+    last_counts = 'load {"txtd": 99, "txtSD": 2, "txtd": 0.5}\nget txtd txtSD\n'
+    assert run("drive", text=last_counts)[1] == '{"ok":true}\n{"txtd":0.5,"txtSD":2}\n', "not the last value of a name"
 
 
 def check_new_study():
@@ -224,3 +247,4 @@ def main():
 
 
 main()
+    check_long_lines()
