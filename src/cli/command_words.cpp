@@ -9,6 +9,7 @@
 #include "base/number_text.h"
 #include "base/utf8.h"
 #include "session/assignments.h"
+#include "session/idle_value.h"
 
 namespace lorvane {
 
@@ -30,8 +31,15 @@ std::vector<Assignment> assignments(const std::vector<std::string>& settings) {
 }  // namespace
 
 void applySettings(const std::vector<std::string>& settings, Session& session) {
-    if (!settings.empty())
-        setValues(session, assignments(settings));
+    if (settings.empty())
+        return;
+    const std::vector<Assignment> values = assignments(settings);
+    setValues(session, values);
+    for (const Assignment& value : values) {
+        const std::string why = whyIdle(session.state(), writableField(value.name));
+        if (!why.empty())
+            throw UseProblem(why);
+    }
 }
 
 std::string capitalised(std::string text) {

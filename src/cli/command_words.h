@@ -28,7 +28,8 @@ struct CommandLine {
     std::ostream& errors;
 };
 
-/// Carries out "FIELD=VALUE" options. Throws UseProblem and changes nothing then.
+/// Carries out "FIELD=VALUE" options. Throws UseProblem, also for a value that has no effect in the study
+/// that they make, so that none is dropped without a word.
 void applySettings(const std::vector<std::string>& settings, Session& session);
 
 /// One line of an answer: a label, filled up with blanks, and a value.

@@ -48,8 +48,7 @@ void addPower(CLI::App& cli, PowerRequest& request) {
     command->add_option("--scenario", request.scenario, "Answer for this scenario of the file")
         ->type_name("NAME");
     command->add_flag("--json", request.json, "Answer with one JSON object");
-    command->footer(
-        "Example:\n  lorvane-cli power schools.Lorvane --set \"txtNT(3)=24\" --set \"txtNC(3)=24\"");
+    command->footer("Example:\n  lorvane-cli power schools.Lorvane --set \"txtNB(3)=24\"");
 }
 
 void addOptimal(CLI::App& cli, OptimalRequest& request) {

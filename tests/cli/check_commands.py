@@ -145,6 +145,18 @@ WRONG_USE = [
     (["power", STUDY, "--set", "NumLevels=7"], "NumLevels must be 2, 3 or 4"),
     (["power", STUDY, "--set", "RandomizedLevel=4"], "RandomizedLevel"),
     (["power", STUDY, "--scenario", "20 school"], 'the nearest is "20 schools"'),
+    (["optimal", STUDY, "--iterations", "7"], "--iterations must be 5, 10, 20 or 30, not 7."),
+    (["power", STUDY, "--set", "txtd=0,13"], "use a point"),
+    (["power", STUDY, "--set", "\x1b]0;x\n\u202e=1"], r"\x1b]0;x\n\u202e"),
+    (["power", STUDY, "\x1b[31m"], r"\x1b[31m"),
+    (["new", "--out", "never", "--set", "txtICC(2)=0.1"], 'txtICC(2) has no effect in this study; add --set "ICC Metric=1".'),
+    (["power", STUDY, "--set", "txtMRange(2)=1"], 'add --set "ICC Metric=2".'),
+    (["power", STUDY, "--set", "txtTauSq(3)=1", "--set", "Tau-sq Metric=3"], 'add --set "Tau-sq Metric=1".'),
+    (["mdes", STUDY, "--set", "txtRR=2"], "add --set DataType=2 --set BinaryType=2."),
+    (["optimal", STUDY, "--set", "txtNT(3)=20"], "set txtNB(3)."),
+    (["power", STUDY, "--set", "txtCostB(2)=20"], "set txtCostT(2) and txtCostC(2)."),
+    (["power", STUDY, "--set", "txtQ(4)=1"], "add --set NumLevels=4."),
+    (["power", STUDY, "--set", "txtICC(1)=0.1"], "leave it out."),
     (["mdes", STUDY, "--power", "1"], "--power takes a power from 0.01 to 0.999, not 1."),
     (["power", STUDY, "--colour"], "--colour"),
     (["power"], "STUDY"),
@@ -241,10 +253,10 @@ def main():
         check_output(folder)
     check_mdes()
     check_examples()
+    check_long_lines()
     check_new_study()
     check_no_answer()
     check_help()
 
 
 main()
-    check_long_lines()
