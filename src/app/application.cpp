@@ -72,9 +72,11 @@ void Application::announce() {
     events_.announceShown();
 }
 
-// Runs an event and tells the faces that everything is right again, also after a fault.
+// Runs an event and tells the faces that everything is right again, also after a fault. What is refused
+// leaves the status line as it was.
 template <typename Event>
 void Application::handle(Event event) {
+    const std::string status = design_.screen().pnlStatus.Caption;
     design_.tellStatus("");
     try {
         event();
@@ -86,6 +88,7 @@ void Application::handle(Event event) {
         announce();
         throw StudyFault(fault, session_.study());
     } catch (...) {
+        design_.tellStatus(status);
         announce();
         throw;
     }
