@@ -36,12 +36,14 @@ std::string shown(std::string path) {
                       "); check its name and its folder.");
 }
 
-constexpr const char* otherPlace = "choose another folder or make room, and save again";
-constexpr const char* otherName = "save under another name";
+[[noreturn]] void failWriting(const std::string& path, const std::string& why) {
+    throw FileProblem("The file \"" + shown(path) + "\" cannot be written (" + why +
+                      "); choose another folder or make room, and save again.");
+}
 
-[[noreturn]] void failWriting(const std::string& path, const std::string& why,
-                              const std::string& whatNext = otherPlace) {
-    throw FileProblem("The file \"" + shown(path) + "\" cannot be written (" + why + "); " + whatNext + ".");
+[[noreturn]] void failProtected(const std::string& path, const std::string& why) {
+    throw ProtectedFile("The file \"" + shown(path) + "\" cannot be written (" + why +
+                        "); save under another name.");
 }
 
 // What is wrong with a name, or nullptr. The system would stop reading a name at a NUL byte and open another
@@ -83,9 +85,9 @@ void checkThatItMayGo(const std::string& path, const fs::path& target, const str
         failWriting(path, "it is no ordinary file");
     const bool hasWriter = (old.st_mode & (S_IWUSR | S_IWGRP | S_IWOTH)) != 0;
     if (!hasWriter)
-        failWriting(path, "it is write-protected", otherName);
+        failProtected(path, "it is write-protected");
     if (::faccessat(AT_FDCWD, target.c_str(), W_OK, AT_EACCESS) != 0)
-        failWriting(path, errno == EACCES ? "it is write-protected" : errorWords(errno), otherName);
+        failProtected(path, errno == EACCES ? "it is write-protected" : errorWords(errno));
 }
 
 bool writeAll(int descriptor, std::string_view content) {

@@ -83,6 +83,20 @@ TEST_F(StudyFilesTest, AFailedSaveKeepsNameFileAndChange) {
     EXPECT_FALSE(isDirty());
 }
 
+TEST_F(StudyFilesTest, AProtectedFileIsToldAndAnotherNameOffered) {
+    app.save("/kept");
+    setD(0.7);
+    outside.files.protectedPath = "/kept";
+    outside.messages.queue(Answer::Yes);
+    outside.messages.queueFile("/other");
+    app.tool("Save");
+    const auto shown = outside.messages.take();
+    EXPECT_EQ(std::get<ScriptedDialogs::ShownMessage>(shown.at(0)).message.text,
+              "The file \"/kept\" is write-protected.");
+    EXPECT_EQ(text("CurrentFile"), "/other");
+    EXPECT_FALSE(isDirty());
+}
+
 TEST_F(StudyFilesTest, TheTemplateGivesTheStudyOfTheStart) {
     const auto picture = [&] {
         app.save("/picture");

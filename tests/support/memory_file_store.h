@@ -12,6 +12,7 @@ class MemoryFileStore final : public FileStore {
 public:
     std::map<std::string, std::string> files;
     bool full = false;
+    std::string protectedPath;
     std::function<void()> onUse = [] {};  ///< before a file is read or replaced
 
     std::string read(const std::string& path, std::size_t largest) const override {
@@ -26,6 +27,8 @@ public:
 
     void replace(const std::string& path, std::string_view content) override {
         onUse();
+        if (path == protectedPath)
+            throw ProtectedFile("The file \"" + path + "\" is write-protected.");
         if (full)
             throw FileProblem("The file \"" + path + "\" cannot be written.");
         files[path] = content;
