@@ -87,8 +87,11 @@ void Application::handle(Event event) {
         showAgain();
         announce();
         throw StudyFault(fault, session_.study());
-    } catch (...) {
+    } catch (const UseProblem&) {
         design_.tellStatus(status);
+        announce();
+        throw;
+    } catch (...) {
         announce();
         throw;
     }
