@@ -6,7 +6,7 @@
 #include <limits>
 #include <vector>
 
-#include "base/number_text.h"
+#include "base/letter_case.h"
 #include "base/utf8.h"
 
 namespace lorvane {

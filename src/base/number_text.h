@@ -7,8 +7,6 @@
 #include <string>
 #include <string_view>
 
-#include "base/letter_case.h"
-
 namespace lorvane {
 
 /// The shortest decimal text, without exponent, that reads back as the same double ("0.1", "1000000").

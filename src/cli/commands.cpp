@@ -139,7 +139,7 @@ int makeNew(const NewRequest& request, const CommandLine& line) {
         line.store.checkFree(request.out);
     applySettings(request.settings, line.session);
     line.store.save(line.session, request.out);
-    line.out << "The file " << request.out << " has been saved.\n";
+    line.out << "The file " << printable(request.out) << " has been saved.\n";
     return ExitCodes::done;
 }
 

@@ -1,6 +1,7 @@
 // What an item of the study screen means for the study at hand.
 #include "guidance/detail_texts.h"
 
+#include "base/letter_case.h"
 #include "base/number_text.h"
 #include "screen/design_words.h"
 

@@ -8,6 +8,7 @@
 #include <utility>
 #include <vector>
 
+#include "base/letter_case.h"
 #include "base/money.h"
 #include "base/number_text.h"
 #include "session/field_book.h"

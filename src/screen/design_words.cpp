@@ -3,6 +3,7 @@
 
 #include <cmath>
 
+#include "base/letter_case.h"
 #include "base/money.h"
 #include "base/number_text.h"
 

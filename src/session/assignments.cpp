@@ -3,6 +3,7 @@
 
 #include <algorithm>
 
+#include "base/letter_case.h"
 #include "base/names.h"
 #include "base/number_text.h"
 #include "session/field_words.h"

@@ -4,6 +4,7 @@
 #include <cctype>
 #include <cmath>
 
+#include "base/letter_case.h"
 #include "base/number_text.h"
 
 namespace lorvane {

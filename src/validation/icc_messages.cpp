@@ -1,6 +1,7 @@
 // The words for the verdict on the ICCs and spans.
 #include "validation/icc_messages.h"
 
+#include "base/letter_case.h"
 #include "base/number_text.h"
 #include "validation/logit_variance.h"
 

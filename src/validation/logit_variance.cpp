@@ -4,6 +4,7 @@
 #include <cmath>
 
 #include "base/arithmetic_fault.h"
+#include "base/letter_case.h"
 #include "base/number_text.h"
 #include "engine/effect_metrics.h"
 
