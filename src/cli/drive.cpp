@@ -39,18 +39,18 @@ FieldValue fieldValueOf(const std::string& name, const nlohmann::json& value) {
     throw UseProblem(valueWords(name));
 }
 
-// The members of an object in the order of their names; the last value of a name counts. The parser's own
+// The members of an object in their order; the last value of a name counts. The parser's own
 // object that keeps an order looks through all its names at every new one.
 std::vector<Assignment> assignmentsOf(const std::string& text) {
     std::vector<std::string> names;
     const auto watch = [&](int depth, nlohmann::json::parse_event_t event, const nlohmann::json& parsed) {
-        using enum nlohmann::json::parse_event_t;
-        const bool opens = event == object_start || event == array_start;
+        using Event = nlohmann::json::parse_event_t;
+        const bool opens = event == Event::object_start || event == Event::array_start;
         if (opens && !names.empty())
             throw UseProblem(valueWords(names.back()));
-        if (event == key && depth == 1)
+        if (event == Event::key && depth == 1)
             names.push_back(parsed.get<std::string>());
-        return event != array_start;
+        return event != Event::array_start;
     };
     nlohmann::json fields = nlohmann::json::parse(text, watch, false);
     if (!fields.is_object())
