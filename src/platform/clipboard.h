@@ -1,31 +1,32 @@
-// Where copied text goes.
+// Where copied texts and pictures go.
 #pragma once
 
 #include <string>
 
 namespace lorvane {
 
-/// The same thing as plain text and, where it has a form of its own, as HTML.
-struct ClipboardText {
-    std::string text;
-    std::string html;  ///< empty: there is none
+/// The same thing in the forms that other programs may ask for.
+struct ClipboardContent {
+    std::string text = {};  ///< plain text
+    std::string html = {};  ///< empty: it has no form of its own
+    std::string png = {};   ///< bytes of a picture; empty: there is none
 };
 
 class Clipboard {
 public:
     virtual ~Clipboard() = default;
-
-    virtual void put(const ClipboardText& content) = 0;
+    virtual void put(const ClipboardContent& content) = 0;
 };
 
 /// A clipboard for scripts, which can be read.
 class MemoryClipboard final : public Clipboard {
 public:
-    void put(const ClipboardText& content) override { content_ = content; }
-    const ClipboardText& content() const noexcept { return content_; }
+    void put(const ClipboardContent& content) override { content_ = content; }
+
+    const ClipboardContent& content() const noexcept { return content_; }
 
 private:
-    ClipboardText content_;
+    ClipboardContent content_;
 };
 
 }  // namespace lorvane

@@ -7,7 +7,7 @@ namespace lorvane {
 
 class QtClipboard final : public Clipboard {
 public:
-    void put(const ClipboardText& content) override;
+    void put(const ClipboardContent& content) override;
 };
 
 }  // namespace lorvane

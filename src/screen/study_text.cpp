@@ -126,7 +126,7 @@ std::string resultText(const Design& design) {
     return screen.pnlPower.Caption + ", " + cost;
 }
 
-ClipboardText studyTable(const Design& design) {
+ClipboardContent studyTable(const Design& design) {
     const MainScreen& screen = design.screen();
     const std::vector<Row> levels = levelRows(screen, design.study().NumLevels);
     const std::vector<Row> answers = answerRows(screen);

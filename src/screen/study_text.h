@@ -12,6 +12,6 @@ namespace lorvane {
 std::string resultText(const Design& design);
 
 /// The table of levels as it is shown, below it effect, test, power and cost: parted by tabs, and as HTML.
-ClipboardText studyTable(const Design& design);
+ClipboardContent studyTable(const Design& design);
 
 }  // namespace lorvane

@@ -14,7 +14,7 @@ ENGINE = GROUND | {"engine"}
 VALIDATION = ENGINE | {"validation"}
 SESSION = VALIDATION | {"session"}
 SCREEN = SESSION | {"screen"}
-CORE = SCREEN | {"persistence", "guidance", "search"}
+CORE = SCREEN | {"persistence", "guidance", "search", "graphs"}
 
 MAY_INCLUDE = {
     "base": set(),
@@ -27,11 +27,13 @@ MAY_INCLUDE = {
     "persistence": SCREEN,
     "guidance": SCREEN,
     "search": SCREEN,
+    "graphs": SCREEN,
     "app": CORE,
     "os": GROUND,
-    "cli": CORE | {"numerics", "app", "os"},
+    "sheets": GROUND,
     "qt": GROUND,
-    "desktop": CORE | {"numerics", "app", "os", "qt"},
+    "cli": CORE | {"numerics", "app", "os", "sheets", "qt"},
+    "desktop": CORE | {"numerics", "app", "os", "sheets", "qt"},
 }
 # The distribution functions see one header of the platform alone.
 NUMERICS_MAY_SEE = {"platform/distribution_library.h"}
@@ -41,7 +43,8 @@ KIT = "desktop/kit/"
 FOREIGN = {
     "os": re.compile(r"sys/file\.h|fcntl\.h|unistd\.h|sys/stat\.h"),
     "cli": re.compile(r"CLI/|nlohmann/"),
-    "qt": re.compile(r"Q[A-Z]"),
+    "sheets": re.compile(r"xlsxwriter\.h"),
+    "qt": re.compile(r"Q[A-Z]|qcustomplot\.h"),
     "desktop": re.compile(r"Q[A-Z]"),
 }
 STANDARD = re.compile(r"c?[a-z_0-9]+$")
