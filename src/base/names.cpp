@@ -17,6 +17,14 @@ namespace {
 constexpr std::size_t longestCompared = 80;
 constexpr std::size_t longestQuoted = 60;
 
+// The whole text as a number.
+std::optional<int> wholeNumber(std::string_view text) {
+    int number = 0;
+    const auto result = std::from_chars(text.data(), text.data() + text.size(), number);
+    const bool read = result.ec == std::errc() && result.ptr == text.data() + text.size();
+    return read ? std::optional(number) : std::nullopt;
+}
+
 std::size_t editDistance(const std::string& a, const std::string& b) {
     std::vector<std::size_t> row(b.size() + 1);
     for (std::size_t j = 0; j <= b.size(); ++j)
@@ -39,12 +47,21 @@ IndexedName splitName(std::string_view name) {
     const std::size_t open = name.rfind('(');
     if (open == std::string_view::npos || open == 0 || name.back() != ')')
         return {name, std::nullopt};
-    const std::string_view digits = name.substr(open + 1, name.size() - open - 2);
-    int index = 0;
-    const auto result = std::from_chars(digits.data(), digits.data() + digits.size(), index);
-    if (result.ec != std::errc() || result.ptr != digits.data() + digits.size())
-        return {name, std::nullopt};
-    return {name.substr(0, open), index};
+    const auto index = wholeNumber(name.substr(open + 1, name.size() - open - 2));
+    return index ? IndexedName{name.substr(0, open), index} : IndexedName{name, std::nullopt};
+}
+
+std::optional<PairName> splitPairName(std::string_view name) {
+    const std::size_t open = name.rfind('(');
+    const std::size_t comma = name.rfind(',');
+    if (open == std::string_view::npos || comma == std::string_view::npos || comma < open ||
+        name.back() != ')')
+        return std::nullopt;
+    const auto first = wholeNumber(name.substr(open + 1, comma - open - 1));
+    const auto second = wholeNumber(name.substr(comma + 1, name.size() - comma - 2));
+    if (!first || !second)
+        return std::nullopt;
+    return PairName{name.substr(0, open), *first, *second};
 }
 
 std::string indexedName(std::string_view stem, int index) {

@@ -17,6 +17,16 @@ struct IndexedName {
 /// "txtNT(2)" gives {"txtNT", 2}; "txtd" gives {"txtd"}. A malformed index stays part of the stem.
 IndexedName splitName(std::string_view name);
 
+/// A name with two indices: "CurrChart(2,15)".
+struct PairName {
+    std::string_view stem;
+    int first;
+    int second;
+};
+
+/// Such a name taken apart; nothing for any other one.
+std::optional<PairName> splitPairName(std::string_view name);
+
 /// The stem with its index, as in "txtNT(2)".
 std::string indexedName(std::string_view stem, int index);
 

@@ -17,13 +17,6 @@ constexpr int decimalsOfOtherForm = 3;
 
 std::string blanks(int count) { return std::string(static_cast<std::size_t>(count), ' '); }
 
-std::string amountText(double cost, const Currency& currency) {
-    constexpr double largestAmount = 2147483647;
-    return ReFormatCurrency(
-        static_cast<std::int32_t>(std::clamp(roundHalfToEven(cost), -largestAmount, largestAmount)),
-        currency);
-}
-
 const char* modelText(double model) {
     if (model == SamplingModels::fixed)
         return "Fixed";

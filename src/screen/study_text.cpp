@@ -4,22 +4,13 @@
 #include <utility>
 #include <vector>
 
-#include "base/number_text.h"
+#include "base/table_text.h"
 
 namespace lorvane {
 
 namespace {
 
-using Row = std::vector<std::string>;
-
-// A heading over two lines stands on one.
-std::string onOneLine(std::string text) {
-    for (char& c : text) {
-        if (c == '\n' || c == '\t')
-            c = ' ';
-    }
-    return std::string(trimmed(text));
-}
+using Row = TextRow;
 
 bool isOfColumn(const FieldCells& cells, std::string_view column) {
     return cells.field->index != FieldIndex::none && cells.field->cell.column == column;
@@ -38,7 +29,7 @@ const Cell* shownCell(const FieldCells& cells, int levels) {
 std::string headingOf(const Column& column, const FieldCells& cells, const Cell& shown) {
     if (!cells.field->cell.heading.empty())
         return std::string(cells.field->cell.heading);
-    const std::string heading = onOneLine(column.heading.Caption);
+    const std::string heading = cellText(column.heading.Caption);
     return shown.arm.empty() ? heading : heading + ", " + shown.arm;
 }
 
@@ -74,50 +65,6 @@ std::vector<Row> answerRows(const MainScreen& screen) {
     return rows;
 }
 
-std::string plainText(const std::vector<Row>& rows) {
-    std::string text;
-    for (const Row& row : rows) {
-        for (std::size_t i = 0; i < row.size(); ++i) {
-            if (i > 0)
-                text += '\t';
-            text += onOneLine(row[i]);
-        }
-        text += '\n';
-    }
-    return text;
-}
-
-std::string escaped(std::string_view text) {
-    std::string safe;
-    for (const char c : text) {
-        switch (c) {
-        case '&':
-            safe += "&amp;";
-            break;
-        case '<':
-            safe += "&lt;";
-            break;
-        case '>':
-            safe += "&gt;";
-            break;
-        default:
-            safe += c;
-        }
-    }
-    return safe;
-}
-
-std::string htmlTable(const std::vector<Row>& rows) {
-    std::string html = "<table>";
-    for (const Row& row : rows) {
-        html += "<tr>";
-        for (const std::string& cell : row)
-            html.append("<td>").append(escaped(onOneLine(cell))).append("</td>");
-        html += "</tr>";
-    }
-    return html + "</table>";
-}
-
 }  // namespace
 
 std::string resultText(const Design& design) {
@@ -130,7 +77,7 @@ ClipboardContent studyTable(const Design& design) {
     const MainScreen& screen = design.screen();
     const std::vector<Row> levels = levelRows(screen, design.study().NumLevels);
     const std::vector<Row> answers = answerRows(screen);
-    return {plainText(levels) + "\n" + plainText(answers), htmlTable(levels) + htmlTable(answers)};
+    return {tabbedText(levels) + "\n" + tabbedText(answers), htmlTable(levels) + htmlTable(answers)};
 }
 
 }  // namespace lorvane

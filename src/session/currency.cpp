@@ -1,6 +1,9 @@
 // Money as text.
 #include "session/currency.h"
 
+#include <algorithm>
+
+#include "base/money.h"
 #include "base/number_text.h"
 #include "base/utf8.h"
 
@@ -30,6 +33,13 @@ std::string ReFormatCurrency(std::int32_t amount, const Currency& currency) {
     default:
         return "";
     }
+}
+
+std::string amountText(double amount, const Currency& currency) {
+    constexpr double largestAmount = 2147483647;
+    return ReFormatCurrency(
+        static_cast<std::int32_t>(std::clamp(roundHalfToEven(amount), -largestAmount, largestAmount)),
+        currency);
 }
 
 }  // namespace lorvane

@@ -24,4 +24,7 @@ Currency detectCurrency(const SystemLocale& locale);
 /// An amount with grouped thousands and the symbol before or after it; empty for any other position.
 std::string ReFormatCurrency(std::int32_t amount, const Currency& currency);
 
+/// The same of an amount that may have decimals: it is rounded, and held to 32 bits.
+std::string amountText(double amount, const Currency& currency);
+
 }  // namespace lorvane

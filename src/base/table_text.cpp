@@ -1,0 +1,66 @@
+// A table of texts as other programs take it.
+#include "base/table_text.h"
+
+#include <string_view>
+
+#include "base/number_text.h"
+
+namespace lorvane {
+
+namespace {
+
+std::string escaped(std::string_view text) {
+    std::string safe;
+    for (const char c : text) {
+        switch (c) {
+        case '&':
+            safe += "&amp;";
+            break;
+        case '<':
+            safe += "&lt;";
+            break;
+        case '>':
+            safe += "&gt;";
+            break;
+        default:
+            safe += c;
+        }
+    }
+    return safe;
+}
+
+}  // namespace
+
+std::string cellText(std::string text) {
+    for (char& c : text) {
+        if (c == '\n' || c == '\t')
+            c = ' ';
+    }
+    return std::string(trimmed(text));
+}
+
+std::string tabbedText(const std::vector<TextRow>& rows) {
+    std::string text;
+    for (const TextRow& row : rows) {
+        for (std::size_t i = 0; i < row.size(); ++i) {
+            if (i > 0)
+                text += '\t';
+            text += cellText(row[i]);
+        }
+        text += '\n';
+    }
+    return text;
+}
+
+std::string htmlTable(const std::vector<TextRow>& rows) {
+    std::string html = "<table>";
+    for (const TextRow& row : rows) {
+        html += "<tr>";
+        for (const std::string& cell : row)
+            html.append("<td>").append(escaped(cellText(cell))).append("</td>");
+        html += "</tr>";
+    }
+    return html + "</table>";
+}
+
+}  // namespace lorvane
