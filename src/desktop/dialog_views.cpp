@@ -3,7 +3,9 @@
 
 #include <QHBoxLayout>
 #include <QLabel>
+#include <QRadioButton>
 #include <QShortcut>
+#include <QStyle>
 #include <QVBoxLayout>
 #include <utility>
 
@@ -39,6 +41,7 @@ DialogView::DialogView(Desk& desk, ToolPanel* panel, const Dialog& model, std::f
     box->setSpacing(8);
     box->addWidget(heading_);
     box->addWidget(sense_);
+    addOptions();
     for (const DialogField& field : model_.fields)
         addField(field);
     box->addWidget(limits_);
@@ -54,6 +57,17 @@ DialogView::DialogView(Desk& desk, ToolPanel* panel, const Dialog& model, std::f
     });
 }
 
+void DialogView::addOptions() {
+    for (const DialogOption& option : model_.options) {
+        auto* button = new QRadioButton(shownText(option.option.Caption));
+        button->setObjectName(QString::fromStdString(option.control));
+        button->setFont(textFont(TextStyle::Body));
+        connect(button, &QRadioButton::clicked, this, [this, &option] { desk_.click(option.control); });
+        panel()->content()->addWidget(button);
+        options_.push_back({&option, button});
+    }
+}
+
 void DialogView::addField(const DialogField& model) {
     const bool single = model_.fields.size() == 1;
     FieldView view{styled(TextStyle::CaptionStrong),
@@ -67,18 +81,23 @@ void DialogView::addField(const DialogField& model) {
     fields_.push_back(view);
 }
 
+PushButton* DialogView::makeButton(const DialogButton& button, bool primary) {
+    PushButton* made =
+        primary ? primaryButton(shownText(button.caption)) : plainButton(shownText(button.caption));
+    made->setObjectName(QString::fromStdString(button.control));
+    connect(made, &PushButton::clicked, this, [this, &button] { press(button); });
+    return made;
+}
+
+// What changes the fields stands at the left, what ends the dialog at the right.
 void DialogView::addButtons() {
     auto* row = new QHBoxLayout;
     row->setSpacing(8);
+    for (const DialogButton& button : model_.fieldButtons)
+        row->addWidget(makeButton(button));
     row->addStretch(1);
-    for (const DialogButton& button : model_.buttons) {
-        const bool primary = &button == &model_.buttons.back();
-        PushButton* made =
-            primary ? primaryButton(shownText(button.caption)) : plainButton(shownText(button.caption));
-        made->setObjectName(QString::fromStdString(button.control));
-        connect(made, &PushButton::clicked, this, [this, &button] { press(button); });
-        row->addWidget(made);
-    }
+    for (const DialogButton& button : model_.buttons)
+        row->addWidget(makeButton(button, &button == &model_.buttons.back()));
     panel()->content()->addSpacing(6);
     panel()->content()->addLayout(row);
 }
@@ -100,14 +119,26 @@ void DialogView::sync() {
     panel()->setWindowTitle(literalTitle(shownText(model_.title.Caption)));
     heading_->setText(shownText(model_.title.Caption));
     sense_->setText(shownText(model_.sense.Caption));
-    limits_->setText(shownText(model_.note.Caption));
-    limits_->setVisible(!model_.note.Caption.empty());
+    syncNote();
+    for (const OptionView& option : options_)
+        option.button->setChecked(option.model->option.Value);
     const bool opened = isOpen() && !wasOpen_;
     for (std::size_t i = 0; i < fields_.size(); ++i)
         syncField(i, opened);
     wasOpen_ = isOpen();
     if (opened)
         focusFirst();
+}
+
+void DialogView::syncNote() {
+    limits_->setText(shownText(model_.note.Caption));
+    limits_->setVisible(!model_.note.Caption.empty());
+    if (limits_->property("problem").toBool() == model_.note.trouble)
+        return;
+    limits_->setProperty("problem", model_.note.trouble);
+    limits_->setProperty("second", !model_.note.trouble);
+    limits_->style()->unpolish(limits_);
+    limits_->style()->polish(limits_);
 }
 
 // What was typed stays until the program changes the text itself or the dialog opens anew.
@@ -122,11 +153,13 @@ void DialogView::syncField(std::size_t number, bool opened) {
     view.field->setAccessibleName(view.label->text());
     view.label->setVisible(model.box.Visible && fields_.size() > 1);
     view.field->setVisible(model.box.Visible);
+    view.field->setEnabled(model.box.Enabled);
+    view.field->setProblem(model.trouble);
 }
 
 void DialogView::focusFirst() {
     for (FieldView& view : fields_) {
-        if (view.field->isHidden())
+        if (view.field->isHidden() || !view.field->isEnabled())
             continue;
         view.field->setFocus();
         view.field->selectAll();

@@ -9,6 +9,7 @@
 #include "screen/dialog.h"
 
 class QLabel;
+class QRadioButton;
 
 namespace lorvane::desktop {
 
@@ -33,10 +34,17 @@ private:
         TextField* field;
         std::string shown;  ///< text of the model that the field shows
     };
+    struct OptionView {
+        const DialogOption* model;
+        QRadioButton* button;
+    };
+    void addOptions();
     void addField(const DialogField& model);
     void addButtons();
+    PushButton* makeButton(const DialogButton& button, bool primary = false);
     void press(const DialogButton& button);
     void syncField(std::size_t number, bool opened);
+    void syncNote();
     void focusFirst();
 
     const Dialog& model_;
@@ -44,6 +52,7 @@ private:
     QLabel* heading_;
     QLabel* sense_;
     QLabel* limits_;
+    std::vector<OptionView> options_;
     std::vector<FieldView> fields_;
     bool wasOpen_ = false;
 };

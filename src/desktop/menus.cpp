@@ -3,6 +3,9 @@
 
 #include <QMenuBar>
 #include <QToolBar>
+#include <algorithm>
+#include <optional>
+#include <utility>
 
 #include "desktop/kit/icons.h"
 #include "desktop/kit/menu_button.h"
@@ -13,7 +16,6 @@ namespace lorvane::desktop {
 
 namespace {
 
-constexpr const char* mainBar = "Band1";
 constexpr const char* powerTool = "Set power";
 constexpr const char* powerBand = "popSetPower";
 
@@ -41,14 +43,24 @@ constexpr SignIcon signIcons[] = {{Sign::open, Icon::Open},
                                   {Sign::details, Icon::Details},
                                   {Sign::undo, Icon::Undo},
                                   {Sign::redo, Icon::Redo},
-                                  {Sign::copy, Icon::Copy}};
+                                  {Sign::copy, Icon::Copy},
+                                  {Sign::axis, Icon::XAxis},
+                                  {Sign::series, Icon::Series},
+                                  {Sign::coin, Icon::Coin},
+                                  {Sign::table, Icon::Table},
+                                  {Sign::saveGraph, Icon::Export},
+                                  {Sign::left, Icon::ChevronLeft},
+                                  {Sign::right, Icon::ChevronRight},
+                                  {Sign::up, Icon::ChevronUp},
+                                  {Sign::down, Icon::ChevronDown},
+                                  {Sign::close, Icon::Close}};
 
-QIcon iconOf(Sign sign) {
+std::optional<Icon> drawingOf(Sign sign) {
     for (const SignIcon& row : signIcons) {
         if (row.sign == sign)
-            return icon(row.icon);
+            return row.icon;
     }
-    return {};
+    return std::nullopt;
 }
 
 QList<QKeySequence> keysOf(const Tool& tool) {
@@ -77,7 +89,8 @@ void addSpace(QToolBar* bar) {
 
 }  // namespace
 
-Menus::Menus(Desk& desk, QWidget* window) : QObject(window), desk_(desk), window_(window) {}
+Menus::Menus(Desk& desk, QWidget* window, std::string screen)
+    : QObject(window), desk_(desk), window_(window), screen_(std::move(screen)) {}
 
 QAction* Menus::action(const std::string& name) {
     const auto found = actions_.find(name);
@@ -87,8 +100,8 @@ QAction* Menus::action(const std::string& name) {
     const Tool& tool = *desk_.application().commands().find(name);
     action->setCheckable(isCheckable(tool));
     action->setObjectName(QString::fromStdString(name));
-    if (tool.sign != Sign::none)
-        action->setIcon(iconOf(tool.sign));
+    if (const auto drawing = drawingOf(tool.sign))
+        action->setIcon(icon(*drawing));
     action->setShortcuts(keysOf(tool));
     // The tool decides what is checked, so a click that changes nothing leaves the check as it was.
     connect(action, &QAction::triggered, this, [this, name] {
@@ -102,6 +115,8 @@ QAction* Menus::action(const std::string& name) {
 
 void Menus::sync(QAction* action, const Tool& tool) {
     action->setText(shownText(tool.Caption));
+    if (!tool.word.empty())
+        action->setIconText(shownText(tool.word));
     action->setToolTip(shownText(tool.ToolTipText));
     action->setStatusTip(shownText(tool.ToolTipText));
     action->setVisible(tool.Visible);
@@ -146,7 +161,7 @@ QMenu* Menus::menu(const std::string& name) {
 
 void Menus::fill(QMenuBar* bar) {
     for (const Band& band : desk_.application().commands().bands()) {
-        if (band.kind == BandKind::menu)
+        if (band.kind == BandKind::menu && band.screen == screen_)
             bar->addMenu(menu(band.Name));
     }
 }
@@ -158,6 +173,15 @@ void Menus::addPowerButton(QToolBar* bar) {
     power_->setAccessibleName(tr("Required power"));
     power_->setToolTip(shownText(desk_.application().commands().find(powerTool)->ToolTipText));
     bar->addWidget(power_);
+}
+
+void Menus::addMenuButton(QToolBar* bar, const std::string& name) {
+    const Band& band = *desk_.application().commands().band(name);
+    auto* button = new MenuButton(shownText(band.word), bar);
+    if (const auto drawing = drawingOf(band.sign))
+        button->setSign(*drawing);
+    button->setMenu(menu(name));
+    bar->addWidget(button);
 }
 
 void Menus::addButton(QToolBar* bar, const std::string& tool) {
@@ -173,6 +197,13 @@ void Menus::addButton(QToolBar* bar, const std::string& tool) {
     connect(action, &QAction::changed, place, [place, action] { place->setVisible(action->isVisible()); });
 }
 
+const Band& Menus::toolBar() const {
+    const std::vector<Band>& bands = desk_.application().commands().bands();
+    return *std::find_if(bands.begin(), bands.end(), [this](const Band& band) {
+        return band.kind == BandKind::toolbar && band.screen == screen_;
+    });
+}
+
 void Menus::setWordsShown(bool shown) {
     for (ToolButton* button : words_)
         button->setWords(shown ? ToolButton::Words::Beside : ToolButton::Words::None);
@@ -180,11 +211,13 @@ void Menus::setWordsShown(bool shown) {
 
 void Menus::fill(QToolBar* bar) {
     addSpace(bar);
-    for (const BandEntry& entry : desk_.application().commands().band(mainBar)->entries) {
+    for (const BandEntry& entry : toolBar().entries) {
         if (entry.kind == BandEntry::Kind::line)
             bar->addSeparator();
         else if (entry.kind == BandEntry::Kind::stretch)
             addStretch(bar);
+        else if (entry.kind == BandEntry::Kind::band)
+            addMenuButton(bar, entry.name);
         else if (entry.name == powerTool)
             addPowerButton(bar);
         else

@@ -24,13 +24,13 @@ class Menus : public QObject {
     Q_OBJECT
 
 public:
-    explicit Menus(Desk& desk, QWidget* window);
+    /// The menus of a screen, "xPlot"; of the main one where it is empty.
+    explicit Menus(Desk& desk, QWidget* window, std::string screen = {});
 
     /// Fills the menu bar from the bands that are menus.
     void fill(QMenuBar* bar);
 
-    /// Fills the main tool bar: signs with words where the eye needs them, guide and details at the right
-    /// end.
+    /// Fills the tool bar: signs with words where the eye needs them, guide and details at the right end.
     void fill(QToolBar* bar);
 
     /// Opens the popup of a band; nothing for a band without tools.
@@ -50,10 +50,13 @@ private:
     void sync(QAction* action, const Tool& tool);
     void addEntries(QMenu* menu, const Band& band);
     void addPowerButton(QToolBar* bar);
+    const Band& toolBar() const;
+    void addMenuButton(QToolBar* bar, const std::string& band);
     void addButton(QToolBar* bar, const std::string& tool);
 
     Desk& desk_;
     QWidget* window_;
+    std::string screen_;
     std::map<std::string, QAction*> actions_;
     std::map<std::string, QMenu*> menus_;
     MenuButton* power_ = nullptr;

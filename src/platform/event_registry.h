@@ -8,6 +8,7 @@
 #include <unordered_map>
 #include <vector>
 
+#include "base/names.h"
 #include "platform/controls.h"
 
 namespace lorvane {
@@ -21,6 +22,10 @@ public:
     }
     void onClose(std::string window, Handler handler) {
         enter(closes_, std::move(window), std::move(handler));
+    }
+    /// A point of a chart: "xPlot.CurrChart(2,15)" is line 2, point 15.
+    void onPick(std::string chart, std::function<void(int line, int point)> handler) {
+        picks_.insert_or_assign(std::move(chart), std::move(handler));
     }
     /// The arrows of a window's own number; the handler gets 1 for up and -1 for down.
     void onSpin(std::string control, std::function<void(int)> handler) {
@@ -42,7 +47,7 @@ public:
     void addGrid(std::string name, Grid& grid) { grids_.emplace(std::move(name), &grid); }
 
     /// Each runs the handler of a name; false when there is none.
-    bool click(std::string_view control) const { return run(clicks_, control); }
+    bool click(std::string_view control) const { return run(clicks_, control) || pick(control); }
     bool close(std::string_view window) const { return run(closes_, window); }
 
     /// The arrows and the number of a name; null when there are none.
@@ -87,6 +92,16 @@ private:
         return true;
     }
 
+    bool pick(std::string_view control) const {
+        const auto name = splitPairName(control);
+        const auto* handler = name ? find(picks_, std::string(name->stem)) : nullptr;
+        if (handler == nullptr)
+            return false;
+        (*handler)(name->first, name->second);
+        return true;
+    }
+
+    std::unordered_map<std::string, std::function<void(int, int)>> picks_;
     Handlers clicks_;
     Handlers closes_;
     std::unordered_map<std::string, std::function<void(int)>> spins_;

@@ -3,6 +3,7 @@
 
 #include <optional>
 #include <string>
+#include <vector>
 
 namespace lorvane {
 
@@ -11,8 +12,10 @@ struct FileDialog {
     enum class Kind { open, save };
     Kind kind = Kind::open;
     std::string title;
-    std::string filter;            ///< words and pattern, "(*.txt)|*.txt"
-    std::string defaultExtension;  ///< ".txt"; empty for none
+    std::string filter;                          ///< words and pattern, "(*.txt)|*.txt"
+    std::string defaultExtension;                ///< ".txt"; empty for none
+    std::vector<std::string> otherFilters = {};  ///< on offer beside the filter, in the same form
+    bool asksBeforeReplacing = true;             ///< where the name of a file that is there is chosen
 };
 
 /// The longest name of a file that a dialog takes, in letters.
@@ -29,7 +32,7 @@ public:
 
     /// Shows the dialog, with the words of its filter as they are told, and waits for the path; nothing when
     /// it is cancelled. A dialog for opening takes only a file that is there, one for saving only a folder
-    /// that is there, and it asks before it takes the name of a file that is there.
+    /// that is there, and it asks before it takes the name of a file that is there, unless the program does.
     virtual std::optional<std::string> choose(const FileDialog& dialog) = 0;
 };
 

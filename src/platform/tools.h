@@ -30,7 +30,17 @@ enum class Sign {
     details,
     undo,
     redo,
-    copy
+    copy,
+    axis,
+    series,
+    coin,
+    table,
+    saveGraph,
+    left,
+    right,
+    up,
+    down,
+    close
 };
 
 /// One command as it stands. It may stand in several bands.
@@ -41,6 +51,7 @@ struct Tool {
     ToolCategory Category = ToolCategory::command;
     Sign sign = Sign::none;
     bool withWord = false;  ///< the tool bar shows its caption beside the sign
+    std::string word;       ///< a shorter caption for the tool bar; empty: the caption
     std::string shortcut;   ///< keys, "Ctrl+Z"; several are parted by blanks
     bool Checked = false;
     bool Visible = true;
@@ -62,6 +73,9 @@ struct Band {
     std::string Caption;
     BandKind kind = BandKind::menu;
     std::vector<BandEntry> entries;
+    std::string screen = {};  ///< window that it belongs to, "xPlot"; empty: the main one
+    Sign sign = Sign::none;   ///< of the button on a tool bar that opens it
+    std::string word = {};    ///< caption of that button
 };
 
 }  // namespace lorvane

@@ -13,20 +13,32 @@ namespace lorvane {
 
 namespace {
 
-// The words of a filter, "(*.txt)" of "(*.txt)|*.txt", and its pattern, "*.txt".
-QString wordsOf(const FileDialog& dialog) {
-    return QString::fromStdString(dialog.filter).section(QLatin1Char('|'), 0, 0);
+// A filter, "(*.txt)|*.txt", as a dialog words it: "(*.txt) (*.txt)", of which it shows the first part.
+QString nameFilter(const std::string& filter) {
+    const QString text = QString::fromStdString(filter);
+    return QStringLiteral("%1 (%2)").arg(text.section(QLatin1Char('|'), 0, 0),
+                                         text.section(QLatin1Char('|'), 1));
 }
 
-QString patternOf(const FileDialog& dialog) {
-    return QString::fromStdString(dialog.filter).section(QLatin1Char('|'), 1);
-}
+QString endingOf(const QString& text) { return text.section(QLatin1Char('.'), -1).remove(QLatin1Char(')')); }
 
 // The ending that a name without one gets. A name for saving gets the one of the filter where none is told.
 QString suffixOf(const FileDialog& dialog) {
-    const QString named = QString::fromStdString(dialog.defaultExtension);
     const bool saves = dialog.kind == FileDialog::Kind::save;
-    return (named.isEmpty() && saves ? patternOf(dialog) : named).section(QLatin1Char('.'), -1);
+    return endingOf(QString::fromStdString(
+        dialog.defaultExtension.empty() && saves ? dialog.filter : dialog.defaultExtension));
+}
+
+// A name that is saved gets the ending of the filter that is chosen.
+void offerFilters(QFileDialog& box, const FileDialog& dialog) {
+    QStringList filters(nameFilter(dialog.filter));
+    for (const std::string& other : dialog.otherFilters)
+        filters << nameFilter(other);
+    box.setNameFilters(filters);
+    box.setDefaultSuffix(suffixOf(dialog));
+    if (!dialog.otherFilters.empty())
+        QObject::connect(&box, &QFileDialog::filterSelected,
+                         [&box](const QString& filter) { box.setDefaultSuffix(endingOf(filter)); });
 }
 
 // Stays open with a reason for a path that cannot be taken. The dialogs of a desktop look after that
@@ -63,8 +75,8 @@ std::optional<std::string> QtFileDialogs::choose(const FileDialog& dialog) {
     FileBox box(owner_, QString::fromStdString(dialog.title), folder_);
     // Without its details a filter shows what stands before the last bracket.
     box.setOption(QFileDialog::HideNameFilterDetails);
-    box.setNameFilter(QStringLiteral("%1 (%2)").arg(wordsOf(dialog), patternOf(dialog)));
-    box.setDefaultSuffix(suffixOf(dialog));
+    box.setOption(QFileDialog::DontConfirmOverwrite, !dialog.asksBeforeReplacing);
+    offerFilters(box, dialog);
     if (dialog.kind == FileDialog::Kind::save)
         box.setAcceptMode(QFileDialog::AcceptSave);
     else

@@ -9,6 +9,12 @@
 
 namespace lorvane {
 
+namespace {
+
+constexpr std::string_view graphScreen = "xPlot.";
+
+}  // namespace
+
 CommandBook::CommandBook(std::vector<Command> commands, std::vector<Band> bands)
     : commands_(std::move(commands)), bands_(std::move(bands)) {
     for (const Command& command : commands_)
@@ -33,8 +39,15 @@ void CommandBook::check() const {
     }
 }
 
-bool CommandBook::run(std::string_view key) const {
+std::unordered_map<std::string_view, std::size_t>::const_iterator
+CommandBook::place(std::string_view key) const {
     const auto found = byKey_.find(key);
+    const bool isLong = found == byKey_.end() && key.starts_with(graphScreen);
+    return isLong ? byKey_.find(key.substr(graphScreen.size())) : found;
+}
+
+bool CommandBook::run(std::string_view key) const {
+    const auto found = place(key);
     if (found == byKey_.end() || !commands_[found->second].run)
         return false;
     commands_[found->second].run();
@@ -54,7 +67,7 @@ void CommandBook::sync() {
 }
 
 const Tool* CommandBook::find(std::string_view key) const {
-    const auto found = byKey_.find(key);
+    const auto found = place(key);
     return found == byKey_.end() ? nullptr : &tools_[found->second];
 }
 

@@ -40,7 +40,8 @@ public:
     /// Asks every command how it stands.
     void sync();
 
-    /// The tool of a key, and the band of a name; null when there is none.
+    /// The tool of a key, and the band of a name; null when there is none. A key may stand behind the name of
+    /// its screen: "xPlot.Show cost".
     const Tool* find(std::string_view key) const;
     const Band* band(std::string_view name) const;
 
@@ -55,6 +56,7 @@ public:
 
 private:
     void check() const;
+    std::unordered_map<std::string_view, std::size_t>::const_iterator place(std::string_view key) const;
 
     std::vector<Command> commands_;
     std::vector<Tool> tools_;  ///< as they stand, in the order of the commands

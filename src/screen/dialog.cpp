@@ -24,23 +24,37 @@ void Dialog::registerNames(ControlRegistry& registry) const {
     registry.add(name + "." + noteName, note);
     if (!window)
         registry.add(name + ".Visible", &open);
+    for (const DialogOption& option : options)
+        registry.add(option.control, option.option);
     for (const DialogField& field : fields) {
         registry.add(field.control + ".Text", &field.box.Text);
+        registry.add(field.control + ".Enabled", &field.box.Enabled);
+        registry.add(field.control + ".BackColor",
+                     [&field]() -> ControlValue { return field.trouble ? refusedColour : normalBackground; });
         registry.add(field.labelName.empty() ? field.control + ".Label" : field.labelName, field.label);
     }
-    for (const DialogButton& button : buttons)
-        registry.add(button.control + ".Caption", &button.caption);
+    for (const auto* row : {&fieldButtons, &buttons}) {
+        for (const DialogButton& button : *row)
+            registry.add(button.control + ".Caption", &button.caption);
+    }
 }
 
 // A button of a dialog that is not open does nothing.
 void Dialog::registerEvents(EventRegistry& events, const std::function<bool()>& isOpen) {
     for (DialogField& field : fields)
         events.addTextBox(field.control, field.box);
-    for (const DialogButton& button : buttons)
-        events.onClick(button.control, [press = button.press, isOpen] {
+    const auto onClick = [&](const std::string& control, const std::function<void()>& press) {
+        events.onClick(control, [press, isOpen] {
             if (isOpen())
                 press();
         });
+    };
+    for (const DialogOption& option : options)
+        onClick(option.control, option.press);
+    for (const auto* row : {&fieldButtons, &buttons}) {
+        for (const DialogButton& button : *row)
+            onClick(button.control, button.press);
+    }
 }
 
 }  // namespace lorvane

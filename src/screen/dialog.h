@@ -13,11 +13,22 @@
 
 namespace lorvane {
 
+/// The ground of a field or a note that tells of a refused value, as scripts read it.
+inline constexpr Colour refusedColour{255, 155, 155};
+
 struct DialogField {
     std::string control;  ///< "frmAlpha.txtAlpha"
     Panel label;
     TextBox box = {};
     std::string labelName = {};  ///< the label's own name, where it has one
+    bool trouble = false;        ///< its value was refused
+};
+
+/// One of several choices above the fields.
+struct DialogOption {
+    std::string control;
+    Option option;
+    std::function<void()> press;
 };
 
 struct DialogButton {
@@ -38,6 +49,8 @@ struct Dialog {
     Panel title = {};
     Panel sense = {};  ///< one line of sense, above the fields
     Panel note = {};   ///< limits or an explanation, below them
+    std::vector<DialogOption> options = {};
+    std::vector<DialogButton> fieldButtons = {};  ///< that change which fields there are
 
     /// A field by its control; it must exist.
     TextBox& box(std::string_view control);

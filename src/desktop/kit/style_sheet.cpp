@@ -45,6 +45,7 @@ QPushButton[primary="true"]:disabled { background: @field; color: @quiet; border
 QPushButton[flat="true"] { background: transparent; border: none; padding: 0; min-height: 0; min-width: 0; }
 
 QLabel[second="true"] { color: @secondText; }
+QLabel[problem="true"] { color: @problemText; font-weight: 500; }
 
 QLineEdit { background: @card; color: @text; border: 1px solid @strongLine; border-radius: 6px;
             padding: 0 10px; min-height: 30px; selection-background-color: @textSelection;
@@ -102,6 +103,7 @@ constexpr Name Names[] = {
     {"@onAccent", Role::OnAccent},
     {"@page", Role::Page},
     {"@problemOutline", Role::ProblemOutline},
+    {"@problemText", Role::ProblemText},
     {"@problemTint", Role::ProblemTint},
     {"@quiet", Role::Quiet},
     {"@secondText", Role::SecondText},
