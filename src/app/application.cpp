@@ -21,8 +21,13 @@ Application::Application(const Platform& platform)
       studyFiles_(design_, store_, recent_, platform.dialogs),
       startScreen_(design_, studyFiles_, recent_, platform.files),
       optimalWindow_(design_, platform.progress == nullptr ? noProgress_ : *platform.progress),
+      graph_(design_,
+             {platform.dialogs, platform.files,
+              platform.clipboard == nullptr ? noClipboard_ : *platform.clipboard, platform.chart,
+              platform.sheets, platform.shell},
+             platform.progress == nullptr ? noProgress_ : *platform.progress, platform.hourglass),
       commands_(commandRows({session_, design_, dialogs_, details_, mdesWindow_, optimalWindow_,
-                             scenarioWindow_, studyFiles_, startScreen_,
+                             scenarioWindow_, studyFiles_, startScreen_, graph_,
                              platform.clipboard == nullptr ? noClipboard_ : *platform.clipboard}),
                 bandRows()) {
     session_.follow([this](const Changed& changed) { follow(changed); });

@@ -11,11 +11,13 @@
 
 #include "app/command_rows.h"
 #include "base/use_problem.h"
+#include "graphs/graph_screen.h"
 #include "guidance/details.h"
 #include "persistence/scenario_list.h"
 #include "persistence/scenario_window.h"
 #include "persistence/start_screen.h"
 #include "persistence/study_files.h"
+#include "platform/chart.h"
 #include "platform/clipboard.h"
 #include "platform/clock.h"
 #include "platform/control_registry.h"
@@ -27,6 +29,8 @@
 #include "platform/message_boxes.h"
 #include "platform/progress.h"
 #include "platform/settings_store.h"
+#include "platform/sheet.h"
+#include "platform/shell.h"
 #include "platform/system_locale.h"
 #include "platform/unsaved_store.h"
 #include "screen/command_book.h"
@@ -54,6 +58,9 @@ struct Platform {
     Clipboard* clipboard = nullptr;   ///< none: what is copied can be read by name alone
     const Clock* clock = nullptr;     ///< none: the clock of the machine
     Hourglass* hourglass = nullptr;   ///< none: nobody waits for a file
+    Chart* chart = nullptr;           ///< none: graphs cannot be saved as pictures
+    SheetWriter* sheets = nullptr;    ///< none: tables cannot be saved
+    Shell* shell = nullptr;           ///< none: nothing is opened after it was saved
 };
 
 class Application {
@@ -97,8 +104,7 @@ public:
     void type(const std::string& control, const std::string& text);
     void select(const std::string& grid, const std::vector<std::size_t>& rows);
     void close(const std::string& window);
-    void spin(const std::string& control, int direction, ArrowHold hold = ArrowHold::click,
-              int times = 1);
+    void spin(const std::string& control, int direction, ArrowHold hold = ArrowHold::click, int times = 1);
     void spinReleased();
 
     /// What a double click on the cell of a field does; nothing for a name without a field.
@@ -124,6 +130,7 @@ public:
     const StartScreen& startScreen() const noexcept { return startScreen_; }
     const Details& details() const noexcept { return details_; }
     const MdesWindow& mdesWindow() const noexcept { return mdesWindow_; }
+    const GraphScreen& graph() const noexcept { return graph_; }
 
     const ControlRegistry& names() const noexcept { return names_; }
     std::vector<ScenarioLine> scenarios() const { return scenarioLines(session_.scenarios()); }
@@ -152,10 +159,11 @@ private:
     StudyFiles studyFiles_;
     StartScreen startScreen_;
     OptimalWindow optimalWindow_;
+    GraphScreen graph_;
 
     /// In the order in which they hear of a change.
-    std::vector<Part*> parts_ = {&dialogs_, &mdesWindow_,     &optimalWindow_,
-                                 &details_, &scenarioWindow_, &startScreen_};
+    std::vector<Part*> parts_ = {&dialogs_,        &mdesWindow_,  &optimalWindow_, &details_,
+                                 &scenarioWindow_, &startScreen_, &graph_};
     CommandBook commands_;
     ControlRegistry names_;
     EventRegistry events_;

@@ -4,6 +4,8 @@
 #include <string>
 #include <utility>
 
+#include "app/command_table.h"
+#include "app/graph_rows.h"
 #include "base/money.h"
 #include "base/number_text.h"
 #include "base/utf8.h"
@@ -20,29 +22,8 @@ constexpr std::size_t longestStepName = 39;  // with the word before it 44 lette
 using enum ToolCategory;
 using P = const Program&;
 
-/// How a command looks and is reached beside its caption.
-struct Looks {
-    Sign sign = Sign::none;
-    bool withWord = false;
-    const char* shortcut = "";
-};
-
-struct CommandRow {
-    const char* key;
-    const char* caption;
-    const char* tip;
-    ToolCategory category;
-    void (*run)(P) = nullptr;         ///< none: the program has no subject for it
-    ToolState (*state)(P) = nullptr;  ///< none: always on offer
-    Looks looks = {};
-};
-
 // How commands stand
 // -----------------------------------------------------------------------------------------
-
-ToolState checkedIf(bool checked) { return {.checked = checked}; }
-ToolState visibleIf(bool visible) { return {.visible = visible}; }
-ToolState enabledIf(bool enabled) { return {.enabled = enabled}; }
 
 template <WindowId window>
 ToolState isOpen(P p) {
@@ -90,13 +71,6 @@ ToolState isTauSqMetric(P p) {
     return checkedIf(p.session.study().TauSqMetric == metric);
 }
 
-// An "&" in a name that a user gave is shown, not taken for a mnemonic.
-std::string plain(std::string text) {
-    for (std::size_t at = text.find('&'); at != std::string::npos; at = text.find('&', at + 2))
-        text.insert(at, 1, '&');
-    return text;
-}
-
 std::string percentText(double power) { return shortestText(roundHalfToEven(power * 100)) + "%"; }
 
 // Undo and redo are named after the step.
@@ -104,7 +78,7 @@ std::string percentText(double power) { return shortestText(roundHalfToEven(powe
 ToolState stepState(bool possible, const char* word, const std::string& name) {
     std::string caption = word;
     if (!name.empty())
-        caption.append(" ").append(plain(cutInMiddle(name, longestStepName)));
+        caption.append(" ").append(plainCaption(cutInMiddle(name, longestStepName)));
     return {.enabled = possible, .caption = std::move(caption)};
 }
 
@@ -405,7 +379,13 @@ const CommandRow commandTable[] = {
      isOpen<frmMDES>,
      {Sign::mdes, true}},
     {"gfrmPrint", "&Report", "Make a report", window, nullptr, isOpen<frmPrint>, {Sign::report, true}},
-    {"Graph", "&Graph", "Draw power and cost as a graph", window, nullptr, nullptr, {Sign::graph, true}},
+    {"Graph",
+     "&Graph",
+     "Draw power and cost as a graph",
+     window,
+     [](P p) { p.graph.DoGraph(); },
+     nullptr,
+     {Sign::graph, true}},
     {"gfrmTips",
      "&Guide",
      "Open or close the guide",
@@ -427,12 +407,9 @@ const CommandRow commandTable[] = {
      isOpen<frmDisplayICC>},
     {"gfrmDisplayTauSq", "&Tau-squared and range", "The picture of the effects", window,
      open<frmDisplayTauSq>, isOpen<frmDisplayTauSq>},
-    {"gfrmLVar", "Lines of the graph", "The lines of the graph", window, nullptr, isOpen<frmLVar>},
+
     {"gfrmScenariosName", "Name of a scenario", "Name and describe a scenario", window, nullptr,
      isOpen<frmScenariosName>},
-    {"gfrmTable", "Table of the graph", "The table of the graph", window, nullptr, isOpen<frmTable>},
-    {"gfrmXVar", "Axis of the graph", "The axis of the graph", window, nullptr, isOpen<frmXVar>},
-    {"gxPlot", "Graph", "The graph", window, nullptr, isOpen<xPlot>},
     {"gfrmProblems", "&Problem", "Why the study gives no power", window, open<frmProblems>,
      isOpen<frmProblems>},
     {"gfrmProblemES", "Problem with the &effect", "Why the effect is not admissible", window,
@@ -604,22 +581,6 @@ constexpr int mostDecimalsOfField = 4;
 // From rows to commands
 // ----------------------------------------------------------------------------------------
 
-Tool toolOf(std::string key, std::string caption, const char* tip, ToolCategory category,
-            const Looks& looks = {}) {
-    return {std::move(key), std::move(caption), tip, category, looks.sign, looks.withWord, looks.shortcut};
-}
-
-void addPlainCommands(std::vector<Command>& commands, P p) {
-    for (const CommandRow& row : commandTable) {
-        Command command{toolOf(row.key, row.caption, row.tip, row.category, row.looks), {}, {}};
-        if (row.run != nullptr)
-            command.run = [p, run = row.run] { run(p); };
-        if (row.state != nullptr)
-            command.state = [p, state = row.state] { return state(p); };
-        commands.push_back(std::move(command));
-    }
-}
-
 void addChoices(std::vector<Command>& commands, P p) {
     for (const ChoiceRow& row : choiceTable) {
         const FieldRef field{&fieldOf(row.field), 0};
@@ -639,7 +600,7 @@ void addLevelCommands(std::vector<Command>& commands, P p) {
                 {toolOf(key, key, row.tip, row.category), [p, &row, level] { row.run(p, level); },
                  [p, &row, level] {
                      ToolState state = row.state(p, level);
-                     state.caption = row.before + plain(p.session.study().txtName(level)) + row.after;
+                     state.caption = row.before + plainCaption(p.session.study().txtName(level)) + row.after;
                      return state;
                  }});
         }
@@ -720,14 +681,6 @@ Keys joined(Keys keys, const Keys& more) {
     return keys;
 }
 
-// A menu as a list of keys: "-" is a line, ">" the gap before the right end, "+" leads to another menu.
-struct MenuRow {
-    std::string name;
-    const char* caption;
-    BandKind kind;
-    Keys keys;
-};
-
 std::vector<MenuRow> menuTable() {
     using enum BandKind;
     return {
@@ -788,7 +741,8 @@ std::vector<MenuRow> menuTable() {
          "For&ms",
          menu,
          {"gfrmDisplayICC", "gfrmDisplayTauSq", "gfrmCounts", "gfrmProblems", "gfrmProblemES", "-",
-          "gfrmScenarios", "gfrmOptimal", "gfrmMDES", "-", "gfrmTips", "gfrmDetails", "gfrmOpenWizard"}},
+          "gfrmScenarios", "gfrmOptimal", "gfrmMDES", "gxPlot", "gfrmTable", "-", "gfrmTips", "gfrmDetails",
+          "gfrmOpenWizard"}},
         {"popHelp", "&Help", menu, {"gfrmTips", "gfrmDetails", "-", "Program manual", "-", "About"}},
         {"popSetPower",
          "Set power",
@@ -865,21 +819,12 @@ void addFieldPopups(std::vector<MenuRow>& rows) {
     }
 }
 
-BandEntry entryOf(const std::string& key) {
-    if (key == "-")
-        return {BandEntry::Kind::line, ""};
-    if (key == ">")
-        return {BandEntry::Kind::stretch, ""};
-    if (key[0] == '+')
-        return {BandEntry::Kind::band, key.substr(1)};
-    return {BandEntry::Kind::tool, key};
-}
-
 }  // namespace
 
 std::vector<Command> commandRows(const Program& program) {
     std::vector<Command> commands;
-    addPlainCommands(commands, program);
+    addCommands(commands, program, commandTable);
+    addGraphCommands(commands, program);
     addChoices(commands, program);
     addLevelCommands(commands, program);
     addDecimals(commands, program);
@@ -894,11 +839,10 @@ std::vector<Band> bandRows() {
         addLevelPopups(rows, level);
     addFieldPopups(rows);
     std::vector<Band> bands;
-    for (const MenuRow& row : rows) {
-        bands.push_back({row.name, row.caption, row.kind, {}});
-        for (const std::string& key : row.keys)
-            bands.back().entries.push_back(entryOf(key));
-    }
+    for (const MenuRow& row : rows)
+        bands.push_back(bandOf(row));
+    for (Band& band : graphBands())
+        bands.push_back(std::move(band));
     return bands;
 }
 

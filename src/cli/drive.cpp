@@ -11,6 +11,7 @@
 
 #include "base/names.h"
 #include "base/number_text.h"
+#include "cli/chart_json.h"
 #include "cli/json_text.h"
 #include "cli/script_words.h"
 #include "platform/failure_words.h"
@@ -267,6 +268,13 @@ Json open(Session& session, ScriptWords& words) {
 
 double needNumber(ScriptWords& words, const char* what) { return numberOf(what, words.need(what)); }
 
+Json chart(Session& session, ScriptWords&) {
+    const GraphScreen& graph = session.application.graph();
+    if (!graph.hasGraph())
+        throw UseProblem("There is no graph yet; draw one with tool Graph.");
+    return chartJson(graph.chart(), graph.axis());
+}
+
 Json valueOf(double value) { return {{"value", value}}; }
 
 Json dist(Session& session, ScriptWords& words) {
@@ -306,12 +314,12 @@ struct Command {
     Json (*run)(Session&, ScriptWords&);
 };
 
-constexpr Command commands[] = {{"load", load},          {"set", set},           {"get", get},
-                                {"names", names},        {"state", state},       {"tool", tool},
-                                {"spin", spin},          {"click", click},       {"type", type},
-                                {"select", select},      {"close", close},       {"file", queueFile},
-                                {"answer", queueAnswer}, {"messages", messages}, {"grid", grid},
-                                {"save", save},          {"open", open},         {"dist", dist}};
+constexpr Command commands[] = {
+    {"load", load},          {"set", set},           {"get", get},     {"names", names},
+    {"state", state},        {"tool", tool},         {"spin", spin},   {"click", click},
+    {"type", type},          {"select", select},     {"close", close}, {"file", queueFile},
+    {"answer", queueAnswer}, {"messages", messages}, {"grid", grid},   {"chart", chart},
+    {"save", save},          {"open", open},         {"dist", dist}};
 
 Json run(Session& session, std::string_view line) {
     ScriptWords words(line);

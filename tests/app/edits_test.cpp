@@ -37,6 +37,21 @@ bool isOfDisplay(const std::string& name) {
                             "pnlCostOuter", "pnlAI", "frmDisplayTauSq.lblOmega", "frmDisplayTauSq.pnlOmega"});
 }
 
+// What a graph leaves on its screen is nothing of the study.
+bool isOfGraph(const std::string& name) {
+    static const std::vector<Band> bands = bandRows();
+    if (!name.starts_with("tool:"))
+        return startsWithOneOf(name, {"XVar", "LVar", "XRow", "LRow", "NumLines", "Graph", "CostScale",
+                                      "ColorSet", "CurrentPoint", "DisplayOn", "DetailsCorner", "xPlot",
+                                      "frmTable", "frmXVar", "frmLVar", "XRangeTable", "LValueTable"});
+    const std::string tool = name.substr(5, name.rfind('.') - 5);
+    return tool == "gxPlot" || std::any_of(bands.begin(), bands.end(), [&](const Band& band) {
+               return band.screen == "xPlot" &&
+                      std::any_of(band.entries.begin(), band.entries.end(),
+                                  [&](const BandEntry& entry) { return entry.name == tool; });
+           });
+}
+
 /// A thing that a person does, by the names of controls.
 struct Action {
     std::string name;
@@ -78,8 +93,8 @@ protected:
             const std::string flag = name.substr(0, name.rfind('.')) + ".Visible";
             const auto found = std::find(all.begin(), all.end(), flag);
             const std::string& shows = found == all.end() ? name : *found;
-            names_.push_back({isOfSession(name), isOfDisplay(name), name.starts_with("frmCounts"),
-                              static_cast<std::size_t>(&shows - all.data())});
+            names_.push_back({isOfSession(name) || isOfGraph(name), isOfDisplay(name),
+                              name.starts_with("frmCounts"), static_cast<std::size_t>(&shows - all.data())});
         }
     }
 

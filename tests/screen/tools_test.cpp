@@ -46,11 +46,13 @@ struct Tools : ScreenTest {
             EXPECT_THROW(app.tool(name), UseProblem);
             return;
         }
+        const bool isValid = app.design().study().result.xValid;
         const bool changesType = std::count(groups[0].begin(), groups[0].end(), name) == 1;
         if (changesType)
             messages.script.queue(Answer::OK);
         app.tool(name);
-        const bool speaks = changesType || speaking.contains(name);
+        const bool drawsInVain = (name == "Graph" || name == "gxPlot") && !isValid;
+        const bool speaks = changesType || drawsInVain || speaking.contains(name);
         EXPECT_EQ(messages.script.take().size(), speaks ? 1u : 0u);
         expectInOrder(name);
     }
@@ -63,6 +65,8 @@ struct Tools : ScreenTest {
 TEST_F(Tools, EachOneInEveryDesign) {
     std::set<std::string> names;
     for (const Band& band : app.commands().bands()) {
+        if (!band.screen.empty())
+            continue;
         for (const BandEntry& entry : band.entries) {
             if (entry.kind == BandEntry::Kind::tool)
                 names.insert(entry.name);

@@ -1,0 +1,32 @@
+// What the commands of the program act on.
+#pragma once
+
+#include "graphs/graph_screen.h"
+#include "guidance/details.h"
+#include "persistence/scenario_window.h"
+#include "persistence/start_screen.h"
+#include "persistence/study_files.h"
+#include "platform/clipboard.h"
+#include "screen/design.h"
+#include "screen/small_dialogs.h"
+#include "search/mdes_window.h"
+#include "search/optimal_window.h"
+
+namespace lorvane {
+
+/// What commands act on.
+struct Program {
+    Session& session;
+    Design& design;
+    SmallDialogs& dialogs;
+    Details& details;
+    MdesWindow& mdes;
+    OptimalWindow& optimal;
+    ScenarioWindow& scenarios;
+    StudyFiles& files;
+    StartScreen& start;
+    GraphScreen& graph;
+    Clipboard& clipboard;
+};
+
+}  // namespace lorvane

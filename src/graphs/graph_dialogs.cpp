@@ -1,0 +1,323 @@
+// The range of the X-axis and the values of the series.
+#include "graphs/graph_dialogs.h"
+
+#include <algorithm>
+#include <utility>
+#include <vector>
+
+#include "base/money.h"
+#include "base/names.h"
+#include "base/number_text.h"
+#include "graphs/valid_ranges.h"
+
+namespace lorvane {
+
+namespace {
+
+constexpr int automatic = 0;
+constexpr int byHand = 1;
+constexpr int fewestLines = 2;
+
+constexpr const char* setAutomatically = "X-axis will be set automatically";
+constexpr const char* setByHand = "X-axis will use range shown above";
+constexpr const char* addAndEnter = "Click <Add> and then enter a value.";
+
+Panel panel(std::string caption) {
+    Panel made;
+    made.Caption = std::move(caption);
+    return made;
+}
+
+DialogField numberField(std::string control, std::string label) {
+    DialogField field;
+    field.control = std::move(control);
+    field.label = panel(std::move(label));
+    return field;
+}
+
+// A box as a number, where it spells one.
+ControlValue valueOf(const TextBox& box) {
+    const auto value = readNumber(box.Text);
+    return value ? ControlValue(*value) : ControlValue(box.Text);
+}
+
+// A box of a variable without decimals holds whole numbers.
+std::optional<double> readBox(const TextBox& box, int decimals) {
+    const auto value = readNumber(box.Text);
+    return value && decimals == 0 ? std::optional(roundHalfToEven(*value)) : value;
+}
+
+std::string rangeWords(const FieldLimits& limits, int decimals) {
+    return "Values must fall in the range of " + fixedText(limits.low, decimals) + " to " +
+           fixedText(limits.high, decimals) + ".";
+}
+
+void tell(Dialog& dialog, std::string text) {
+    dialog.note.Caption = std::move(text);
+    dialog.note.trouble = false;
+    dialog.note.BackColor = normalBackground;
+}
+
+void tellRefused(Dialog& dialog, std::string why) {
+    dialog.note.Caption = std::move(why);
+    dialog.note.trouble = true;
+    dialog.note.BackColor = refusedColour;
+}
+
+void clearMarks(Dialog& dialog) {
+    for (DialogField& field : dialog.fields)
+        field.trouble = false;
+}
+
+}  // namespace
+
+// The range of the X-axis
+// -----------------------------------------------------------------------------------
+
+AxisDialog::AxisDialog(Design& design, GraphState& state, std::function<void()> draw)
+    : design_(design), state_(state), draw_(std::move(draw)) {
+    dialog_ = {"frmXVar",
+               WindowId::frmXVar,
+               "pnlMsg",
+               {numberField("frmXVar.txtXVar(1)", "Start"), numberField("frmXVar.txtXVar(2)", "End")},
+               {{"frmXVar.cmdCancel", "Cancel", [this] { close(); }},
+                {"frmXVar.Command1", "OK", [this] { accept(); }}}};
+    dialog_.sense = panel("Range of the X-axis");
+    dialog_.options = {{"frmXVar.optManual(0)", {"Set automatically", true}, [this] { choose(automatic); }},
+                       {"frmXVar.optManual(1)", {"Set manually"}, [this] { choose(byHand); }}};
+}
+
+void AxisDialog::registerNames(ControlRegistry& registry) const {
+    dialog_.registerNames(registry);
+    registry.add("frmXVar.Title", &dialog_.title.Caption);
+    for (const DialogField& field : dialog_.fields)
+        registry.add(field.control, [&field] { return valueOf(field.box); });
+}
+
+void AxisDialog::registerEvents(EventRegistry& events) {
+    dialog_.registerEvents(events, [this] { return isOpen(); });
+    events.onClose("frmXVar", [this] { close(); });
+}
+
+bool AxisDialog::isOpen() const { return design_.isOpen(WindowId::frmXVar); }
+
+void AxisDialog::close() { design_.SynchForms(WindowId::frmXVar, WindowAction::unload); }
+
+void AxisDialog::open() {
+    Init();
+    design_.SynchForms(WindowId::frmXVar, WindowAction::open);
+}
+
+void AxisDialog::Init() {
+    const GraphVariable& x = state_.XVar;
+    dialog_.title.Caption = GetTitleX(design_.study(), x);
+    decimals_ = x->decimals;
+    limits_ = x->axisLimits;
+    if (x->rangeIsOfStudy) {
+        Study tried = design_.study();
+        const ValidRange valid = validRangeOf(tried, x);
+        limits_ = {valid.low, true, valid.high, true};
+    }
+    const XRange& range = state_.range();
+    dialog_.fields[0].box.Text = shortestText(range.Start);
+    dialog_.fields[1].box.Text = shortestText(range.End);
+    choose(range.Mode == byHand ? byHand : automatic);
+}
+
+void AxisDialog::SetDisplay(int mode) {
+    for (DialogField& field : dialog_.fields)
+        field.box.Enabled = mode == byHand;
+    tell(dialog_, mode == byHand ? setByHand : setAutomatically);
+}
+
+void AxisDialog::choose(int mode) {
+    clearMarks(dialog_);
+    dialog_.options[automatic].option.Value = mode == automatic;
+    dialog_.options[byHand].option.Value = mode == byHand;
+    SetDisplay(mode);
+}
+
+void AxisDialog::accept() {
+    if (dialog_.options[byHand].option.Value) {
+        acceptByHand();
+        return;
+    }
+    tell(dialog_, std::string(setAutomatically) + ".");
+    XRange range = state_.range();
+    range.Mode = automatic;
+    range.Start = readBox(dialog_.fields[0].box, decimals_).value_or(range.Start);
+    range.End = readBox(dialog_.fields[1].box, decimals_).value_or(range.End);
+    keep(range);
+}
+
+void AxisDialog::acceptByHand() {
+    clearMarks(dialog_);
+    if (refusesValues())
+        return;
+    const XRange range{byHand, *readBox(dialog_.fields[0].box, decimals_),
+                       *readBox(dialog_.fields[1].box, decimals_)};
+    if (range.Start == range.End) {
+        dialog_.fields[0].trouble = dialog_.fields[1].trouble = true;
+        tellRefused(dialog_, "The start and end values cannot be the same.");
+        return;
+    }
+    GraphRequest request = state_.request();
+    request.range = range;
+    if (axisOf(design_.session().trial(), request).isCutToNothing) {
+        dialog_.fields[0].trouble = dialog_.fields[1].trouble = true;
+        tellRefused(dialog_, "The values fall outside the range on which the study is valid.");
+        return;
+    }
+    tell(dialog_, setByHand);
+    keep(range);
+}
+
+bool AxisDialog::refusesValues() {
+    bool refused = false;
+    for (DialogField& field : dialog_.fields) {
+        const auto value = readBox(field.box, decimals_);
+        field.trouble = !value || !limits_.holds(*value);
+        refused = refused || field.trouble;
+    }
+    if (refused)
+        tellRefused(dialog_, rangeWords(limits_, decimals_));
+    return refused;
+}
+
+void AxisDialog::keep(const XRange& range) {
+    state_.range() = range;
+    close();
+    draw_();
+}
+
+// The values of the series
+// ----------------------------------------------------------------------------------
+
+LineDialog::LineDialog(Design& design, GraphState& state, std::function<void()> draw)
+    : design_(design), state_(state), draw_(std::move(draw)) {
+    dialog_ = {"frmLVar",
+               WindowId::frmLVar,
+               "pnlMsg",
+               {},
+               {{"frmLVar.cmdCancel", "Cancel", [this] { cancel(); }},
+                {"frmLVar.Command1", "OK", [this] { accept(); }}}};
+    dialog_.sense = panel("A line of the graph for each value");
+    for (int line = 1; line <= mostLines; ++line)
+        dialog_.fields.push_back(
+            numberField(indexedName("frmLVar.txtLVar", line), "Value " + std::to_string(line)));
+    dialog_.fieldButtons = {{"frmLVar.cmdAddRemove(0)", "Remove", [this] { setNumLines(NumLines_ - 1); }},
+                            {"frmLVar.cmdAddRemove(1)", "Add", [this] { setNumLines(NumLines_ + 1); }}};
+}
+
+void LineDialog::registerNames(ControlRegistry& registry) const {
+    dialog_.registerNames(registry);
+    registry.add("frmLVar.Title", &dialog_.title.Caption);
+    registry.add("frmLVar.NumLines", &NumLines_);
+    registry.add("frmLVar.txtvalid", &txtvalid_);
+    for (const DialogField& field : dialog_.fields)
+        registry.add(field.control, [&field] { return valueOf(field.box); });
+}
+
+void LineDialog::registerEvents(EventRegistry& events) {
+    dialog_.registerEvents(events, [this] { return isOpen(); });
+    events.onClose("frmLVar", [this] { cancel(); });
+}
+
+bool LineDialog::isOpen() const { return design_.isOpen(WindowId::frmLVar); }
+
+void LineDialog::close() { design_.SynchForms(WindowId::frmLVar, WindowAction::unload); }
+
+void LineDialog::open() {
+    Init();
+    design_.SynchForms(WindowId::frmLVar, WindowAction::open);
+}
+
+void LineDialog::Init() {
+    dialog_.title.Caption = GetTitleX(design_.study(), state_.LVar);
+    txtvalid_ = 0;
+    LineValues values = state_.lines();
+    if (values[0] < fewestLines) {
+        values[0] = fewestLines;
+        values[1] = state_.LVar.in(design_.study());
+        values[2] = 0;
+    }
+    for (std::size_t line = 1; line < values.size(); ++line)
+        dialog_.fields[line - 1].box.Text = shortestText(values[line]);
+    clearMarks(dialog_);
+    tell(dialog_, addAndEnter);
+    setNumLines(static_cast<int>(values[0]));
+}
+
+void LineDialog::setNumLines(int lines) {
+    NumLines_ = std::clamp(lines, 1, mostLines);
+    for (int line = 1; line <= mostLines; ++line) {
+        DialogField& field = dialog_.fields[static_cast<std::size_t>(line - 1)];
+        field.box.Enabled = line <= NumLines_;
+        field.trouble = field.trouble && field.box.Enabled;
+    }
+}
+
+void LineDialog::accept() {
+    clearMarks(dialog_);
+    if (refusesValues()) {
+        txtvalid_ = 0;
+        return;
+    }
+    keepSorted();
+    if (NumLines_ < fewestLines)
+        state_.bindL({});
+    close();
+    txtvalid_ = 1;
+    draw_();
+}
+
+// Of two reasons the last one is told.
+bool LineDialog::refusesValues() {
+    const GraphVariable& l = state_.LVar;
+    const auto used = static_cast<std::size_t>(NumLines_);
+    bool refused = false;
+    std::vector<std::optional<double>> values;
+    for (std::size_t i = 0; i < used; ++i) {
+        values.push_back(readBox(dialog_.fields[i].box, l->decimals));
+        dialog_.fields[i].trouble = !values[i] || !l->lineLimits.holds(*values[i]);
+        refused = refused || dialog_.fields[i].trouble;
+    }
+    if (refused)
+        tellRefused(dialog_, rangeWords(l->lineLimits, l->decimals));
+    for (std::size_t i = 0; i < used; ++i) {
+        if (!values[i] || std::count(values.begin(), values.end(), values[i]) == 1)
+            continue;
+        dialog_.fields[i].trouble = refused = true;
+        tellRefused(dialog_, "Each value must be unique.");
+    }
+    return refused;
+}
+
+void LineDialog::keepSorted() {
+    const GraphVariable& l = state_.LVar;
+    const auto used = static_cast<std::size_t>(NumLines_);
+    std::vector<double> values;
+    for (std::size_t i = 0; i < used; ++i)
+        values.push_back(*readBox(dialog_.fields[i].box, l->decimals));
+    std::sort(values.begin(), values.end());
+    if (l->order == SeriesOrder::descending)
+        std::reverse(values.begin(), values.end());
+    LineValues& kept = state_.lines();
+    kept[0] = NumLines_;
+    for (std::size_t i = 0; i < used; ++i) {
+        kept[i + 1] = values[i];
+        dialog_.fields[i].box.Text = shortestText(values[i]);
+    }
+    state_.NumLines = NumLines_;
+}
+
+// Without values there is no series at all.
+void LineDialog::cancel() {
+    if (!isOpen())
+        return;
+    state_.bindL({});
+    close();
+    draw_();
+}
+
+}  // namespace lorvane

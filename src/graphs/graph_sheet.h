@@ -1,0 +1,21 @@
+// The table of a graph as it is read: which rows are shown, and the same for a spreadsheet and for texts.
+#pragma once
+
+#include <string>
+
+#include "graphs/graph_compute.h"
+#include "platform/clipboard.h"
+#include "platform/sheet.h"
+
+namespace lorvane {
+
+/// Whether a row of the table is shown, with the block of the costs or without.
+bool isShownRow(const GraphTable& table, int row, bool withCost);
+
+/// The rows that are shown, numbers as numbers.
+Sheet graphSheet(const GraphTable& table, bool withCost);
+
+/// The same as text for other programs.
+ClipboardContent graphTableText(const GraphTable& table, bool withCost);
+
+}  // namespace lorvane
