@@ -1,5 +1,4 @@
-// Comma-separated text as RFC 4180 has it: UTF-8, comma, quotes doubled, CR LF at the end of a line.
-// Knows tables of text and nothing of studies.
+// Reads comma-separated text; base/csv_text.h writes it. Knows tables of text and nothing of studies.
 #pragma once
 
 #include <cstddef>
@@ -8,9 +7,9 @@
 #include <string_view>
 #include <vector>
 
-namespace lorvane {
+#include "base/csv_text.h"
 
-using CsvRow = std::vector<std::string>;
+namespace lorvane {
 
 /// A place in a table that cannot be read; row and column count from 1, as a spreadsheet shows them. Column 0
 /// stands for the whole row.
@@ -37,11 +36,5 @@ struct CsvLimits {
 /// Reads rows of cells. A byte order mark is skipped; lines may end in CR LF, LF or CR. Empty cells at the
 /// end of a row are not kept. Throws TableProblem for anything that is not such a table within the limits.
 std::vector<CsvRow> readCsv(std::string_view text, const CsvLimits& limits);
-
-/// Appends one cell, in quotes where it needs them.
-void appendCsvCell(std::string& text, std::string_view cell);
-
-/// Appends one line; cells beyond the row's own are empty.
-void appendCsvLine(std::string& text, const CsvRow& row, std::size_t columns);
 
 }  // namespace lorvane

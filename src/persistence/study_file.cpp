@@ -4,6 +4,7 @@
 #include <algorithm>
 #include <utility>
 
+#include "base/csv_text.h"
 #include "persistence/csv.h"
 #include "persistence/scenario_cells.h"
 
