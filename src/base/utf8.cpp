@@ -10,16 +10,6 @@ namespace lorvane {
 
 namespace {
 
-// The number of the letter at the head of a text.
-unsigned codePoint(std::string_view letter) {
-    unsigned code = static_cast<unsigned char>(letter[0]);
-    if (letter.size() > 1)
-        code &= 0x7Fu >> letter.size();
-    for (const char c : letter.substr(1))
-        code = code << 6 | (static_cast<unsigned char>(c) & 0x3F);
-    return code;
-}
-
 struct CodeRange {
     unsigned first, last;
 };
@@ -63,6 +53,15 @@ std::size_t letterLength(std::string_view text) {
     const bool surrogate = head == 0xED && byte(1) > 0x9F;
     const bool beyond = head == 0xF4 && byte(1) > 0x8F;
     return overlong || surrogate || beyond ? 0 : length;
+}
+
+unsigned codePoint(std::string_view letter) {
+    unsigned code = static_cast<unsigned char>(letter[0]);
+    if (letter.size() > 1)
+        code &= 0x7Fu >> letter.size();
+    for (const char c : letter.substr(1))
+        code = code << 6 | (static_cast<unsigned char>(c) & 0x3F);
+    return code;
 }
 
 bool isCleanText(std::string_view text) {

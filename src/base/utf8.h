@@ -10,6 +10,9 @@ namespace lorvane {
 /// Number of bytes of the letter at the head of a text that is not empty; 0 when there is none.
 std::size_t letterLength(std::string_view text);
 
+/// The number of a letter; a byte that is none has its own.
+unsigned codePoint(std::string_view letter);
+
 /// Whether the text is UTF-8 without a NUL, which every file and every window can take.
 bool isCleanText(std::string_view text);
 
