@@ -8,14 +8,16 @@
 
 namespace lorvane {
 
+/// A text is UTF-8; one with line ends is shown in lines. A number that is not finite leaves the cell empty.
 struct SheetCell {
     std::variant<std::monostate, double, std::string> value;
-    int decimals = 0;        ///< of a number
+    int decimals = 0;        ///< of a number, 0 to 30
     bool thousands = false;  ///< parts the thousands of a number
     bool heading = false;    ///< bold, on the ground of a head
 };
 
-/// A heading that stretches over several columns of its row; both columns are inside it.
+/// The cell in the first column as a heading that stretches over several columns of its row, and hides the
+/// cells in the others. Both columns are inside it; bands do not overlap.
 struct SheetBand {
     std::size_t row;
     std::size_t firstColumn;
