@@ -24,14 +24,6 @@ void appendCodePoint(std::string& rtf, std::uint32_t code) {
     appendUnit(rtf, 0xDC00 + ((code - 0x10000) & 0x3FF));
 }
 
-std::uint32_t codePointOf(std::string_view letter) {
-    constexpr std::uint32_t leadMasks[] = {0, 0x7F, 0x1F, 0x0F, 0x07};
-    std::uint32_t code = static_cast<unsigned char>(letter[0]) & leadMasks[letter.size()];
-    for (const char c : letter.substr(1))
-        code = (code << 6) | (static_cast<unsigned char>(c) & 0x3F);
-    return code;
-}
-
 void appendText(std::string& rtf, std::string_view text) {
     while (!text.empty()) {
         const std::size_t length = letterLength(text);
@@ -46,7 +38,7 @@ void appendText(std::string& rtf, std::string_view text) {
         else if (length == 1)
             rtf += letter;
         else
-            appendCodePoint(rtf, codePointOf(letter));
+            appendCodePoint(rtf, codePoint(letter));
     }
 }
 

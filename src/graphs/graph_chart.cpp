@@ -14,6 +14,7 @@ namespace {
 constexpr double hairBeyondEnd = 0.0001;  // so that the last point is not cut
 constexpr int stepsOfAxis = 5;
 
+constexpr int usualAnnotation = 2;
 constexpr int annotationOfReversed = 3;
 
 double largestCost(const GraphTable& table) {
@@ -87,6 +88,37 @@ void addSigns(const GraphVariable& XVar, const Intervals& axis, const Study& stu
         chart.own = {own, fixedText(own, XVar->decimals)};
 }
 
+ChartAxis xAxis(const GraphVariable& XVar, const Intervals& axis, const Study& study) {
+    return {GetTitleX(study, XVar).append(countSuffix(XVar)),
+            true,
+            axis.Start,
+            axis.End + hairBeyondEnd,
+            axis.Reversed,
+            axis.Reversed ? annotationOfReversed : usualAnnotation};
+}
+
+void addCost(const DrawnGraph& graph, const GraphState& state, ChartContent& chart) {
+    chart.y2.visible = state.showCost;
+    if (!state.showCost)
+        return;
+    const double largest = std::max(largestCost(graph.table), double(graph.table.GraphMaxCost));
+    chart.y2.title = costTitle(state);
+    chart.y2.high = roundAbove(largest / state.CostScale);
+    chart.groups.push_back(groupOf(graph, GraphRows::cost, state.CostScale));
+}
+
+void addTexts(const GraphSubject& subject, const GraphState& state, const SessionState& session,
+              const std::string& secondHeader, ChartContent& chart) {
+    if (state.showHeader)
+        chart.header = {graphHeader(session.study, subject), secondHeader};
+    if (state.showFooter) {
+        const auto footer = graphFooter(session, subject);
+        chart.footer.assign(footer.begin(), footer.end());
+    }
+    chart.footerSize = state.footerSize;
+    chart.footerBold = state.footerBold;
+}
+
 }  // namespace
 
 bool DrawnGraph::hasPower(int series, int point) const {
@@ -113,31 +145,21 @@ double roundAbove(double value) {
     }
 }
 
-ChartContent chartOf(const DrawnGraph& graph, const GraphState& state, const SessionState& session) {
+ChartContent chartOf(const DrawnGraph& graph, const GraphState& state, const SessionState& session,
+                     const std::string& secondHeader) {
     const GraphRequest& request = graph.request;
-    const Intervals& axis = graph.table.axis;
-    const Study& study = session.study;
     ChartContent chart;
-    chart.x = {GetTitleX(study, request.XVar).append(countSuffix(request.XVar)),
-               true,
-               axis.Start,
-               axis.End + hairBeyondEnd,
-               axis.Reversed,
-               axis.Reversed ? annotationOfReversed : 2};
+    chart.x = xAxis(request.XVar, graph.table.axis, session.study);
     chart.y.title = powerTitle(state);
     chart.groups.push_back(groupOf(graph, GraphRows::power, 1));
-    chart.y2.visible = state.showCost;
-    if (state.showCost) {
-        const double largest = std::max(largestCost(graph.table), double(state.GraphMaxCost));
-        chart.y2.title = costTitle(state);
-        chart.y2.high = roundAbove(largest / state.CostScale);
-        chart.groups.push_back(groupOf(graph, GraphRows::cost, state.CostScale));
-    }
-    chart.legend = {GetTitleL(study, request.LVar), state.legend,
-                    request.hasSeries() && state.legend != LegendPlaces::hidden};
-    if (!request.hasSeries())
-        chart.legend.title.clear();
-    addSigns(request.XVar, axis, study, chart);
+    addCost(graph, state, chart);
+    if (request.hasSeries())
+        chart.legend = {GetTitleL(session.study, request.LVar), state.legend,
+                        state.legend != LegendPlaces::hidden};
+    else
+        chart.legend.place = state.legend;
+    addSigns(request.XVar, graph.table.axis, session.study, chart);
+    addTexts(graph.subject(), state, session, secondHeader, chart);
     chart.colours = static_cast<ColourSets>(std::max(state.ColorSet, 1));
     return chart;
 }

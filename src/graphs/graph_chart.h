@@ -23,8 +23,9 @@ int costScaleOf(const GraphTable& table);
 /// The end of a scale in five steps: a round number above a value.
 double roundAbove(double value);
 
-/// The chart in everything but its texts above and below, and its mark.
-ChartContent chartOf(const DrawnGraph& graph, const GraphState& state, const SessionState& session);
+/// The chart in everything but its mark; the second line of the header is the user's own.
+ChartContent chartOf(const DrawnGraph& graph, const GraphState& state, const SessionState& session,
+                     const std::string& secondHeader);
 
 /// What the box tells of a point with a power.
 std::string pointDetails(const DrawnGraph& graph, const GraphState& state, const Study& study);

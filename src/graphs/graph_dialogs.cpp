@@ -8,7 +8,7 @@
 #include "base/money.h"
 #include "base/names.h"
 #include "base/number_text.h"
-#include "graphs/valid_ranges.h"
+#include "graphs/graph_rules.h"
 
 namespace lorvane {
 
@@ -45,11 +45,6 @@ ControlValue valueOf(const TextBox& box) {
 std::optional<double> readBox(const TextBox& box, int decimals) {
     const auto value = readNumber(box.Text);
     return value && decimals == 0 ? std::optional(roundHalfToEven(*value)) : value;
-}
-
-std::string rangeWords(const FieldLimits& limits, int decimals) {
-    return "Values must fall in the range of " + fixedText(limits.low, decimals) + " to " +
-           fixedText(limits.high, decimals) + ".";
 }
 
 void tell(Dialog& dialog, std::string text) {
@@ -112,12 +107,7 @@ void AxisDialog::Init() {
     const GraphVariable& x = state_.XVar;
     dialog_.title.Caption = GetTitleX(design_.study(), x);
     decimals_ = x->decimals;
-    limits_ = x->axisLimits;
-    if (x->rangeIsOfStudy) {
-        Study tried = design_.study();
-        const ValidRange valid = validRangeOf(tried, x);
-        limits_ = {valid.low, true, valid.high, true};
-    }
+    limits_ = axisLimitsOf(design_.study(), x);
     const XRange& range = state_.range();
     dialog_.fields[0].box.Text = shortestText(range.Start);
     dialog_.fields[1].box.Text = shortestText(range.End);
@@ -158,14 +148,14 @@ void AxisDialog::acceptByHand() {
                        *readBox(dialog_.fields[1].box, decimals_)};
     if (range.Start == range.End) {
         dialog_.fields[0].trouble = dialog_.fields[1].trouble = true;
-        tellRefused(dialog_, "The start and end values cannot be the same.");
+        tellRefused(dialog_, equalEnds);
         return;
     }
     GraphRequest request = state_.request();
     request.range = range;
     if (axisOf(design_.session().trial(), request).isCutToNothing) {
         dialog_.fields[0].trouble = dialog_.fields[1].trouble = true;
-        tellRefused(dialog_, "The values fall outside the range on which the study is valid.");
+        tellRefused(dialog_, cutToNothing);
         return;
     }
     tell(dialog_, setByHand);
@@ -288,7 +278,7 @@ bool LineDialog::refusesValues() {
         if (!values[i] || std::count(values.begin(), values.end(), values[i]) == 1)
             continue;
         dialog_.fields[i].trouble = refused = true;
-        tellRefused(dialog_, "Each value must be unique.");
+        tellRefused(dialog_, equalValues);
     }
     return refused;
 }
@@ -299,9 +289,7 @@ void LineDialog::keepSorted() {
     std::vector<double> values;
     for (std::size_t i = 0; i < used; ++i)
         values.push_back(*readBox(dialog_.fields[i].box, l->decimals));
-    std::sort(values.begin(), values.end());
-    if (l->order == SeriesOrder::descending)
-        std::reverse(values.begin(), values.end());
+    values = sortedValues(l, std::move(values));
     LineValues& kept = state_.lines();
     kept[0] = NumLines_;
     for (std::size_t i = 0; i < used; ++i) {

@@ -8,6 +8,7 @@
 #include "base/money.h"
 #include "base/names.h"
 #include "base/number_text.h"
+#include "graphs/graph_rules.h"
 #include "graphs/graph_sheet.h"
 #include "session/field_book.h"
 #include "validation/icc_messages.h"
@@ -221,19 +222,11 @@ void GraphScreen::show() {
 void GraphScreen::showChart() {
     if (!drawn_)
         return;
-    const SessionState& session = drawnFor_;
     if (state_.showCost)
         state_.CostScale = costScaleOf(drawn_->table);
-    chart_ = chartOf(*drawn_, state_, session);
-    const GraphSubject subject = drawn_->subject();
-    txtHeader_[0] = graphHeader(session.study, subject);
-    txtFooter_ = graphFooter(session, subject);
-    if (state_.showHeader)
-        chart_.header = {txtHeader_[0], txtHeader2_.Text};
-    if (state_.showFooter)
-        chart_.footer.assign(txtFooter_.begin(), txtFooter_.end());
-    chart_.footerSize = state_.footerSize;
-    chart_.footerBold = state_.footerBold;
+    txtHeader_[0] = graphHeader(drawnFor_.study, drawn_->subject());
+    txtFooter_ = graphFooter(drawnFor_, drawn_->subject());
+    chart_ = chartOf(*drawn_, state_, drawnFor_, txtHeader2_.Text);
     GraphFormatTable();
     ShowPoint();
 }
@@ -273,7 +266,7 @@ void GraphScreen::tellAboutGraph() {
 
 void GraphScreen::warnAboutCovariates(const GraphVariable& variable) {
     const Study& s = design_.study();
-    if (!variable.is(GraphFields::Rsq) || s.txtQ(variable.level) != 0)
+    if (!lacksCovariates(s, variable))
         return;
     const std::string level = lowerCased(s.txtName(variable.level));
     files_.ask("Compute power as a function of R-squared    ",
