@@ -10,6 +10,7 @@
 #include "base/utf8.h"
 #include "cli/commands.h"
 #include "cli/drive.h"
+#include "cli/graph_command.h"
 #include "cli/mdes_command.h"
 #include "cli/optimal_command.h"
 #include "numerics/numeric_distribution_library.h"
@@ -17,6 +18,8 @@
 #include "os/environment_locale.h"
 #include "os/program_folder.h"
 #include "platform/failure_words.h"
+#include "qt/qt_chart.h"
+#include "sheets/sheet_files.h"
 
 namespace {
 
@@ -28,6 +31,7 @@ struct Requests {
     ScenariosRequest scenarios;
     OptimalRequest optimal;
     MdesRequest mdes;
+    GraphCommandRequest graph;
     std::string driven;
 };
 
@@ -81,6 +85,30 @@ void addMdes(CLI::App& cli, MdesRequest& request) {
     command->footer("Example:\n  lorvane-cli mdes schools.Lorvane --power 0.9");
 }
 
+void addGraph(CLI::App& cli, GraphCommandRequest& request) {
+    CLI::App* command =
+        cli.add_subcommand("graph", "Power over a parameter of the study, as picture or table");
+    command->add_option("STUDY", request.study, "Study file")->required();
+    command->add_option("--x", request.x, "Variable of the X-axis, as \"ICC for Level 2\"")
+        ->required()
+        ->type_name("KEY");
+    command->add_option("--series", request.series, "Variable with a line for each value")->type_name("KEY");
+    command->add_option("--values", request.values, "Values of the series, 2 to 5")
+        ->delimiter(',')
+        ->type_name("A,B,...");
+    command->add_option("--range", request.range, "Range of the X-axis; automatic where it is not given")
+        ->type_name("A:B");
+    addSettings(command, request.settings);
+    command->add_flag("--cost", request.cost, "Show the cost, too");
+    command
+        ->add_option("--out", request.out,
+                     "Picture (.png, .jpg, .svg, .pdf) or table (.csv, .xls, .xlsx) to write")
+        ->required()
+        ->type_name("FILE");
+    command->footer(
+        "Example:\n  lorvane-cli graph schools.Lorvane --x \"Number of Level 3\" --out schools.png");
+}
+
 void addNew(CLI::App& cli, NewRequest& request) {
     CLI::App* command = cli.add_subcommand("new", "A study file from the start values");
     command->add_option("--out", request.out, "Study file to write")->required()->type_name("STUDY");
@@ -107,7 +135,12 @@ int runDrive(const std::string& study, DistributionLibrary& distributions, const
              FileStore& files) {
     ScriptedDialogs messages;
     MemorySettings settings;
-    Application application({distributions, locale, files, messages, messages, settings, programFolder()});
+    QtChart chart;
+    SheetFiles sheets;
+    Platform platform{distributions, locale, files, messages, messages, settings, programFolder()};
+    platform.chart = &chart;
+    platform.sheets = &sheets;
+    Application application(platform);
     if (study.empty())
         application.start("");
     else
@@ -133,6 +166,11 @@ int runChosen(const CLI::App& cli, const Requests& requests) {
         return printOptimal(requests.optimal, line);
     if (cli.got_subcommand("mdes"))
         return printMdes(requests.mdes, line);
+    if (cli.got_subcommand("graph")) {
+        QtChart chart;
+        SheetFiles sheets;
+        return makeGraph(requests.graph, {files, chart, sheets}, line);
+    }
     if (cli.got_subcommand("new"))
         return makeNew(requests.fresh, line);
     return printScenarios(requests.scenarios, line);
@@ -165,6 +203,7 @@ int run(int argc, char** argv) {
     addPower(cli, requests.power);
     addOptimal(cli, requests.optimal);
     addMdes(cli, requests.mdes);
+    addGraph(cli, requests.graph);
     addNew(cli, requests.fresh);
     addScenarios(cli, requests.scenarios);
     addDrive(cli, requests.driven);
