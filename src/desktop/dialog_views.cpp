@@ -44,8 +44,11 @@ DialogView::DialogView(Desk& desk, ToolPanel* panel, const Dialog& model, std::f
     addOptions();
     for (const DialogField& field : model_.fields)
         addField(field);
+    if (!model_.fieldButtons.empty())
+        box->addLayout(makeRow(model_.fieldButtons));
     box->addWidget(limits_);
-    addButtons();
+    box->addSpacing(6);
+    box->addLayout(makeRow(model_.buttons, true));
     panel->setAttribute(Qt::WA_ShowWithoutActivating, false);
     // Escape is Cancel where there is one, and the frame's close otherwise.
     auto* escape = new QShortcut(Qt::Key_Escape, panel);
@@ -89,17 +92,16 @@ PushButton* DialogView::makeButton(const DialogButton& button, bool primary) {
     return made;
 }
 
-// What changes the fields stands at the left, what ends the dialog at the right.
-void DialogView::addButtons() {
+QLayout* DialogView::makeRow(const std::vector<DialogButton>& buttons, bool ends) {
     auto* row = new QHBoxLayout;
     row->setSpacing(8);
-    for (const DialogButton& button : model_.fieldButtons)
-        row->addWidget(makeButton(button));
-    row->addStretch(1);
-    for (const DialogButton& button : model_.buttons)
-        row->addWidget(makeButton(button, &button == &model_.buttons.back()));
-    panel()->content()->addSpacing(6);
-    panel()->content()->addLayout(row);
+    if (ends)
+        row->addStretch(1);
+    for (const DialogButton& button : buttons)
+        row->addWidget(makeButton(button, ends && &button == &buttons.back()));
+    if (!ends)
+        row->addStretch(1);
+    return row;
 }
 
 void DialogView::press(const DialogButton& button) {

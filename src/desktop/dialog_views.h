@@ -9,6 +9,7 @@
 #include "screen/dialog.h"
 
 class QLabel;
+class QLayout;
 class QRadioButton;
 
 namespace lorvane::desktop {
@@ -40,8 +41,9 @@ private:
     };
     void addOptions();
     void addField(const DialogField& model);
-    void addButtons();
-    PushButton* makeButton(const DialogButton& button, bool primary = false);
+    PushButton* makeButton(const DialogButton& button, bool primary);
+    /// The buttons that end the dialog stand at the right, the last one being primary; others at the left.
+    QLayout* makeRow(const std::vector<DialogButton>& buttons, bool ends = false);
     void press(const DialogButton& button);
     void syncField(std::size_t number, bool opened);
     void syncNote();

@@ -16,12 +16,15 @@
 #include "os/program_folder.h"
 #include "os/unsaved_folder.h"
 #include "platform/failure_words.h"
+#include "qt/qt_chart.h"
 #include "qt/qt_clipboard.h"
 #include "qt/qt_file_dialogs.h"
 #include "qt/qt_hourglass.h"
 #include "qt/qt_locale.h"
 #include "qt/qt_message_boxes.h"
 #include "qt/qt_settings_store.h"
+#include "qt/qt_shell.h"
+#include "sheets/sheet_files.h"
 
 namespace {
 
@@ -44,8 +47,11 @@ int run(desktop::DeskApplication& qt, const QString& file) {
     desktop::DeskProgress progress;
     QtClipboard clipboard;
     QtHourglass hourglass;
+    QtChart chart;
+    SheetFiles sheets;
+    QtShell shell;
     Application application({distributions, locale, files, messages, dialogs, settings, programFolder(),
-                             &unsaved, &progress, &clipboard, nullptr, &hourglass});
+                             &unsaved, &progress, &clipboard, nullptr, &hourglass, &chart, &sheets, &shell});
     desktop::Desk desk(application, messages);
     desktop::MainWindow window(desk);
     desktop::Panels panels(desk, window);

@@ -177,10 +177,14 @@ void Menus::addPowerButton(QToolBar* bar) {
 
 void Menus::addMenuButton(QToolBar* bar, const std::string& name) {
     const Band& band = *desk_.application().commands().band(name);
-    auto* button = new MenuButton(shownText(band.word), bar);
+    auto* opening = new QAction(shownText(band.word), this);
     if (const auto drawing = drawingOf(band.sign))
-        button->setSign(*drawing);
-    button->setMenu(menu(name));
+        opening->setIcon(icon(*drawing));
+    opening->setMenu(menu(name));
+    auto* button = new ToolButton(opening, ToolButton::Words::Beside, bar);
+    button->setPopupMode(QToolButton::InstantPopup);
+    button->setFocusPolicy(Qt::TabFocus);
+    words_.push_back(button);
     bar->addWidget(button);
 }
 

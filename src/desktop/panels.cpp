@@ -3,6 +3,8 @@
 
 #include "desktop/dialog_views.h"
 #include "desktop/dispersion_views.h"
+#include "desktop/graph_table_view.h"
+#include "desktop/graph_view.h"
 #include "desktop/main_window.h"
 #include "desktop/mdes_view.h"
 #include "desktop/message_views.h"
@@ -44,6 +46,14 @@ Panels::Panels(Desk& desk, MainWindow& window) : desk_(desk), window_(window) {
     add<MdesView>(centred, centred);
     add<StartView>(centred, centred);
     add<OptimalView>(centred, 0.15, window_.menus());
+    add<GraphView>(centred, centred);
+    add<GraphTableView>(0.2, 0.6);
+    const GraphScreen& graph = desk.application().graph();
+    const auto addGraphDialog = [&](const auto& dialog) {
+        add<DialogView>(centred, centred, dialog.dialog(), [&dialog] { return dialog.isOpen(); });
+    };
+    addGraphDialog(graph.axisDialog());
+    addGraphDialog(graph.lineDialog());
     for (const Dialog* dialog : dialogs.all())
         add<DialogView>(centred, centred, *dialog, [&dialogs, dialog] { return dialogs.isOpen(*dialog); });
     const ScenarioWindow& scenarios = desk.application().scenarioWindow();

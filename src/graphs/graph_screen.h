@@ -84,10 +84,19 @@ public:
     };
     /// The cell of the marked point while the table is open; row 0 otherwise.
     Cell markedCell() const;
+    /// The buttons below the table, by the commands that they run.
+    struct TableButton {
+        const char* tool;
+        const char* caption;
+    };
+    static constexpr TableButton tableButtons[] = {
+        {"Copy table to clipboard", "Copy"}, {"Save table", "Save table"}, {"Show table", "Close"}};
     /// The range as it was computed; all 0 before the first graph.
     Intervals axis() const { return drawn_ ? drawn_->table.axis : Intervals(); }
 
     const TextBox& secondHeader() const noexcept { return txtHeader2_; }
+    static constexpr const char* secondHeaderWords = "Second line of the header";
+    static constexpr const char* secondHeaderPrompt = "Add a line of your own";
     const Panel& pnlStatus() const noexcept { return pnlStatus_; }
     const std::string& tableTitle() const noexcept { return tableTitle_; }
     const AxisDialog& axisDialog() const noexcept { return axisDialog_; }

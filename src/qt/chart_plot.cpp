@@ -32,6 +32,8 @@ ChartPlot::ChartPlot(QWidget* parent)
 void ChartPlot::setContent(const ChartContent& content) { drawing_->setContent(content); }
 
 void ChartPlot::setLook(const ChartLook& look) {
+    if (look == look_)
+        return;
     look_ = look;
     drawing_->setLook(look);
     update();
@@ -47,7 +49,7 @@ void ChartPlot::resizeEvent(QResizeEvent*) { drawing_->setGeometry(rect().adjust
 void ChartPlot::paintEvent(QPaintEvent*) {
     QPainter painter(this);
     painter.fillRect(rect(), look_.ground);
-    if (!hasFocus())
+    if (!hasFocus() || !byKeyboard_)
         return;
     painter.setRenderHint(QPainter::Antialiasing);
     painter.setPen(QPen(look_.focus, ringWidth));
@@ -55,7 +57,15 @@ void ChartPlot::paintEvent(QPaintEvent*) {
     painter.drawRoundedRect(QRectF(rect()).adjusted(inset, inset, -inset, -inset), ringRadius, ringRadius);
 }
 
-void ChartPlot::focusInEvent(QFocusEvent*) { update(); }
+// The ring is for people who work with keys; with the mouse it would only lie around the chart.
+void ChartPlot::setByKeyboard(bool byKeyboard) {
+    byKeyboard_ = byKeyboard;
+    update();
+}
+
+void ChartPlot::focusInEvent(QFocusEvent* event) {
+    setByKeyboard(event->reason() == Qt::TabFocusReason || event->reason() == Qt::BacktabFocusReason);
+}
 
 void ChartPlot::focusOutEvent(QFocusEvent*) { update(); }
 
@@ -70,6 +80,7 @@ void ChartPlot::pick(const QPointF& place, double within) {
 void ChartPlot::mousePressEvent(QMouseEvent* event) {
     if (event->button() != Qt::LeftButton)
         return QWidget::mousePressEvent(event);
+    setByKeyboard(false);
     press_ = Press{event->position()};
     pick(event->position(), reach);
 }
@@ -103,10 +114,10 @@ void ChartPlot::wheelEvent(QWheelEvent* event) {
 void ChartPlot::keyPressEvent(QKeyEvent* event) {
     const bool arrow = event->key() >= Qt::Key_Left && event->key() <= Qt::Key_Down;
     const bool bare = (event->modifiers() & ~Qt::KeypadModifier) == 0;
-    if (arrow && bare)
-        emit stepped(static_cast<Qt::Key>(event->key()));
-    else
-        QWidget::keyPressEvent(event);
+    if (!arrow || !bare)
+        return QWidget::keyPressEvent(event);
+    setByKeyboard(true);
+    emit stepped(static_cast<Qt::Key>(event->key()));
 }
 
 }  // namespace lorvane

@@ -52,6 +52,7 @@ protected:
 
 private:
     void pick(const QPointF& place, double reach);
+    void setByKeyboard(bool byKeyboard);
 
     struct Press {
         QPointF place;
@@ -61,6 +62,7 @@ private:
     ChartDrawing* drawing_;
     ChartLook look_;
     std::optional<Press> press_;  ///< the left button is held
+    bool byKeyboard_ = false;     ///< the last thing that it was told came from a key
     int turned_ = 0;              ///< what the wheel turned since its last step
 };
 

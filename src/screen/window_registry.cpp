@@ -14,6 +14,7 @@ constexpr WindowTitle titles[] = {{WindowId::frmProblems, "frmProblems", "Proble
                                   {WindowId::frmDetails, "frmDetails", "Details"},
                                   {WindowId::frmScenarios, "frmScenarios", "Scenarios"},
                                   {WindowId::frmStart, "frmStart", "Lorvane"},
+                                  {WindowId::xPlot, "xPlot", "Sensitivity graph"},
                                   {WindowId::frmMDES, "frmMDES", "Minimum detectable effect size"},
                                   {WindowId::frmOptimal, "frmOptimal", "Optimal design wizard"}};
 

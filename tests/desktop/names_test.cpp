@@ -208,6 +208,10 @@ TEST_F(Names, AreShownLetterByLetterInEveryWindow) {
     runClick("frmMDES.cmdComputeMDES");
     runTool("gfrmOpenWizard");
     runClick("frmStart.optStart(2)");
+    messages.scripted.queue(Answer::Yes);
+    for (const char* tool : {"Graph", "Show cost", "Show table", "L Number of Level 1"})
+        runTool(tool);
+    runClick("frmLVar.Command1");
     set({{"txtNB(4)", 1.0}, {"txtMRange(3)", 0.95}});
     const std::vector<Tool> tools = desk.application().commands().tools();
     for (const Tool& tool : tools) {

@@ -5,7 +5,7 @@
 //
 // Commands: open STUDY, tool NAME, click CONTROL, spin CONTROL up|down, focus CELL, size W H, dark on|off,
 // value FIELD, type CONTROL TEXT, main NAME (picture of the main window), panel WINDOW NAME (of a floating
-// window), menu BAND NAME.
+// window), resize WINDOW W H, menu BAND NAME.
 #include <QApplication>
 #include <QDir>
 #include <QMenu>
@@ -86,6 +86,8 @@ bool Stage::run(const QStringList& words, const QString& rest) {
         desk.select(words[1].toStdString(), {words[2].toULong()});
     else if (command == QLatin1String("size"))
         window.resize(words[1].toInt(), words[2].toInt());
+    else if (command == QLatin1String("resize") && panels.panel(words[1]) != nullptr)
+        panels.panel(words[1])->resize(words[2].toInt(), words[3].toInt());
     else if (command == QLatin1String("dark"))
         desktop::setDark(words[1] == QLatin1String("on"));
     else if (command == QLatin1String("focus") && window.cell(text) != nullptr)

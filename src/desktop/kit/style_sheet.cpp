@@ -55,6 +55,10 @@ QLineEdit:disabled { color: @quiet; border-color: @line; }
 QLineEdit[problem="true"] { background: @problemTint; border: 2px solid @problemOutline; padding: 0 9px;
             min-height: 28px; }
 
+QLineEdit[plain="true"] { background: transparent; color: @secondText; border: 1px solid transparent; }
+QLineEdit[plain="true"]:hover { border-color: @line; }
+QLineEdit[plain="true"]:focus { background: @card; border: 2px solid @accent; }
+
 QScrollBar { background: transparent; border: none; }
 QScrollBar:vertical { width: 14px; }
 QScrollBar:horizontal { height: 14px; }

@@ -1,0 +1,224 @@
+// The graph screen.
+#include "desktop/graph_view.h"
+
+#include <QEvent>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QLineEdit>
+#include <QMenuBar>
+#include <QPainter>
+#include <QScreen>
+#include <QToolBar>
+#include <QVBoxLayout>
+
+#include "desktop/kit/card.h"
+#include "desktop/kit/elided_label.h"
+#include "desktop/kit/text_style.h"
+#include "desktop/kit/theme.h"
+#include "desktop/menus.h"
+#include "qt/chart_plot.h"
+
+namespace lorvane::desktop {
+
+namespace {
+
+constexpr const char* screenName = "xPlot";
+constexpr const char* secondLine = "xPlot.txtHeader(2)";
+constexpr QSize firstSize(1200, 800);
+constexpr QSize smallestSize(620, 480);
+constexpr int menuHeight = 30;
+constexpr int toolHeight = 44;
+constexpr int statusHeight = 28;
+constexpr int narrow = 1040;   // below, the words of the tool bar go
+constexpr int frameRoom = 60;  // of the screen, for the frame of the window system
+
+// A line of one pixel.
+class Separator : public QWidget {
+public:
+    Separator() { setFixedHeight(1); }
+
+protected:
+    void paintEvent(QPaintEvent*) override { QPainter(this).fillRect(rect(), colour(Role::Line)); }
+};
+
+ChartLook lookOf(ColourSets colours) {
+    const Theme& theme = Theme::current();
+    ChartLook look = theme.isHighContrast()
+                         ? ChartLook::plain(theme.colour(Role::Text), theme.colour(Role::Card))
+                         : ChartLook::of(colours, theme.isDark());
+    look.ground = theme.colour(Role::Card);
+    look.focus = theme.colour(Role::Accent);
+    look.font = textFont(TextStyle::Body);
+    return look;
+}
+
+}  // namespace
+
+GraphView::GraphView(Desk& desk, ToolPanel* panel)
+    : PanelView(desk, panel, screenName), menus_(new Menus(desk, panel, screenName)), header_(new QLabel),
+      secondHeader_(new QLineEdit), plot_(new ChartPlot), line_(new Separator), status_(new ElidedLabel) {
+    panel->setWindowTitle(shownText(windowTitle(WindowId::xPlot)));
+    panel->setAttribute(Qt::WA_ShowWithoutActivating, false);
+    panel->installEventFilter(this);
+    QVBoxLayout* column = panel->content();
+    column->setSizeConstraint(QLayout::SetDefaultConstraint);
+    column->setContentsMargins(0, 0, 0, 0);
+    panel->setMinimumSize(smallestSize);
+    const QSize room = panel->screen()->availableGeometry().size() - QSize(0, frameRoom);
+    panel->resize(firstSize.boundedTo(room).expandedTo(smallestSize));
+    addBars();
+    column->addWidget(makePage(), 1);
+    connect(plot_, &ChartPlot::picked, this, [this](int series, int point) {
+        desk_.click("xPlot.CurrChart(" + std::to_string(series) + "," + std::to_string(point) + ")");
+    });
+    connect(plot_, &ChartPlot::stepped, this, &GraphView::step);
+    connect(plot_, &ChartPlot::wheeled, this,
+            [this](int steps) { step(steps > 0 ? Qt::Key_Right : Qt::Key_Left); });
+}
+
+// Parts ----------------------------------------------------------------------------------------------------
+
+void GraphView::addBars() {
+    auto* menuBar = new QMenuBar;
+    menus_->fill(menuBar);
+    menuBar->setFixedHeight(menuHeight);
+    panel()->content()->addWidget(menuBar);
+    auto* bar = new QToolBar;
+    bar->setWindowTitle(shownText(desk_.application().commands().band("xPlotBar")->Caption));
+    bar->setFixedHeight(toolHeight);
+    bar->layout()->setContentsMargins(0, 0, 0, 0);
+    menus_->fill(bar);
+    panel()->content()->addWidget(bar);
+}
+
+// The card with the status line below it.
+QWidget* GraphView::makePage() {
+    auto* page = new QWidget;
+    page->setBackgroundRole(QPalette::Window);
+    page->setAutoFillBackground(true);
+    auto* column = new QVBoxLayout(page);
+    column->setContentsMargins(20, 18, 20, 0);
+    column->setSpacing(0);
+    column->addWidget(makeCard(), 1);
+    status_->setFont(textFont(TextStyle::Caption));
+    status_->setProperty("second", true);
+    status_->setFixedHeight(statusHeight);
+    column->addWidget(status_);
+    return page;
+}
+
+QWidget* GraphView::makeCard() {
+    auto* card = new Card;
+    auto* column = new QVBoxLayout(card);
+    column->setContentsMargins(22, 20, 22, 18);
+    column->setSpacing(0);
+    addHeader(column);
+    column->addWidget(plot_, 1);
+    addFooter(column);
+    return card;
+}
+
+// The second line of the header is the user's own.
+void GraphView::addHeader(QVBoxLayout* column) {
+    header_->setFont(textFont(TextStyle::CompactTitle));
+    header_->setAlignment(Qt::AlignCenter);
+    header_->setWordWrap(true);
+    secondHeader_->setObjectName(QString::fromLatin1(secondLine));
+    secondHeader_->setFont(textFont(TextStyle::Body));
+    secondHeader_->setAlignment(Qt::AlignCenter);
+    secondHeader_->setFrame(false);
+    secondHeader_->setProperty("plain", true);
+    secondHeader_->setPlaceholderText(QString::fromUtf8(GraphScreen::secondHeaderPrompt));
+    secondHeader_->setAccessibleName(QString::fromUtf8(GraphScreen::secondHeaderWords));
+    connect(secondHeader_, &QLineEdit::textEdited, this,
+            [this](const QString& text) { desk_.type(secondLine, text); });
+    column->addWidget(header_);
+    column->addWidget(secondHeader_);
+    column->addSpacing(6);
+}
+
+void GraphView::addFooter(QVBoxLayout* column) {
+    column->addSpacing(14);
+    column->addWidget(line_);
+    column->addSpacing(10);
+    for (QLabel*& label : footer_) {
+        label = new QLabel;
+        label->setWordWrap(true);
+        label->setProperty("second", true);
+        label->setTextInteractionFlags(Qt::TextSelectableByMouse);
+        label->setContentsMargins(0, 1, 0, 2);
+        column->addWidget(label);
+    }
+}
+
+// What the user does
+// -----------------------------------------------------------------------------------------
+
+const GraphScreen& GraphView::model() const { return desk_.application().graph(); }
+
+void GraphView::step(Qt::Key key) {
+    const std::pair<Qt::Key, const char*> tools[] = {
+        {Qt::Key_Left, "Left"}, {Qt::Key_Right, "Right"}, {Qt::Key_Up, "Up"}, {Qt::Key_Down, "Down"}};
+    for (const auto& [arrow, tool] : tools) {
+        if (arrow == key && desk_.application().commands().find(tool)->Enabled)
+            desk_.tool(tool);
+    }
+}
+
+// The chart keeps its colours, so it is told of others. A narrow window has no room for the words of its bar.
+bool GraphView::eventFilter(QObject* watched, QEvent* event) {
+    if (watched == panel() && event->type() == QEvent::Resize)
+        menus_->setWordsShown(panel()->width() >= narrow);
+    const bool otherColours =
+        event->type() == QEvent::PaletteChange || event->type() == QEvent::ApplicationPaletteChange;
+    if (watched == panel() && otherColours)
+        plot_->setLook(lookOf(model().chart().colours));
+    return PanelView::eventFilter(watched, event);
+}
+
+// What the program shows
+// -------------------------------------------------------------------------------------
+
+bool GraphView::isOpen() const { return desk_.design().isOpen(WindowId::xPlot); }
+
+void GraphView::syncHeader(const ChartContent& chart) {
+    const bool shown = !chart.header.empty();
+    header_->setVisible(shown);
+    secondHeader_->setVisible(shown);
+    if (!shown)
+        return;
+    header_->setText(shownText(chart.header[0]));
+    const QString second = shownText(model().secondHeader().Text);
+    if (secondHeader_->text() != second)
+        secondHeader_->setText(second);
+}
+
+void GraphView::syncFooter(const ChartContent& chart) {
+    line_->setVisible(!chart.footer.empty());
+    const QFont font =
+        lookOf(chart.colours)
+            .sized(footerPixels(chart.footerSize), chart.footerBold ? QFont::DemiBold : QFont::Normal);
+    for (std::size_t i = 0; i < footer_.size(); ++i) {
+        footer_[i]->setVisible(!chart.footer.empty());
+        footer_[i]->setFont(font);
+        footer_[i]->setText(chart.footer.empty() ? QString() : shownText(chart.footer[i]));
+    }
+}
+
+void GraphView::sync() {
+    const ChartContent& chart = model().chart();
+    menus_->sync();
+    status_->setText(shownText(model().pnlStatus().Caption));
+    syncHeader(chart);
+    syncFooter(chart);
+    plot_->setLook(lookOf(chart.colours));
+    plot_->setContent(chart);
+    plot_->setAccessibleName(header_->text());
+    plot_->setAccessibleDescription(shownText(chart.mark.details));
+    const bool opened = isOpen() && !wasOpen_;
+    wasOpen_ = isOpen();
+    if (opened)
+        plot_->setFocus();
+}
+
+}  // namespace lorvane::desktop
