@@ -385,7 +385,7 @@ const CommandRow commandTable[] = {
      window,
      [](P p) { p.graph.DoGraph(); },
      nullptr,
-     {Sign::graph, true}},
+     {Sign::graph, true, "Ctrl+G"}},
     {"gfrmTips",
      "&Guide",
      "Open or close the guide",

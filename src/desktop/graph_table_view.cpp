@@ -12,6 +12,7 @@
 #include "desktop/kit/push_button.h"
 #include "desktop/kit/text_style.h"
 #include "desktop/kit/theme.h"
+#include "graphs/graph_sheet.h"
 
 namespace lorvane::desktop {
 
@@ -24,7 +25,7 @@ constexpr int headHeight = 34;
 constexpr int widestNames = 260;
 constexpr QSize firstSize(900, 330);
 
-// Rows whose heading stretches over all columns, in each of the two blocks.
+// Rows of each of the two blocks: the title, which the window has, and the heading of the block.
 constexpr int rowsOfBlock = GraphRows::cost - GraphRows::power;
 bool isTitle(int row) { return row % rowsOfBlock == 0; }
 bool isHead(int row) { return row % rowsOfBlock <= GraphRows::powerX; }
@@ -32,32 +33,36 @@ bool isBand(int row) { return row % rowsOfBlock == GraphRows::powerHead; }
 
 }  // namespace
 
-/// The cells; the first column stands in the vertical head, so that it stays in sight.
+/// The cells. What names a row stands in its head, so that it stays in sight.
 class GraphTableModel : public QAbstractTableModel {
 public:
     GraphTableModel(const GraphScreen& graph, QObject* parent) : QAbstractTableModel(parent), graph_(graph) {}
 
-    void refresh() {
+    /// Brings in other numbers; the same ones leave the current cell alone.
+    bool refresh() {
+        if (rows_ == graph_.vsTable().rows)
+            return false;
         beginResetModel();
+        rows_ = graph_.vsTable().rows;
         endResetModel();
+        return true;
     }
 
     int rowCount(const QModelIndex& parent) const override {
-        return parent.isValid() ? 0 : static_cast<int>(graph_.vsTable().rows.size());
+        return parent.isValid() ? 0 : static_cast<int>(rows_.size());
     }
 
     int columnCount(const QModelIndex& parent) const override {
-        return parent.isValid() ? 0 : static_cast<int>(graph_.vsTable().rows.front().size()) - 1;
+        return parent.isValid() || rows_.empty() ? 0 : static_cast<int>(rows_.front().size()) - 1;
     }
 
     QVariant data(const QModelIndex& index, int role) const override {
         const bool marked = isMarked(index);
         switch (role) {
         case Qt::DisplayRole:
-            return cell(index.row(), index.column() + 1);
+            return isBand(index.row()) ? QString() : cell(index.row(), index.column() + 1);
         case Qt::TextAlignmentRole:
-            return int(isBand(index.row()) ? Qt::AlignLeft | Qt::AlignVCenter
-                                           : Qt::AlignRight | Qt::AlignVCenter);
+            return int(Qt::AlignRight | Qt::AlignVCenter);
         case Qt::FontRole:
             return textFont(isHead(index.row()) || marked ? TextStyle::BodyStrong : TextStyle::Body);
         case Qt::BackgroundRole:
@@ -71,14 +76,15 @@ public:
 
     QVariant headerData(int section, Qt::Orientation orientation, int role) const override {
         if (orientation == Qt::Vertical && role == Qt::DisplayRole)
-            return cell(section, 0).simplified();
+            return shownText(rowHead(graph_.vsTable(), section));
+        if (orientation == Qt::Vertical && role == Qt::FontRole)
+            return textFont(isBand(section) ? TextStyle::BodyStrong : TextStyle::CaptionStrong);
         return {};
     }
 
 private:
     QString cell(int row, int column) const {
-        return shownText(
-            graph_.vsTable().rows[static_cast<std::size_t>(row)][static_cast<std::size_t>(column)]);
+        return shownText(rows_[static_cast<std::size_t>(row)][static_cast<std::size_t>(column)]);
     }
 
     bool isMarked(const QModelIndex& index) const {
@@ -87,6 +93,7 @@ private:
     }
 
     const GraphScreen& graph_;
+    std::vector<Grid::Row> rows_;
 };
 
 GraphTableView::GraphTableView(Desk& desk, ToolPanel* panel)
@@ -130,14 +137,10 @@ QWidget* GraphTableView::makeButtons() {
 
 bool GraphTableView::isOpen() const { return desk_.design().isOpen(WindowId::frmTable); }
 
-void GraphTableView::syncHeads() {
-    const GraphScreen& graph = desk_.application().graph();
-    const int columns = cells_->columnCount({});
+void GraphTableView::syncRows() {
     for (int row = 0; row < cells_->rowCount({}); ++row) {
-        table_->setRowHidden(row, isTitle(row) || !graph.isRowShown(row));
+        table_->setRowHidden(row, isTitle(row) || !desk_.application().graph().isRowShown(row));
         table_->setRowHeight(row, isBand(row) ? headHeight : rowHeight);
-        if (isBand(row) && columns > 1)
-            table_->setSpan(row, 0, 1, columns);
     }
 }
 
@@ -145,11 +148,11 @@ void GraphTableView::sync() {
     const GraphScreen& graph = desk_.application().graph();
     panel()->setWindowTitle(literalTitle(shownText(graph.tableTitle())));
     table_->setAccessibleName(panel()->windowTitle());
-    table_->clearSpans();
-    cells_->refresh();
-    syncHeads();
+    const bool isNew = cells_->refresh();
+    syncRows();
+    table_->viewport()->update();
     const GraphScreen::Cell marked = graph.markedCell();
-    if (marked.column > 0 && marked.column != marked_)
+    if (marked.column > 0 && (isNew || marked.column != marked_))
         table_->setCurrentIndex(cells_->index(marked.row, marked.column - 1));
     marked_ = marked.column;
 }

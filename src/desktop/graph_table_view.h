@@ -21,7 +21,7 @@ public:
 
 private:
     QWidget* makeButtons();
-    void syncHeads();
+    void syncRows();
 
     GraphTableModel* cells_;
     QTableView* table_;

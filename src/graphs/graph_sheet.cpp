@@ -48,6 +48,16 @@ bool isShownRow(const GraphTable& table, int row, bool withCost) {
     return (inBlock <= GraphRows::powerX || hasLine) && (!isCost || withCost);
 }
 
+std::string rowHead(const Grid& table, int row) {
+    const Grid::Row& cells = table.rows[static_cast<std::size_t>(row)];
+    const std::string name = cellText(cells.front());
+    if (row % rowsOfBlock == GraphRows::powerHead && cells.size() > 1)
+        return name.empty() ? cells[1] : cells[1] + ", " + name;
+    if (name.empty() && row % rowsOfBlock > GraphRows::power)
+        return row > rowsOfBlock ? "Cost" : "Power";
+    return name;
+}
+
 Sheet graphSheet(const GraphTable& table, bool withCost) {
     Sheet sheet{"Graph", {}, {}};
     for (int row = 0; row < GraphRows::count; ++row) {

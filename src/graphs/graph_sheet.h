@@ -12,6 +12,10 @@ namespace lorvane {
 /// Whether a row of the table is shown, with the block of the costs or without.
 bool isShownRow(const GraphTable& table, int row, bool withCost);
 
+/// What a row of the table is, for its head: its series, its value, or power and cost where there is one
+/// line.
+std::string rowHead(const Grid& table, int row);
+
 /// The rows that are shown, numbers as numbers.
 Sheet graphSheet(const GraphTable& table, bool withCost);
 
