@@ -73,9 +73,11 @@ Answer GraphFiles::ask(std::string title, std::string text, std::vector<MessageB
 
 // The table makes way for the dialog and comes back as it was.
 std::optional<std::string> GraphFiles::choose(const FileDialog& dialog) {
+    const bool isOpen = design_.isOpen(WindowId::frmTable);
     design_.SynchForms(WindowId::frmTable, WindowAction::withdraw);
     const auto path = outside_.dialogs.choose(dialog);
-    design_.SynchForms(WindowId::frmTable, WindowAction::bringBack);
+    if (isOpen)
+        design_.SynchForms(WindowId::frmTable, WindowAction::bringBack);
     return path;
 }
 

@@ -24,7 +24,8 @@ struct GraphOutside {
     Shell* shell = nullptr;         ///< none: nothing is opened after it was saved
 };
 
-/// A message or a file dialog waits while a function runs; the windows of the graph make way for it.
+/// Asks for names, writes files, fills the clipboard. The windows of the graph make way for messages and file
+/// dialogs.
 class GraphFiles {
 public:
     GraphFiles(Design& design, const GraphOutside& outside) : design_(design), outside_(outside) {}
