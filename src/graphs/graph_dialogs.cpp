@@ -47,60 +47,73 @@ std::optional<double> readBox(const TextBox& box, int decimals) {
     return value && decimals == 0 ? std::optional(roundHalfToEven(*value)) : value;
 }
 
-void tell(Dialog& dialog, std::string text) {
-    dialog.note.Caption = std::move(text);
-    dialog.note.trouble = false;
-    dialog.note.BackColor = normalBackground;
+}  // namespace
+
+// What both are
+// ----------------------------------------------------------------------------------------------
+
+GraphDialog::GraphDialog(Design& design, GraphState& state, std::function<void()> draw)
+    : design_(design), state_(state), draw_(std::move(draw)) {}
+
+void GraphDialog::addButtons() {
+    dialog_.buttons = {{dialog_.name + ".cmdCancel", "Cancel", [this] { cancel(); }},
+                       {dialog_.name + ".Command1", "OK", [this] { accept(); }}};
 }
 
-void tellRefused(Dialog& dialog, std::string why) {
-    dialog.note.Caption = std::move(why);
-    dialog.note.trouble = true;
-    dialog.note.BackColor = refusedColour;
+void GraphDialog::registerNames(ControlRegistry& registry) const {
+    dialog_.registerNames(registry);
+    registry.add(dialog_.name + ".Title", &dialog_.title.Caption);
+    for (const DialogField& field : dialog_.fields)
+        registry.add(field.control, [&field] { return valueOf(field.box); });
 }
 
-void clearMarks(Dialog& dialog) {
-    for (DialogField& field : dialog.fields)
+void GraphDialog::registerEvents(EventRegistry& events) {
+    dialog_.registerEvents(events, [this] { return isOpen(); });
+    events.onClose(dialog_.name, [this] {
+        if (isOpen())
+            cancel();
+    });
+}
+
+bool GraphDialog::isOpen() const { return design_.isOpen(*dialog_.window); }
+
+void GraphDialog::close() { design_.SynchForms(*dialog_.window, WindowAction::unload); }
+
+void GraphDialog::openDialog() {
+    Init();
+    design_.SynchForms(*dialog_.window, WindowAction::open);
+}
+
+void GraphDialog::tell(std::string text) {
+    dialog_.note.Caption = std::move(text);
+    dialog_.note.trouble = false;
+    dialog_.note.BackColor = normalBackground;
+}
+
+void GraphDialog::tellRefused(std::string why) {
+    dialog_.note.Caption = std::move(why);
+    dialog_.note.trouble = true;
+    dialog_.note.BackColor = refusedColour;
+}
+
+void GraphDialog::clearMarks() {
+    for (DialogField& field : dialog_.fields)
         field.trouble = false;
 }
-
-}  // namespace
 
 // The range of the X-axis
 // -----------------------------------------------------------------------------------
 
 AxisDialog::AxisDialog(Design& design, GraphState& state, std::function<void()> draw)
-    : design_(design), state_(state), draw_(std::move(draw)) {
+    : GraphDialog(design, state, std::move(draw)) {
     dialog_ = {"frmXVar",
                WindowId::frmXVar,
                "pnlMsg",
-               {numberField("frmXVar.txtXVar(1)", "Start"), numberField("frmXVar.txtXVar(2)", "End")},
-               {{"frmXVar.cmdCancel", "Cancel", [this] { close(); }},
-                {"frmXVar.Command1", "OK", [this] { accept(); }}}};
+               {numberField("frmXVar.txtXVar(1)", "Start"), numberField("frmXVar.txtXVar(2)", "End")}};
+    addButtons();
     dialog_.sense = panel("Range of the X-axis");
     dialog_.options = {{"frmXVar.optManual(0)", {"Set automatically", true}, [this] { choose(automatic); }},
                        {"frmXVar.optManual(1)", {"Set manually"}, [this] { choose(byHand); }}};
-}
-
-void AxisDialog::registerNames(ControlRegistry& registry) const {
-    dialog_.registerNames(registry);
-    registry.add("frmXVar.Title", &dialog_.title.Caption);
-    for (const DialogField& field : dialog_.fields)
-        registry.add(field.control, [&field] { return valueOf(field.box); });
-}
-
-void AxisDialog::registerEvents(EventRegistry& events) {
-    dialog_.registerEvents(events, [this] { return isOpen(); });
-    events.onClose("frmXVar", [this] { close(); });
-}
-
-bool AxisDialog::isOpen() const { return design_.isOpen(WindowId::frmXVar); }
-
-void AxisDialog::close() { design_.SynchForms(WindowId::frmXVar, WindowAction::unload); }
-
-void AxisDialog::open() {
-    Init();
-    design_.SynchForms(WindowId::frmXVar, WindowAction::open);
 }
 
 void AxisDialog::Init() {
@@ -117,11 +130,11 @@ void AxisDialog::Init() {
 void AxisDialog::SetDisplay(int mode) {
     for (DialogField& field : dialog_.fields)
         field.box.Enabled = mode == byHand;
-    tell(dialog_, mode == byHand ? setByHand : setAutomatically);
+    tell(mode == byHand ? setByHand : setAutomatically);
 }
 
 void AxisDialog::choose(int mode) {
-    clearMarks(dialog_);
+    clearMarks();
     dialog_.options[automatic].option.Value = mode == automatic;
     dialog_.options[byHand].option.Value = mode == byHand;
     SetDisplay(mode);
@@ -132,7 +145,7 @@ void AxisDialog::accept() {
         acceptByHand();
         return;
     }
-    tell(dialog_, std::string(setAutomatically) + ".");
+    tell(std::string(setAutomatically) + ".");
     XRange range = state_.range();
     range.Mode = automatic;
     range.Start = readBox(dialog_.fields[0].box, decimals_).value_or(range.Start);
@@ -141,24 +154,24 @@ void AxisDialog::accept() {
 }
 
 void AxisDialog::acceptByHand() {
-    clearMarks(dialog_);
+    clearMarks();
     if (refusesValues())
         return;
     const XRange range{byHand, *readBox(dialog_.fields[0].box, decimals_),
                        *readBox(dialog_.fields[1].box, decimals_)};
     if (range.Start == range.End) {
         dialog_.fields[0].trouble = dialog_.fields[1].trouble = true;
-        tellRefused(dialog_, equalEnds);
+        tellRefused(equalEnds);
         return;
     }
     GraphRequest request = state_.request();
     request.range = range;
     if (axisOf(design_.session().trial(), request).isCutToNothing) {
         dialog_.fields[0].trouble = dialog_.fields[1].trouble = true;
-        tellRefused(dialog_, cutToNothing);
+        tellRefused(cutToNothing);
         return;
     }
-    tell(dialog_, setByHand);
+    tell(setByHand);
     keep(range);
 }
 
@@ -170,7 +183,7 @@ bool AxisDialog::refusesValues() {
         refused = refused || field.trouble;
     }
     if (refused)
-        tellRefused(dialog_, rangeWords(limits_, decimals_));
+        tellRefused(rangeWords(limits_, decimals_));
     return refused;
 }
 
@@ -184,13 +197,9 @@ void AxisDialog::keep(const XRange& range) {
 // ----------------------------------------------------------------------------------
 
 LineDialog::LineDialog(Design& design, GraphState& state, std::function<void()> draw)
-    : design_(design), state_(state), draw_(std::move(draw)) {
-    dialog_ = {"frmLVar",
-               WindowId::frmLVar,
-               "pnlMsg",
-               {},
-               {{"frmLVar.cmdCancel", "Cancel", [this] { cancel(); }},
-                {"frmLVar.Command1", "OK", [this] { accept(); }}}};
+    : GraphDialog(design, state, std::move(draw)) {
+    dialog_ = {"frmLVar", WindowId::frmLVar, "pnlMsg"};
+    addButtons();
     dialog_.sense = panel("A line of the graph for each value");
     for (int line = 1; line <= mostLines; ++line)
         dialog_.fields.push_back(
@@ -200,26 +209,9 @@ LineDialog::LineDialog(Design& design, GraphState& state, std::function<void()> 
 }
 
 void LineDialog::registerNames(ControlRegistry& registry) const {
-    dialog_.registerNames(registry);
-    registry.add("frmLVar.Title", &dialog_.title.Caption);
+    GraphDialog::registerNames(registry);
     registry.add("frmLVar.NumLines", &NumLines_);
     registry.add("frmLVar.txtvalid", &txtvalid_);
-    for (const DialogField& field : dialog_.fields)
-        registry.add(field.control, [&field] { return valueOf(field.box); });
-}
-
-void LineDialog::registerEvents(EventRegistry& events) {
-    dialog_.registerEvents(events, [this] { return isOpen(); });
-    events.onClose("frmLVar", [this] { cancel(); });
-}
-
-bool LineDialog::isOpen() const { return design_.isOpen(WindowId::frmLVar); }
-
-void LineDialog::close() { design_.SynchForms(WindowId::frmLVar, WindowAction::unload); }
-
-void LineDialog::open() {
-    Init();
-    design_.SynchForms(WindowId::frmLVar, WindowAction::open);
 }
 
 void LineDialog::Init() {
@@ -233,8 +225,8 @@ void LineDialog::Init() {
     }
     for (std::size_t line = 1; line < values.size(); ++line)
         dialog_.fields[line - 1].box.Text = shortestText(values[line]);
-    clearMarks(dialog_);
-    tell(dialog_, addAndEnter);
+    clearMarks();
+    tell(addAndEnter);
     setNumLines(static_cast<int>(values[0]));
 }
 
@@ -248,7 +240,7 @@ void LineDialog::setNumLines(int lines) {
 }
 
 void LineDialog::accept() {
-    clearMarks(dialog_);
+    clearMarks();
     if (refusesValues()) {
         txtvalid_ = 0;
         return;
@@ -273,12 +265,12 @@ bool LineDialog::refusesValues() {
         refused = refused || dialog_.fields[i].trouble;
     }
     if (refused)
-        tellRefused(dialog_, rangeWords(l->lineLimits, l->decimals));
+        tellRefused(rangeWords(l->lineLimits, l->decimals));
     for (std::size_t i = 0; i < used; ++i) {
         if (!values[i] || std::count(values.begin(), values.end(), values[i]) == 1)
             continue;
         dialog_.fields[i].trouble = refused = true;
-        tellRefused(dialog_, equalValues);
+        tellRefused(equalValues);
     }
     return refused;
 }
@@ -301,8 +293,6 @@ void LineDialog::keepSorted() {
 
 // Without values there is no series at all.
 void LineDialog::cancel() {
-    if (!isOpen())
-        return;
     state_.bindL({});
     close();
     draw_();

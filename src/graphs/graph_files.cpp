@@ -81,24 +81,36 @@ std::optional<std::string> GraphFiles::choose(const FileDialog& dialog) {
     return path;
 }
 
+// What cannot be made or written is told in a message, and in the status line with its reason.
+template <typename Bytes>
+std::string GraphFiles::save(const char* title, const std::string& path, Bytes bytes, const char* message) {
+    try {
+        outside_.files.replace(path, bytes());
+    } catch (const FileProblem& problem) {
+        ask(title, message == nullptr ? problem.what() : message);
+        return problem.what();
+    } catch (const std::runtime_error& problem) {
+        ask(title, problem.what());
+        return problem.what();
+    }
+    return "";
+}
+
 std::string GraphFiles::SaveGraph(const ChartContent& chart, PictureSizes size) {
     const auto path = choose(saveDialog(
         "Save graph", ".jpg",
         {"Picture without loss (*.png)|*.png", "Drawing (*.svg)|*.svg", "Document (*.pdf)|*.pdf"}));
     if (!path)
         return "";
-    const auto format = pictureFormatOf(*path);
-    try {
+    const std::string problem = save("Save graph", *path, [&] {
+        const auto format = pictureFormatOf(*path);
         if (!format)
             throw std::runtime_error(otherPicture);
         if (outside_.chart == nullptr)
             throw std::runtime_error(noPictures);
-        outside_.files.replace(*path, outside_.chart->picture(chart, *format, size));
-    } catch (const std::runtime_error& problem) {
-        ask("Save graph", problem.what());
-        return problem.what();
-    }
-    return savedIn(*path);
+        return outside_.chart->picture(chart, *format, size);
+    });
+    return problem.empty() ? savedIn(*path) : problem;
 }
 
 std::string GraphFiles::copyGraph(const ChartContent& chart, PictureSizes size) {
@@ -115,20 +127,17 @@ std::string GraphFiles::SaveTable(const Sheet& sheet, Then then) {
         saveDialog("Save table", ".xls", {"Workbook (*.xlsx)|*.xlsx", "Text with commas (*.csv)|*.csv"}));
     if (!path)
         return "";
-    const auto format = sheetFormatOf(*path);
-    try {
+    const auto bytes = [&] {
+        const auto format = sheetFormatOf(*path);
         if (!format)
             throw std::runtime_error(otherTable);
         if (outside_.sheets == nullptr)
             throw std::runtime_error(noSheets);
-        outside_.files.replace(*path, outside_.sheets->write(sheet, *format));
-    } catch (const FileProblem& problem) {
-        ask("Save table", tableNotSaved);
-        return problem.what();
-    } catch (const std::runtime_error& problem) {
-        ask("Save table", problem.what());
-        return problem.what();
-    }
+        return outside_.sheets->write(sheet, *format);
+    };
+    const std::string problem = save("Save table", *path, bytes, tableNotSaved);
+    if (!problem.empty())
+        return problem;
     const bool opens = then == Then::open && outside_.shell != nullptr;
     if (opens && !outside_.shell->open(*path))
         return savedIn(*path) + " No program of this system opens it.";
@@ -156,13 +165,8 @@ std::string GraphFiles::SaveHeader(const std::vector<std::string>& texts) {
     const auto path = GetFileNameRTF();
     if (!path)
         return "";
-    try {
-        outside_.files.replace(*path, rtfDocument(texts));
-    } catch (const FileProblem& problem) {
-        ask("Save header and footer", problem.what());
-        return problem.what();
-    }
-    return savedIn(*path);
+    const std::string problem = save("Save header and footer", *path, [&] { return rtfDocument(texts); });
+    return problem.empty() ? savedIn(*path) : problem;
 }
 
 std::string GraphFiles::copyHeader(const std::vector<std::string>& texts) {

@@ -45,6 +45,8 @@ public:
                std::optional<Answer> preset = {});
 
 private:
+    template <typename Bytes>
+    std::string save(const char* title, const std::string& path, Bytes bytes, const char* message = nullptr);
     std::optional<std::string> choose(const FileDialog& dialog);
     std::optional<std::string> GetFileNameRTF();
 

@@ -8,6 +8,7 @@
 #include "base/money.h"
 #include "base/names.h"
 #include "base/number_text.h"
+#include "base/while_set.h"
 #include "graphs/graph_rules.h"
 #include "graphs/graph_sheet.h"
 #include "session/field_book.h"
@@ -19,18 +20,6 @@ namespace {
 
 constexpr const char* createGraph = "  Create graph";
 constexpr double noEffect = 0.0001;
-
-// Stands while a graph is computed, however that ends.
-class WhileRunning {
-public:
-    explicit WhileRunning(bool& flag) : flag_(flag) { flag_ = true; }
-    ~WhileRunning() { flag_ = false; }
-    WhileRunning(const WhileRunning&) = delete;
-    WhileRunning& operator=(const WhileRunning&) = delete;
-
-private:
-    bool& flag_;
-};
 
 // The field of the effect in the study's metric, and the value without any effect; a risk ratio and two
 // risks have none to look at.
@@ -173,7 +162,7 @@ bool GraphScreen::compute() {
         state_.ColorSet = 1;
     DrawnGraph graph{state_.request(), {}};
     {
-        const WhileRunning running(state_.GraphRun);
+        const WhileSet running(state_.GraphRun);
         Teller teller(pnlStatus_.Caption, progress_);
         graph.table = GraphCompute(design_.session().trial(), graph.request, teller);
     }

@@ -1,25 +1,10 @@
 // The panel of the smallest detectable effect.
 #include "search/mdes_window.h"
 
+#include "base/while_set.h"
 #include "validation/icc_messages.h"
 
 namespace lorvane {
-
-namespace {
-
-// Stands while the panel's own refresh runs, which is no edit.
-class WhileComputing {
-public:
-    explicit WhileComputing(bool& flag) : flag_(flag) { flag_ = true; }
-    ~WhileComputing() { flag_ = false; }
-    WhileComputing(const WhileComputing&) = delete;
-    WhileComputing& operator=(const WhileComputing&) = delete;
-
-private:
-    bool& flag_;
-};
-
-}  // namespace
 
 MdesWindow::MdesWindow(Design& design) : design_(design) {
     cmdComputeMDES_.Caption = "Compute minimum effect size";
@@ -84,7 +69,8 @@ void MdesWindow::computeEffect() {
         design_.SynchForms(WindowId::frmMDES, WindowAction::open);
     Session& session = design_.session();
     const Study& s = session.study();
-    const WhileComputing computing(computing_);
+    // The panel's own refresh is no edit.
+    const WhileSet computing(computing_);
     show(State::problem, {problemLines[0], problemLines[1]});
     const MdesResult result = FindMDES(session.trial(), s.ReqPower);
     session.keepMdesOutcome(result.outcome == MdesOutcome::found ? MdesOutcomes::found : MdesOutcomes::none);

@@ -7,6 +7,7 @@
 #include "base/money.h"
 #include "base/names.h"
 #include "base/number_text.h"
+#include "base/while_set.h"
 #include "search/optimal_texts.h"
 #include "session/field_words.h"
 #include "session/spin_step.h"
@@ -90,17 +91,6 @@ public:
 private:
     std::string& text_;
     Progress& progress_;
-};
-
-class WhileRunning {
-public:
-    explicit WhileRunning(bool& running) : running_(running) { running_ = true; }
-    ~WhileRunning() { running_ = false; }
-    WhileRunning(const WhileRunning&) = delete;
-    WhileRunning& operator=(const WhileRunning&) = delete;
-
-private:
-    bool& running_;
 };
 
 }  // namespace
@@ -398,7 +388,7 @@ void OptimalWindow::ComputeOptimalDesign() {
         say(State::problem, wizardTitle, modifyData);
         return;
     }
-    const WhileRunning running(running_);
+    const WhileSet running(running_);
     const OptimalOptions options = this->options();
     for (int level = lowestLevel; level <= highestLevel; ++level)
         writeRow(level);
@@ -515,7 +505,7 @@ void OptimalWindow::showTable() {
 void OptimalWindow::paste() {
     if (!hasResult())
         return;
-    const WhileRunning running(running_);
+    const WhileSet running(running_);
     pasteSizes(design_.session(), result_.cheapest().sizes);
     say(State::result, "", pasted);
     pnlOptimalNote_.Caption = pasted;
