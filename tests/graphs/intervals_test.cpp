@@ -3,24 +3,11 @@
 #include <set>
 
 #include "base/arithmetic_fault.h"
-#include "graphs/graph_intervals.h"
+#include "graph_words.h"
 #include "validation/study_bench.h"
 
 namespace lorvane {
 namespace {
-
-/// "txtICC(2)", "ICC(234)" or "d": the variables of all levels that are named.
-std::vector<GraphVariable> variablesOf(const std::string& name) {
-    std::vector<GraphVariable> variables;
-    const std::size_t stem = name.find('(');
-    const std::string levels =
-        stem == std::string::npos ? "0" : name.substr(stem + 1, name.size() - stem - 2);
-    for (const GraphVariableRow& row : graphVariables()) {
-        for (const char level : row.stem == "txt" + name.substr(0, stem) ? levels : "")
-            variables.push_back({&row, level - '0'});
-    }
-    return variables;
-}
 
 std::string told(const Intervals& axis) {
     std::ostringstream text;
@@ -28,15 +15,6 @@ std::string told(const Intervals& axis) {
     text << axis.Start << ' ' << axis.End << ' ' << axis.Step << ' ' << axis.Points
          << (axis.Reversed ? " reversed" : "");
     return axis.isCutToNothing ? "nothing" : text.str();
-}
-
-/// "auto", or the two ends of a range by hand.
-XRange rangeOf(const std::string& text) {
-    XRange range;
-    std::istringstream ends(text);
-    if (ends >> range.Start >> range.End)
-        range.Mode = 1;
-    return range;
 }
 
 std::string answer(StudyTrial& trial, const GraphVariable& variable, const XRange& range) {
