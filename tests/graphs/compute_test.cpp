@@ -164,6 +164,39 @@ TEST(GraphCompute, SearchesAllocateNothing) {
     EXPECT_GT(allocations, 0);
 }
 
+TEST(GraphVariables, HaveTitlesOnTheAxisAndInTheLegend) {
+    const char* means = "L=3 R=1 DType=2";
+    const char* odds = "L=3 R=1 DataType=2";
+    const char* risks = "L=3 R=1 DataType=2 BinaryType=3";
+    const char* ratio = "L=3 R=1 DataType=2 BinaryType=2";
+    for (const auto& [variable, study, x, series] :
+         {std::tuple{"NT(1)", means, "Number of subjects", "Number of subjects"},
+          {"NB(3)", odds, "Number of level 3s", "Number of level 3s"},
+          {"ICC(2)", odds, "ICC for Level 2s", "ICC Level 2s"},
+          {"MRange(2)", means, "Span of means for Level 2s", "Span of means (Level 2s)"},
+          {"MRange(3)", risks, "Span of risks for Level 3s", "Span of risks (Level 3s)"},
+          {"TauSq(3)", means, "Tau-squared for Level 3s", "Tau-sq Level 3s"},
+          {"DRange(3)", "L=3 R=1 DType=1", "Span of effects for Level 3s", "Span of dw (Level 3s)"},
+          {"DRange(3)", means, "Span of effects for Level 3s", "Span of dt (Level 3s)"},
+          {"DRange(3)", odds, "Span of effects for Level 3s", "Span of log(OR) (Level 3s)"},
+          {"DRange(3)", risks, "Span of effects for Level 3s", "Span of RD (Level 3s)"},
+          {"DRange(3)", ratio, "Span of effects for Level 3s", ""},
+          {"Omega(2)", means, "Omega for Level 2s", "Omega Level 2s"},
+          {"Rsq(1)", means, "R-squared for Subjects", "R-sq Subjects"},
+          {"d", means, "Standard difference (d)", "Std diff (d)"},
+          {"Prev", odds, "Event rate in control group", "Event rate in control group"},
+          {"OR", odds, "Odds ratio", "Odds ratio"},
+          {"RR", ratio, "Risk ratio", "Risk ratio"},
+          {"RD", risks, "Risk difference", "Risk difference"},
+          {"P2", odds, "Event rate in treated group", "Event rate in treated group"},
+          {"Alpha", means, "Alpha", "Alpha"}}) {
+        StudyBench bench;
+        bench.play(study);
+        EXPECT_EQ(GetTitleX(bench.study, variablesOf(variable)[0]), x) << study;
+        EXPECT_EQ(GetTitleL(bench.study, variablesOf(variable)[0]), series) << study;
+    }
+}
+
 /// A user who stops the work after some points.
 struct Patience final : Progress {
     bool goOn() override { return left-- > 1; }
@@ -184,6 +217,27 @@ TEST(GraphScreen, KeepsTheGraphBeforeOneThatIsStopped) {
     EXPECT_EQ(app.graph().chart(), drawn);
     EXPECT_EQ(user.left, 0);
     EXPECT_FALSE(app.graph().state().GraphRun);
+}
+
+struct NoTable final : SheetWriter {
+    std::string write(const Sheet&, SheetFormats) override { return "table"; }
+};
+
+TEST(GraphScreen, TellsThatATableCouldNotBeWritten) {
+    NoTable sheets;
+    TestPlatform outside;
+    Platform platform = outside.platform();
+    platform.sheets = &sheets;
+    Application app(platform);
+    app.load(std::vector<Assignment>{{"txtd", 0.5}});
+    app.tool("Graph");
+    outside.files.full = true;
+    outside.messages.queueFile("table.xls");
+    app.tool("Save table");
+    const auto shown = outside.messages.take();
+    ASSERT_EQ(shown.size(), 2u);
+    EXPECT_EQ(std::get<ScriptedDialogs::ShownMessage>(shown[1]).message.text,
+              "File could not be saved.  It is probably being used by another program                ");
 }
 
 }  // namespace
