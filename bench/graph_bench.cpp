@@ -67,6 +67,7 @@ void defaultGraph(benchmark::State& state, int levels, int randomized, DataTypes
     Bench bench(levels, randomized, dataType);
     bench.trial.study.txtd = effect;
     bench.trial.study.txtOR = 1 + effect;
+    bench.trial.refresh();
     bench.run(state, {numberAtTop(bench.trial.study), {}, {}, {}});
 }
 

@@ -138,6 +138,7 @@ TEST(GraphCompute, CellsAreSingleRefreshes) {
         if (lines >= 2)
             setOf(middle.study, request.LVar,
                   std::accumulate(&request.lines[1], &request.lines[lines] + 1, 0.0) / double(lines));
+        middle.refresh();
         const Intervals axis = intervalsOf(middle, request.XVar, request.range);
         EXPECT_EQ(std::tie(table.axis.Start, table.axis.End, table.axis.Step, table.axis.Points),
                   std::tie(axis.Start, axis.End, axis.Step, axis.Points));
