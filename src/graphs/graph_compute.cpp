@@ -22,16 +22,18 @@ void put(Study& study, const GraphVariable& variable, double value) {
         study.txtNC(variable.level) = value;
 }
 
-void putSeriesAtItsMean(Study& study, const GraphRequest& request) {
+// What follows from the series has to follow from its mean, too, before a range looks at the power.
+void putSeriesAtItsMean(StudyTrial& trial, const GraphRequest& request) {
     if (!request.hasSeries())
         return;
     const auto first = request.lines.begin() + 1;
     const double sum = std::accumulate(first, first + request.NumLines(), 0.0);
-    put(study, request.LVar, sum / request.NumLines());
+    put(trial.study, request.LVar, sum / request.NumLines());
+    trial.refresh();
 }
 
 Intervals axisWithSeries(StudyTrial& trial, const GraphRequest& request) {
-    putSeriesAtItsMean(trial.study, request);
+    putSeriesAtItsMean(trial, request);
     return intervalsOf(trial, request.XVar, request.range);
 }
 

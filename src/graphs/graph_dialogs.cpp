@@ -284,11 +284,11 @@ void LineDialog::keepSorted() {
     values = sortedValues(l, std::move(values));
     LineValues& kept = state_.lines();
     kept[0] = NumLines_;
-    for (std::size_t i = 0; i < used; ++i) {
-        kept[i + 1] = values[i];
+    for (std::size_t i = 0; i < used; ++i)
         dialog_.fields[i].box.Text = shortestText(values[i]);
-    }
-    state_.NumLines = NumLines_;
+    // Boxes beyond are kept for when they are used again.
+    for (std::size_t i = 0; i < dialog_.fields.size(); ++i)
+        kept[i + 1] = readBox(dialog_.fields[i].box, l->decimals).value_or(0);
 }
 
 // Without values there is no series at all.

@@ -133,7 +133,7 @@ bool GraphScreen::lacksEffect() const {
 // A number that was chosen before the design changed follows the design.
 void GraphScreen::rebind() {
     const Study& s = design_.study();
-    if (state_.XVar->isCount())
+    if (state_.XVar && state_.XVar->isCount())
         state_.bindX(numberOfUnits(s, state_.XVar.level));
     if (state_.LVar && state_.LVar->isCount())
         state_.bindL(numberOfUnits(s, state_.LVar.level));
@@ -303,22 +303,31 @@ void GraphScreen::chooseL(const GraphKey& key) {
     SetLVar();
 }
 
-void GraphScreen::SetLVar() { lineDialog_.open(); }
+void GraphScreen::SetLVar() {
+    rebind();
+    lineDialog_.open();
+}
 
 void GraphScreen::chooseNoSeries() {
     state_.bindL({});
     GoRun();
 }
 
-void GraphScreen::SetXVar() {
+// The axis that a graph would have now.
+void GraphScreen::bindAxis() {
     if (!state_.XVar)
         state_.bindX(numberAtTop(design_.study()));
+    rebind();
+    replaceWhatIsNotOnOffer();
+}
+
+void GraphScreen::SetXVar() {
+    bindAxis();
     axisDialog_.open();
 }
 
 void GraphScreen::SetXAuto(bool automatically) {
-    if (!state_.XVar)
-        state_.bindX(numberAtTop(design_.study()));
+    bindAxis();
     if (automatically) {
         state_.range().Mode = 0;
         GoRun();

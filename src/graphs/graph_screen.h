@@ -110,6 +110,7 @@ private:
     bool lacksEffect() const;
     void refuseSameVariable();
     void rebind();
+    void bindAxis();
     void replaceWhatIsNotOnOffer();
     bool compute();
     void roundCounts();
