@@ -52,6 +52,32 @@ def check_answers(folder):
                                "ICC Metric": 1}, out
 
 
+def check_graph(folder):
+    graph = ["graph", STUDY, "--x", "X Number of Level 3", "--series", "ICC for Level 3", "--values", "0.3,0.05"]
+    heads = {"png": b"\x89PNG", "jpg": b"\xff\xd8", "svg": b"<?xml", "pdf": b"%PDF", "csv": b"Power as",
+             "xls": b"\xd0\xcf\x11\xe0", "xlsx": b"PK"}
+    for ending, head in heads.items():
+        out = Path(folder) / f"graph.{ending}"
+        code, _, err = run(*graph, "--cost", "--out", str(out))
+        assert code == 0 and out.read_bytes().startswith(head), (ending, err)
+    rows = (Path(folder) / "graph.csv").read_text().splitlines()
+    assert [row.split(",")[0] for row in rows[2:5]] == ["Number of schools", "0.0500", "0.3000"], rows
+    assert len(rows) == 9 and rows[2].endswith(",29") and "0.9" in rows[3], rows
+    by_range = [STUDY, "--x", "Std difference, d", "--range", "0.4:0.1", "--out", str(Path(folder) / "d.csv")]
+    assert run("graph", *by_range)[0] == 0
+    assert len((Path(folder) / "d.csv").read_text().splitlines()[2].split(",")) == 52
+    refusals = ((2, "nearest", "--x", "ICC for Lvel 3"), (2, "no effect", "--x", "MRange for Level 3"),
+                (2, "0.000 to 0.", "--x", "ICC for Level 3", "--range", "0:2"), (2, "--range", "--x", "Alpha", "--range", "5"),
+                (2, "--values", "--x", "Alpha", "--series", "ICC for Level 3", "--values", "0.1"),
+                (1, "covariates", "--x", "R-sq for Level 2", "--range", "0.1:0.5", "--set", "txtQ(2)=0", "--set", "txtRsq(2)=0"),
+                (1, "degrees of freedom", "--x", "Alpha", "--set", "txtNB(3)=2"))
+    for code, words, *arguments in refusals:
+        answer = run("graph", STUDY, *arguments, "--out", str(Path(folder) / "no.png"))
+        assert answer[0] == code and words in answer[2], (arguments, answer)
+    assert run(*graph, "--out", "graph.bmp")[0] == 2 and run(*graph, "--out", "/nowhere/a.png")[0] == 3
+    assert not (Path(folder) / "no.png").exists()
+
+
 def check_mdes():
     code, out, _ = run("mdes", STUDY)
     assert code == 0 and "Standardized mean difference" in out and "The minimum detectable effect size is" in out, out
@@ -251,6 +277,7 @@ def main():
         check_optimal(folder)
         check_paths_that_lead_nowhere(folder)
         check_output(folder)
+        check_graph(folder)
     check_mdes()
     check_examples()
     check_long_lines()
