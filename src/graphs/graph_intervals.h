@@ -3,28 +3,10 @@
 #pragma once
 
 #include "graphs/graph_variables.h"
+#include "graphs/intervals.h"
 #include "session/study_trial.h"
 
 namespace lorvane {
-
-/// How the range of a variable is chosen, with the ends of a range by hand in any order.
-struct XRange {
-    int Mode = 0;  ///< 0 automatic, 1 by hand
-    double Start = 0;
-    double End = 0;
-
-    /// A range by hand whose ends lie too near to each other counts as automatic.
-    bool isByHand() const;
-};
-
-struct Intervals {
-    double Start = 0;
-    double End = 0;
-    double Step = 0;
-    int Points = 0;               ///< values that are computed; below 1 there are none
-    bool Reversed = false;        ///< the axis runs from high to low
-    bool isCutToNothing = false;  ///< nothing of a range by hand is valid for the study
-};
 
 // One rule a variable. Each tries values on the trial and puts the field back with a silent refresh. Each
 // throws ArithmeticFault, also where a range would have more points than 16 bits count.
