@@ -2,6 +2,8 @@
 #include "cli/graph_command.h"
 
 #include <algorithm>
+#include <cmath>
+#include <initializer_list>
 #include <ostream>
 
 #include "base/names.h"
@@ -44,6 +46,14 @@ GraphVariable variableOf(const char* option, const std::string& text, const char
                      nearestName(wanted, known) + "\".");
 }
 
+void requireWhole(const char* option, const GraphVariable& variable, std::initializer_list<double> values) {
+    for (const double value : values) {
+        if (variable->isCount() && value != std::floor(value))
+            throw UseProblem(std::string(option) + ": a number of units is whole, not " +
+                             shortestText(value) + ".");
+    }
+}
+
 XRange rangeOf(const std::string& text, const GraphVariable& x, const Study& study) {
     if (text.empty())
         return {};
@@ -52,6 +62,7 @@ XRange rangeOf(const std::string& text, const GraphVariable& x, const Study& stu
     const auto end = colon == std::string::npos ? std::nullopt : readNumber(text.substr(colon + 1));
     if (!start || !end)
         throw UseProblem("--range takes START:END, two numbers, not " + inQuotes(text) + ".");
+    requireWhole("--range", x, {*start, *end});
     const FieldLimits limits = axisLimitsOf(study, x);
     if (!limits.holds(*start) || !limits.holds(*end))
         throw UseProblem("--range: " + rangeWords(limits, x->decimals));
@@ -64,6 +75,7 @@ LineValues valuesOf(const std::vector<double>& values, const GraphVariable& seri
     if (values.size() < 2 || values.size() > mostLines)
         throw UseProblem("--values takes 2 to 5 numbers, parted by commas.");
     for (const double value : values) {
+        requireWhole("--values", series, {value});
         if (!series->lineLimits.holds(value))
             throw UseProblem("--values: " + rangeWords(series->lineLimits, series->decimals));
         if (std::count(values.begin(), values.end(), value) > 1)

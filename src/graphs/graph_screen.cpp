@@ -267,15 +267,24 @@ void GraphScreen::warnAboutCovariates(const GraphVariable& variable) {
 
 void GraphScreen::tell(std::string text) { pnlStatus_.Caption = std::move(text); }
 
-// Numbers of another study may not stand beside this one; after an edit they are out of date.
+// What was told of another study may not stand beside this one.
+void GraphScreen::forgetStudy() {
+    if (lineDialog_.isOpen() && !state_.request().hasSeries())
+        state_.bindL({});
+    for (const WindowId window : {WindowId::frmXVar, WindowId::frmLVar, WindowId::frmTable})
+        design_.SynchForms(window, WindowAction::unload);
+    design_.SynchForms(WindowId::xPlot, WindowAction::withdrawForGood);
+    drawn_.reset();
+    chart_ = {};
+    vsTable_.rows.assign(GraphRows::count, Grid::Row(1));
+    txtHeader2_.Text.clear();
+    tell("");
+}
+
+// After an edit the numbers are out of date.
 void GraphScreen::follow(const Changed& changed) {
     if (changed.otherStudy) {
-        for (const WindowId window : {WindowId::frmXVar, WindowId::frmLVar, WindowId::frmTable})
-            design_.SynchForms(window, WindowAction::unload);
-        design_.SynchForms(WindowId::xPlot, WindowAction::withdrawForGood);
-        drawn_.reset();
-        chart_ = {};
-        vsTable_.rows.assign(GraphRows::count, Grid::Row(1));
+        forgetStudy();
         return;
     }
     if (!drawn_ || changed.reach != Reach::study)

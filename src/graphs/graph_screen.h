@@ -106,6 +106,7 @@ private:
     class Teller;
 
     void MakeGraph();
+    void forgetStudy();
     bool passesChecks();
     bool lacksEffect() const;
     void refuseSameVariable();

@@ -68,6 +68,7 @@ def check_graph(folder):
     assert len((Path(folder) / "d.csv").read_text().splitlines()[2].split(",")) == 52
     refusals = ((2, "nearest", "--x", "ICC for Lvel 3"), (2, "no effect", "--x", "MRange for Level 3"),
                 (2, "0.000 to 0.", "--x", "ICC for Level 3", "--range", "0:2"), (2, "--range", "--x", "Alpha", "--range", "5"),
+                (2, "whole", "--x", "Number of Level 3", "--range", "2.5:9"),
                 (2, "--values", "--x", "Alpha", "--series", "ICC for Level 3", "--values", "0.1"),
                 (1, "covariates", "--x", "R-sq for Level 2", "--range", "0.1:0.5", "--set", "txtQ(2)=0", "--set", "txtRsq(2)=0"),
                 (1, "degrees of freedom", "--x", "Alpha", "--set", "txtNB(3)=2"))
