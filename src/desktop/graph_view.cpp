@@ -8,8 +8,10 @@
 #include <QMenuBar>
 #include <QPainter>
 #include <QScreen>
+#include <QScrollArea>
 #include <QToolBar>
 #include <QVBoxLayout>
+#include <algorithm>
 
 #include "desktop/kit/card.h"
 #include "desktop/kit/elided_label.h"
@@ -26,6 +28,10 @@ constexpr const char* screenName = "xPlot";
 constexpr const char* secondLine = "xPlot.txtHeader(2)";
 constexpr QSize firstSize(1200, 800);
 constexpr QSize smallestSize(620, 480);
+constexpr int pageMargin = 20;
+constexpr int cardPadding = 22;
+constexpr int roomAboveFooter = 520;  // bars, header, and a chart that can be read
+constexpr int leastFooter = 54;       // three lines
 constexpr int menuHeight = 30;
 constexpr int toolHeight = 44;
 constexpr int statusHeight = 28;
@@ -56,7 +62,8 @@ ChartLook lookOf(ColourSets colours) {
 
 GraphView::GraphView(Desk& desk, ToolPanel* panel)
     : PanelView(desk, panel, screenName), menus_(new Menus(desk, panel, screenName)), header_(new QLabel),
-      secondHeader_(new QLineEdit), plot_(new ChartPlot), line_(new Separator), status_(new ElidedLabel) {
+      secondHeader_(new QLineEdit), plot_(new ChartPlot), line_(new Separator), footerArea_(new QScrollArea),
+      status_(new ElidedLabel) {
     panel->setWindowTitle(shownText(windowTitle(WindowId::xPlot)));
     panel->setAttribute(Qt::WA_ShowWithoutActivating, false);
     panel->installEventFilter(this);
@@ -97,7 +104,7 @@ QWidget* GraphView::makePage() {
     page->setBackgroundRole(QPalette::Window);
     page->setAutoFillBackground(true);
     auto* column = new QVBoxLayout(page);
-    column->setContentsMargins(20, 18, 20, 0);
+    column->setContentsMargins(pageMargin, 18, pageMargin, 0);
     column->setSpacing(0);
     column->addWidget(makeCard(), 1);
     status_->setFont(textFont(TextStyle::Caption));
@@ -110,7 +117,7 @@ QWidget* GraphView::makePage() {
 QWidget* GraphView::makeCard() {
     auto* card = new Card;
     auto* column = new QVBoxLayout(card);
-    column->setContentsMargins(22, 20, 22, 18);
+    column->setContentsMargins(cardPadding, 20, cardPadding, 18);
     column->setSpacing(0);
     addHeader(column);
     column->addWidget(plot_, 1);
@@ -137,18 +144,38 @@ void GraphView::addHeader(QVBoxLayout* column) {
     column->addSpacing(6);
 }
 
+// A footer that would leave too little to the chart scrolls.
 void GraphView::addFooter(QVBoxLayout* column) {
-    column->addSpacing(14);
-    column->addWidget(line_);
-    column->addSpacing(10);
+    auto* texts = new QWidget;
+    auto* lines = new QVBoxLayout(texts);
+    lines->setContentsMargins(0, 0, 0, 0);
+    lines->setSpacing(0);
     for (QLabel*& label : footer_) {
         label = new QLabel;
         label->setWordWrap(true);
         label->setProperty("second", true);
         label->setTextInteractionFlags(Qt::TextSelectableByMouse);
         label->setContentsMargins(0, 1, 0, 2);
-        column->addWidget(label);
+        lines->addWidget(label);
     }
+    footerArea_->setWidget(texts);
+    footerArea_->setWidgetResizable(true);
+    footerArea_->setFrameShape(QFrame::NoFrame);
+    footerArea_->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    footerArea_->viewport()->setAutoFillBackground(false);
+    texts->setAutoFillBackground(false);
+    column->addSpacing(14);
+    column->addWidget(line_);
+    column->addSpacing(10);
+    column->addWidget(footerArea_);
+}
+
+void GraphView::fitFooter() {
+    const int width = panel()->width() - 2 * (pageMargin + cardPadding);
+    const int wanted = footerArea_->widget()->layout()->heightForWidth(width);
+    const int most = std::max(panel()->height() - roomAboveFooter, leastFooter);
+    footerArea_->setFixedHeight(std::min(wanted, most));
+    footerArea_->setFocusPolicy(wanted > most ? Qt::TabFocus : Qt::NoFocus);
 }
 
 // What the user does
@@ -167,8 +194,10 @@ void GraphView::step(Qt::Key key) {
 
 // The chart keeps its colours, so it is told of others. A narrow window has no room for the words of its bar.
 bool GraphView::eventFilter(QObject* watched, QEvent* event) {
-    if (watched == panel() && event->type() == QEvent::Resize)
+    if (watched == panel() && event->type() == QEvent::Resize) {
         menus_->setWordsShown(panel()->width() >= narrow);
+        fitFooter();
+    }
     const bool otherColours =
         event->type() == QEvent::PaletteChange || event->type() == QEvent::ApplicationPaletteChange;
     if (watched == panel() && otherColours)
@@ -195,14 +224,15 @@ void GraphView::syncHeader(const ChartContent& chart) {
 
 void GraphView::syncFooter(const ChartContent& chart) {
     line_->setVisible(!chart.footer.empty());
+    footerArea_->setVisible(!chart.footer.empty());
     const QFont font =
         lookOf(chart.colours)
             .sized(footerPixels(chart.footerSize), chart.footerBold ? QFont::DemiBold : QFont::Normal);
     for (std::size_t i = 0; i < footer_.size(); ++i) {
-        footer_[i]->setVisible(!chart.footer.empty());
         footer_[i]->setFont(font);
         footer_[i]->setText(chart.footer.empty() ? QString() : shownText(chart.footer[i]));
     }
+    fitFooter();
 }
 
 void GraphView::sync() {

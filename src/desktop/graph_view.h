@@ -8,6 +8,7 @@
 
 class QLabel;
 class QLineEdit;
+class QScrollArea;
 class QVBoxLayout;
 
 namespace lorvane {
@@ -40,6 +41,7 @@ private:
     void addFooter(QVBoxLayout* column);
     void syncHeader(const ChartContent& chart);
     void syncFooter(const ChartContent& chart);
+    void fitFooter();
     void step(Qt::Key key);
 
     const GraphScreen& model() const;
@@ -49,6 +51,7 @@ private:
     QLineEdit* secondHeader_;
     ChartPlot* plot_;
     QWidget* line_;
+    QScrollArea* footerArea_;
     std::array<QLabel*, footerLines> footer_{};
     ElidedLabel* status_;
     bool wasOpen_ = false;
