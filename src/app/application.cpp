@@ -91,6 +91,8 @@ void Application::handle(Event event) {
     } catch (const ArithmeticFault& fault) {
         showAgain();
         announce();
+        if (fault.tellsCulprit())
+            throw;
         throw StudyFault(fault, session_.study());
     } catch (const UseProblem&) {
         design_.tellStatus(status);
@@ -138,6 +140,8 @@ void Application::type(const std::string& control, const std::string& text) {
         throw UseProblem("The text for " + control + " must be UTF-8 text of at most " +
                          std::to_string(ScenarioGrid::longestCell) + " bytes without NUL.");
     box->Text = text;
+    if (const auto* typed = events_.typed(control))
+        handle(*typed);
 }
 
 void Application::select(const std::string& grid, const std::vector<std::size_t>& rows) {

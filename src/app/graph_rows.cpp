@@ -55,8 +55,6 @@ void move(P p) {
 
 ToolState ifSeveralLines(P p) { return enabledIf(p.graph.hasGraph() && p.graph.state().NumLines >= 2); }
 
-bool rangeIsByHand(P p) { return p.graph.state().range().Mode == 1; }
-
 // The window that a command of the list of windows brings up.
 void openGraph(P p) {
     if (p.graph.hasGraph())
@@ -138,9 +136,9 @@ const CommandRow graphTable[] = {
      {Sign::axis, true, "Ctrl+R", "Modify range"}},
     {"Set range for X-axis automatically", "Set range for X-axis &automatically",
      "Let the program choose the range", choice, [](P p) { p.graph.SetXAuto(true); },
-     [](P p) { return checkedIf(!rangeIsByHand(p)); }},
+     [](P p) { return checkedIf(!p.graph.rangeIsByHand()); }},
     {"Set range for X-axis manually", "Set range for X-axis man&ually", "Type a range of your own", choice,
-     [](P p) { p.graph.SetXAuto(false); }, [](P p) { return checkedIf(rangeIsByHand(p)); }},
+     [](P p) { p.graph.SetXAuto(false); }, [](P p) { return checkedIf(p.graph.rangeIsByHand()); }},
     {"L None", "&None", "One line, for the study as it is", choice, [](P p) { p.graph.chooseNoSeries(); },
      [](P p) { return checkedIf(!p.graph.state().LVar); }},
     // Points

@@ -13,16 +13,26 @@ namespace lorvane {
 /// overflow. Searches and graphs put their study back and let it pass; the outermost handler tells the user.
 class ArithmeticFault : public std::runtime_error {
 public:
+    explicit ArithmeticFault(const char* routine)
+        : ArithmeticFault(routine, "the values entered last", false) {}
+
     /// The culprit is what most likely stopped it, in words.
-    explicit ArithmeticFault(const char* routine, const std::string& culprit = "the values entered last")
-        : std::runtime_error("The arithmetic cannot go on with these values; please modify " + culprit + "."),
-          routine_(routine) {}
+    ArithmeticFault(const char* routine, const std::string& culprit)
+        : ArithmeticFault(routine, culprit, true) {}
 
     /// Name of the routine that stopped, a string literal.
     const char* routine() const noexcept { return routine_; }
 
+    /// Whether it tells a culprit of its own.
+    bool tellsCulprit() const noexcept { return tellsCulprit_; }
+
 private:
+    ArithmeticFault(const char* routine, const std::string& culprit, bool tellsCulprit)
+        : std::runtime_error("The arithmetic cannot go on with these values; please modify " + culprit + "."),
+          routine_(routine), tellsCulprit_(tellsCulprit) {}
+
     const char* routine_;
+    bool tellsCulprit_;
 };
 
 /// Passes when every value is finite, and throws ArithmeticFault for the routine otherwise.

@@ -36,6 +36,8 @@ std::string cellText(std::string text) {
         if (c == '\n' || c == '\t')
             c = ' ';
     }
+    while (const auto twice = text.find("  ") + 1)
+        text.erase(twice, 1);
     return std::string(trimmed(text));
 }
 

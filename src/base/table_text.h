@@ -8,7 +8,7 @@ namespace lorvane {
 
 using TextRow = std::vector<std::string>;
 
-/// The text of a cell on one line, without blanks at its ends.
+/// The text of a cell on one line, without double blanks and blanks at its ends.
 std::string cellText(std::string text);
 
 /// A line a row, cells parted by tabs.

@@ -102,6 +102,15 @@ GraphRequest requestOf(const GraphCommandRequest& wanted, const Study& study) {
     return request;
 }
 
+// What a reader of the graph has to know.
+std::string noteOf(const DrawnGraph& graph, const Study& study) {
+    for (const GraphVariable& variable : {graph.request.XVar, graph.request.LVar}) {
+        if (lacksCovariates(study, variable))
+            return "There are no covariates at the level of R-squared, so most of the graph is empty.";
+    }
+    return truncationNote(study);
+}
+
 // Why a graph would say nothing; empty where it does.
 std::string whyEmpty(const DrawnGraph& graph, const Study& study) {
     if (graph.table.drawnByItself)
@@ -139,7 +148,7 @@ int makeGraph(const GraphCommandRequest& wanted, const GraphWriters& writers, co
     line.store.open(session, wanted.study);
     applySettings(wanted.settings, session);
     const Study& study = session.study();
-    if (!study.result.xValid) {
+    if (!study.result.xValid || (!study.isTested() && !wanted.cost)) {
         line.errors << onOneLine(whyNoPower(session)) << '\n';
         return ExitCodes::noAnswer;
     }
@@ -154,7 +163,7 @@ int makeGraph(const GraphCommandRequest& wanted, const GraphWriters& writers, co
     }
     writers.files.replace(wanted.out, fileOf(graph, wanted, writers, session.state()));
     line.out << "The file " << printable(wanted.out) << " has been saved.\n";
-    printNote(line.out, truncationNote(study));
+    printNote(line.out, noteOf(graph, study));
     return ExitCodes::done;
 }
 

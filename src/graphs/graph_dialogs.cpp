@@ -153,8 +153,10 @@ void AxisDialog::accept() {
     keep(range);
 }
 
+// The study may have changed since the dialog was opened.
 void AxisDialog::acceptByHand() {
     clearMarks();
+    limits_ = axisLimitsOf(design_.study(), state_.XVar);
     if (refusesValues())
         return;
     const XRange range{byHand, *readBox(dialog_.fields[0].box, decimals_),

@@ -75,7 +75,9 @@ Answer GraphFiles::ask(std::string title, std::string text, std::vector<MessageB
 std::optional<std::string> GraphFiles::choose(const FileDialog& dialog) {
     const bool isOpen = design_.isOpen(WindowId::frmTable);
     design_.SynchForms(WindowId::frmTable, WindowAction::withdraw);
-    const auto path = outside_.dialogs.choose(dialog);
+    auto path = outside_.dialogs.choose(dialog);
+    if (path && path->find('.', path->find_last_of('/') + 1) == std::string::npos)
+        *path += dialog.defaultExtension;
     if (isOpen)
         design_.SynchForms(WindowId::frmTable, WindowAction::bringBack);
     return path;

@@ -8,6 +8,7 @@
 #include "base/money.h"
 #include "base/names.h"
 #include "base/number_text.h"
+#include "base/use_problem.h"
 #include "base/while_set.h"
 #include "graphs/graph_rules.h"
 #include "graphs/graph_sheet.h"
@@ -45,7 +46,8 @@ bool isWhole(double value) { return value == roundHalfToEven(value); }
 // Tells how far a computation is, in the status line.
 class GraphScreen::Teller final : public Progress {
 public:
-    Teller(std::string& text, Progress& progress) : text_(text), progress_(progress) {}
+    Teller(std::string& text, Progress& progress) : text_(text), before_(text), progress_(progress) {}
+    ~Teller() override { text_ = before_; }
 
     bool goOn() override {
         text_ = "Point " + std::to_string(++point_) + " of the graph is computed. Esc stops.";
@@ -54,6 +56,7 @@ public:
 
 private:
     std::string& text_;
+    const std::string before_;
     Progress& progress_;
     int point_ = 0;
 };
@@ -63,6 +66,28 @@ GraphScreen::GraphScreen(Design& design, const GraphOutside& outside, Progress& 
     : design_(design), progress_(progress), hourglass_(hourglass), files_(design, outside),
       axisDialog_(design, state_, [this] { GoRun(); }), lineDialog_(design, state_, [this] { GoRun(); }) {
     vsTable_.rows.assign(GraphRows::count, Grid::Row(1));
+}
+
+// Binding
+// --------------------------------------------------------------------------------------------------
+
+// A dialog that is open goes along with its variable.
+void GraphScreen::setX(const GraphVariable& variable) {
+    const bool isOther = variable != state_.XVar;
+    state_.bindX(variable);
+    if (isOther && axisDialog_.isOpen())
+        axisDialog_.open();
+}
+
+void GraphScreen::setL(const GraphVariable& variable) {
+    const bool isOther = variable != state_.LVar;
+    state_.bindL(variable);
+    if (!isOther || !lineDialog_.isOpen())
+        return;
+    if (variable)
+        lineDialog_.open();
+    else
+        lineDialog_.close();
 }
 
 // From variables to a graph
@@ -81,10 +106,10 @@ void GraphScreen::DoGraph() {
 
 void GraphScreen::GoRun() { MakeGraph(); }
 
-void GraphScreen::MakeGraph() {
-    tell("");
+// False where there is no other graph than before.
+bool GraphScreen::MakeGraph() {
     if (!passesChecks() || !compute())
-        return;
+        return false;
     const bool opens = !isOpen();
     design_.SynchForms(WindowId::xPlot, WindowAction::open);
     if (opens)
@@ -93,6 +118,7 @@ void GraphScreen::MakeGraph() {
     tellAboutGraph();
     warnAboutCovariates(state_.XVar);
     warnAboutCovariates(state_.LVar);
+    return true;
 }
 
 bool GraphScreen::passesChecks() {
@@ -102,7 +128,7 @@ bool GraphScreen::passesChecks() {
         return false;
     }
     if (!state_.XVar)
-        state_.bindX(numberAtTop(s));
+        setX(numberAtTop(s));
     if (state_.LVar == state_.XVar)
         refuseSameVariable();
     if (lacksEffect() &&
@@ -119,7 +145,7 @@ void GraphScreen::refuseSameVariable() {
     files_.ask("Please modify the series variable",
                "Please click 'Series' on the menu and select 'None' or another variable.             \n"
                "The Series variable cannot be the same as the X-axis variable.                    ");
-    state_.bindL({});
+    setL({});
 }
 
 bool GraphScreen::lacksEffect() const {
@@ -134,25 +160,25 @@ bool GraphScreen::lacksEffect() const {
 void GraphScreen::rebind() {
     const Study& s = design_.study();
     if (state_.XVar && state_.XVar->isCount())
-        state_.bindX(numberOfUnits(s, state_.XVar.level));
+        setX(numberOfUnits(s, state_.XVar.level));
     if (state_.LVar && state_.LVar->isCount())
-        state_.bindL(numberOfUnits(s, state_.LVar.level));
+        setL(numberOfUnits(s, state_.LVar.level));
 }
 
 // Other variables of a former study would draw a level line.
 void GraphScreen::replaceWhatIsNotOnOffer() {
     const Study& s = design_.study();
-    replaced_ = false;
+    replaced_.clear();
     if (state_.LVar && !state_.LVar.isOnOffer(s)) {
-        state_.bindL({});
-        replaced_ = true;
+        setL({});
+        replaced_ = "The study has no such series now, so it was left out.";
     }
     if (state_.XVar.isOnOffer(s))
         return;
-    state_.bindX(numberAtTop(s));
-    replaced_ = true;
+    setX(numberAtTop(s));
+    replaced_ = "The study has no such variable now, so another one is shown.";
     if (state_.LVar == state_.XVar)
-        state_.bindL({});
+        setL({});
 }
 
 // False when the user has stopped it; the graph before it stays then.
@@ -166,8 +192,8 @@ bool GraphScreen::compute() {
         Teller teller(pnlStatus_.Caption, progress_);
         graph.table = GraphCompute(design_.session().trial(), graph.request, teller);
     }
-    roundCounts();
-    tell("");
+    const SessionState computed = design_.session().state();
+    isOld_ = roundCounts();
     if (graph.table.stopped) {
         tell("The computation was stopped; the graph is as it was before.");
         return false;
@@ -175,26 +201,26 @@ bool GraphScreen::compute() {
     state_.NumLines = graph.table.NumLines;
     state_.GraphMaxCost = graph.table.GraphMaxCost;
     drawn_ = std::move(graph);
-    drawnFor_ = design_.session().state();
-    isOld_ = false;
+    drawnFor_ = computed;
     return true;
 }
 
 // A graph leaves whole numbers of units behind, also where a file held others. It takes place in a copy of
 // the study, so nothing else has to be put back.
-void GraphScreen::roundCounts() {
+bool GraphScreen::roundCounts() {
     const Study& s = design_.study();
     bool allWhole = true;
     for (int level = lowestLevel; level <= highestLevel; ++level)
         allWhole = allWhole && isWhole(s.txtNC(level)) && isWhole(s.txtNT(level)) && isWhole(s.txtNB(level));
     if (allWhole)
-        return;
+        return false;
     design_.session().edit({"whole numbers of units"}, [](SessionState& state) {
         for (int level = lowestLevel; level <= highestLevel; ++level) {
             for (auto* sizes : {&state.study.txtNC, &state.study.txtNT, &state.study.txtNB})
                 (*sizes)(level) = roundHalfToEven((*sizes)(level));
         }
     });
+    return true;
 }
 
 // From the numbers to the screen
@@ -240,11 +266,13 @@ void GraphScreen::GraphFormatTable() {
 
 // The most important of what there is to know.
 void GraphScreen::tellAboutGraph() {
-    if (drawn_->table.drawnByItself)
+    if (isOld_)
+        tell("Numbers of units are rounded now; F5 draws the graph of the rounded ones.");
+    else if (drawn_->table.drawnByItself)
         tell("The range that was set lies outside the range on which the study is valid; the X-axis was set "
              "automatically.");
-    else if (replaced_)
-        tell("The study has no such variable now, so another one is shown.");
+    else if (!replaced_.empty())
+        tell(replaced_);
     else if (!design_.study().isTested())
         tell("This effect has no test; the graph shows its cost alone.");
     else if (!GetInitialPoint(*drawn_, {}))
@@ -270,7 +298,7 @@ void GraphScreen::tell(std::string text) { pnlStatus_.Caption = std::move(text);
 // What was told of another study may not stand beside this one.
 void GraphScreen::forgetStudy() {
     if (lineDialog_.isOpen() && !state_.request().hasSeries())
-        state_.bindL({});
+        setL({});
     for (const WindowId window : {WindowId::frmXVar, WindowId::frmLVar, WindowId::frmTable})
         design_.SynchForms(window, WindowAction::unload);
     design_.SynchForms(WindowId::xPlot, WindowAction::withdrawForGood);
@@ -278,7 +306,11 @@ void GraphScreen::forgetStudy() {
     chart_ = {};
     vsTable_.rows.assign(GraphRows::count, Grid::Row(1));
     txtHeader2_.Text.clear();
-    tell("");
+    for (std::string* text : {&txtHeader_[0], &tableTitle_, &pnlStatus_.Caption})
+        text->clear();
+    txtFooter_ = {};
+    state_.GraphMaxCost = 0;
+    state_.CostScale = 1;
 }
 
 // After an edit the numbers are out of date.
@@ -303,12 +335,12 @@ void GraphScreen::chooseX(const GraphKey& key) {
         SetXVar();
         return;
     }
-    state_.bindX(key.bound(design_.study()));
+    setX(key.bound(design_.study()));
     GoRun();
 }
 
 void GraphScreen::chooseL(const GraphKey& key) {
-    state_.bindL(key.bound(design_.study()));
+    setL(key.bound(design_.study()));
     SetLVar();
 }
 
@@ -318,19 +350,20 @@ void GraphScreen::SetLVar() {
 }
 
 void GraphScreen::chooseNoSeries() {
-    state_.bindL({});
+    setL({});
     GoRun();
 }
 
 // The axis that a graph would have now.
 void GraphScreen::bindAxis() {
     if (!state_.XVar)
-        state_.bindX(numberAtTop(design_.study()));
+        setX(numberAtTop(design_.study()));
     rebind();
     replaceWhatIsNotOnOffer();
 }
 
 void GraphScreen::SetXVar() {
+    manualIsAsked_ = false;
     bindAxis();
     axisDialog_.open();
 }
@@ -342,7 +375,12 @@ void GraphScreen::SetXAuto(bool automatically) {
         GoRun();
     } else if (state_.range().Mode == 0) {
         SetXVar();
+        manualIsAsked_ = true;
     }
+}
+
+bool GraphScreen::rangeIsByHand() const {
+    return state_.range().Mode == 1 || (manualIsAsked_ && axisDialog_.isOpen());
 }
 
 void GraphScreen::move(Directions direction) {
@@ -375,15 +413,9 @@ void GraphScreen::close() {
     design_.SynchForms(WindowId::xPlot, WindowAction::withdrawForGood);
 }
 
-void GraphScreen::SaveGraph(PictureSizes size) {
-    keepHeader();
-    tell(files_.SaveGraph(chart_, size));
-}
+void GraphScreen::SaveGraph(PictureSizes size) { tell(files_.SaveGraph(chart_, size)); }
 
-void GraphScreen::copyGraph(PictureSizes size) {
-    keepHeader();
-    tell(files_.copyGraph(chart_, size));
-}
+void GraphScreen::copyGraph(PictureSizes size) { tell(files_.copyGraph(chart_, size)); }
 
 void GraphScreen::SaveTable(GraphFiles::Then then) {
     if (drawn_)
@@ -398,18 +430,9 @@ void GraphScreen::copyTable() {
                                              state_.showCostInTable)));
 }
 
-void GraphScreen::SaveHeader() {
-    keepHeader();
-    tell(files_.SaveHeader(headerAndFooter()));
-}
+void GraphScreen::SaveHeader() { tell(files_.SaveHeader(headerAndFooter())); }
 
-void GraphScreen::copyHeader() {
-    keepHeader();
-    tell(files_.copyHeader(headerAndFooter()));
-}
-
-// The second line may have been typed since the graph was drawn.
-void GraphScreen::keepHeader() { showChart(); }
+void GraphScreen::copyHeader() { tell(files_.copyHeader(headerAndFooter())); }
 
 std::vector<std::string> GraphScreen::headerAndFooter() const {
     std::vector<std::string> texts = {txtHeader_[0]};
@@ -489,7 +512,13 @@ void GraphScreen::registerTables(ControlRegistry& registry) const {
 
 void GraphScreen::registerEvents(EventRegistry& events) {
     events.addTextBox("xPlot.txtHeader(2)", txtHeader2_);
-    events.onPick("xPlot.CurrChart", [this](int series, int point) { pick(series, point); });
+    events.onTyped("xPlot.txtHeader(2)", [this] { showChart(); });
+    events.onPick("xPlot.CurrChart", [this](int series, int point) {
+        if (!isOpen() || !drawn_ || !drawn_->hasPower(series, point))
+            throw UseProblem("The graph has no point " + std::to_string(point) + " of line " +
+                             std::to_string(series) + " to click.");
+        pick(series, point);
+    });
     events.onClose("xPlot", [this] { close(); });
     events.onClose("frmTable", [this] { design_.SynchForms(WindowId::frmTable, WindowAction::unload); });
     axisDialog_.registerEvents(events);

@@ -62,15 +62,15 @@ public:
     template <typename Change>
     void setLook(Change change, Needs needs = Needs::look) {
         change(state_);
-        if (needs == Needs::numbers)
-            GoRun();
-        else
+        if (needs == Needs::look || !MakeGraph())
             showChart();
     }
 
     // What there is -----------------------------------------------------------------------------------------
 
     const GraphState& state() const noexcept { return state_; }
+    /// Whether the range of the axis is set by hand, or about to be.
+    bool rangeIsByHand() const;
     bool isOpen() const { return design_.isOpen(WindowId::xPlot); }
     bool hasGraph() const noexcept { return drawn_.has_value(); }
 
@@ -105,7 +105,9 @@ public:
 private:
     class Teller;
 
-    void MakeGraph();
+    void setX(const GraphVariable& variable);
+    void setL(const GraphVariable& variable);
+    bool MakeGraph();
     void forgetStudy();
     bool passesChecks();
     bool lacksEffect() const;
@@ -114,7 +116,7 @@ private:
     void bindAxis();
     void replaceWhatIsNotOnOffer();
     bool compute();
-    void roundCounts();
+    bool roundCounts();
     void show();
     void showChart();
     void ShowPoint();
@@ -122,7 +124,6 @@ private:
     void tellAboutGraph();
     void warnAboutCovariates(const GraphVariable& variable);
     void pick(int series, int point);
-    void keepHeader();
     void tell(std::string text);
     std::vector<std::string> headerAndFooter() const;
     void registerTables(ControlRegistry& registry) const;
@@ -144,7 +145,8 @@ private:
     TextBox txtHeader2_;  ///< the second line of the header, the user's own
     Panel pnlStatus_;
     std::string tableTitle_;
-    bool replaced_ = false;  ///< a variable that the study does not have has given way
+    std::string replaced_;        ///< what has given way, since the study does not have it
+    bool manualIsAsked_ = false;  ///< the dialog of the range was opened to set it by hand
 };
 
 }  // namespace lorvane

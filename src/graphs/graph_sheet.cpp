@@ -26,6 +26,10 @@ SheetCell cellOf(const GraphTable& table, int row, int column) {
     const std::string& text = rowOf(table, row)[static_cast<std::size_t>(column)];
     SheetCell cell;
     cell.heading = isHead(row);
+    if (column == 0 && !cell.heading) {
+        cell.value = rowHead(table.cells, row);
+        return cell;
+    }
     if (text.empty())
         return cell;
     const auto number = cell.heading ? std::nullopt : table.number(row, column);

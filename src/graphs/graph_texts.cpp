@@ -45,14 +45,15 @@ std::string designLine(const Study& s) {
     constexpr const char* starts[] = {"Two-level clustered design. ", "Three-level clustered design. ",
                                       "Four-level clustered design. "};
     const int randomized = s.RandomizedLevel;
-    return starts[s.NumLevels - 2] +
-           levelsThat(
-               s, [&](int level) { return level > randomized; }, " are blocked. ") +
-           levelsThat(
-               s, [&](int level) { return level == randomized; }, " are randomized. ") +
-           levelsThat(
-               s, [&](int level) { return level < randomized; }, " are nested. ") +
-           testWords(s);
+    const std::string line = starts[s.NumLevels - 2] +
+                             levelsThat(
+                                 s, [&](int level) { return level > randomized; }, " are blocked. ") +
+                             levelsThat(
+                                 s, [&](int level) { return level == randomized; }, " are randomized. ") +
+                             levelsThat(
+                                 s, [&](int level) { return level < randomized; }, " are nested. ") +
+                             testWords(s);
+    return std::string(trimmed(line));
 }
 
 std::string modelLine(const Study& s) {

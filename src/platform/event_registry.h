@@ -44,6 +44,10 @@ public:
 
     void addTextBox(std::string name, TextBox& box) { textBoxes_.emplace(std::move(name), &box); }
 
+    /// Runs after a text was typed into a box that is not read by a button.
+    void onTyped(std::string box, Handler handler) { enter(typed_, std::move(box), std::move(handler)); }
+    const Handler* typed(const std::string& box) const { return find(typed_, box); }
+
     void addGrid(std::string name, Grid& grid) { grids_.emplace(std::move(name), &grid); }
 
     /// Each runs the handler of a name; false when there is none.
@@ -103,6 +107,7 @@ private:
 
     std::unordered_map<std::string, std::function<void(int, int)>> picks_;
     Handlers clicks_;
+    Handlers typed_;
     Handlers closes_;
     std::unordered_map<std::string, std::function<void(int)>> spins_;
     std::unordered_map<std::string, Number> numbers_;

@@ -21,6 +21,7 @@ constexpr int titleLines = 2;
 const QMargins leastMargins(8, 16, 24, 4);
 constexpr double hair = 1e-6;  ///< of the length of an axis: a tick at its very end is drawn
 
+constexpr double endStep = 0.001;
 constexpr int ownRoom = 18;
 constexpr double columnGap = 34;
 constexpr double leastColumn = 80;
@@ -220,8 +221,10 @@ void ChartDrawing::layOutBelow() {
     const bool whole =
         std::all_of(x.begin(), x.end(), [](double value) { return value == std::round(value); });
     const auto [low, high] = std::minmax_element(x.begin(), x.end());
-    const double first = x.empty() ? content_.x.low : *low;
-    const double last = x.empty() ? content_.x.high : *high;
+    // The axis ends a hair beyond its last value, where no tick belongs.
+    const double end = std::floor(content_.x.high / endStep + hair) * endStep;
+    const double first = x.empty() ? content_.x.low : std::min(*low, content_.x.low);
+    const double last = x.empty() ? end : std::max(*high, end);
     const QFontMetricsF metrics(look_.sized(markPixels));
     ChartTicks ticks = roundTicks(first, last, mostTicks, whole);
     double widest = 0;
