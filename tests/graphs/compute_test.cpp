@@ -1,29 +1,12 @@
 // The cells of a graph against single refreshes at each of its points, and what a graph leaves behind.
-#include <cstdlib>
-#include <new>
 #include <numeric>
 
 #include "base/number_text.h"
 #include "graph_words.h"
 #include "graphs/graph_compute.h"
+#include "support/counted_allocations.h"
 #include "support/test_platform.h"
 #include "validation/study_bench.h"
-
-namespace {
-
-long allocations = 0;
-
-}  // namespace
-
-[[gnu::noinline]] void* operator new(std::size_t size) {
-    ++allocations;
-    if (void* memory = std::malloc(size == 0 ? 1 : size))
-        return memory;
-    throw std::bad_alloc();
-}
-
-[[gnu::noinline]] void operator delete(void* memory) noexcept { std::free(memory); }
-[[gnu::noinline]] void operator delete(void* memory, std::size_t) noexcept { std::free(memory); }
 
 namespace lorvane {
 namespace {

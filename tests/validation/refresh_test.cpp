@@ -1,26 +1,9 @@
 // What a change shows, which windows it moves, and that a trial leaves no trace.
-#include <cstdlib>
-#include <new>
 #include <regex>
 
+#include "support/counted_allocations.h"
 #include "validation/cell_counts.h"
 #include "validation/study_bench.h"
-
-namespace {
-
-long allocations = 0;
-
-}  // namespace
-
-[[gnu::noinline]] void* operator new(std::size_t size) {
-    ++allocations;
-    if (void* memory = std::malloc(size == 0 ? 1 : size))
-        return memory;
-    throw std::bad_alloc();
-}
-
-[[gnu::noinline]] void operator delete(void* memory) noexcept { std::free(memory); }
-[[gnu::noinline]] void operator delete(void* memory, std::size_t) noexcept { std::free(memory); }
 
 namespace lorvane {
 namespace {
