@@ -24,7 +24,10 @@ void appendCodePoint(std::string& rtf, std::uint32_t code) {
     appendUnit(rtf, 0xDC00 + ((code - 0x10000) & 0x3FF));
 }
 
-void appendText(std::string& rtf, std::string_view text) {
+}  // namespace
+
+std::string rtfText(std::string_view text) {
+    std::string rtf;
     while (!text.empty()) {
         const std::size_t length = letterLength(text);
         const std::string_view letter = text.substr(0, length == 0 ? 1 : length);
@@ -40,16 +43,13 @@ void appendText(std::string& rtf, std::string_view text) {
         else
             appendCodePoint(rtf, codePoint(letter));
     }
+    return rtf;
 }
-
-}  // namespace
 
 std::string rtfDocument(std::span<const std::string> paragraphs) {
     std::string rtf = "{\\rtf1\\ansi\\deff0{\\fonttbl{\\f0\\fswiss Calibri;}}\\f0\\fs22\n";
-    for (const std::string& paragraph : paragraphs) {
-        appendText(rtf, paragraph);
-        rtf += "\\par\n";
-    }
+    for (const std::string& paragraph : paragraphs)
+        rtf += rtfText(paragraph) + "\\par\n";
     return rtf + "}\n";
 }
 

@@ -14,7 +14,7 @@ ENGINE = GROUND | {"engine"}
 VALIDATION = ENGINE | {"validation"}
 SESSION = VALIDATION | {"session"}
 SCREEN = SESSION | {"screen"}
-CORE = SCREEN | {"persistence", "guidance", "search", "graphs"}
+CORE = SCREEN | {"persistence", "guidance", "search", "graphs", "reporting"}
 
 MAY_INCLUDE = {
     "base": set(),
@@ -28,6 +28,7 @@ MAY_INCLUDE = {
     "guidance": SCREEN,
     "search": SCREEN,
     "graphs": SCREEN,
+    "reporting": SCREEN,
     "app": CORE,
     "os": GROUND,
     "sheets": GROUND,
@@ -44,7 +45,7 @@ FOREIGN = {
     "os": re.compile(r"sys/file\.h|fcntl\.h|unistd\.h|sys/stat\.h"),
     "cli": re.compile(r"CLI/|nlohmann/"),
     "sheets": re.compile(r"xlsxwriter\.h"),
-    "qt": re.compile(r"Q[A-Z]|qcustomplot\.h"),
+    "qt": re.compile(r"Q[A-Z]|qcustomplot\.h|qpdf/"),
     "desktop": re.compile(r"Q[A-Z]"),
 }
 STANDARD = re.compile(r"c?[a-z_0-9]+$")
