@@ -1,15 +1,11 @@
 // A table of texts as other programs take it.
 #include "base/table_text.h"
 
-#include <string_view>
-
 #include "base/number_text.h"
 
 namespace lorvane {
 
-namespace {
-
-std::string escaped(std::string_view text) {
+std::string htmlText(std::string_view text) {
     std::string safe;
     for (const char c : text) {
         switch (c) {
@@ -28,8 +24,6 @@ std::string escaped(std::string_view text) {
     }
     return safe;
 }
-
-}  // namespace
 
 std::string cellText(std::string text) {
     for (char& c : text) {
@@ -59,7 +53,7 @@ std::string htmlTable(const std::vector<TextRow>& rows) {
     for (const TextRow& row : rows) {
         html += "<tr>";
         for (const std::string& cell : row)
-            html.append("<td>").append(escaped(cellText(cell))).append("</td>");
+            html.append("<td>").append(htmlText(cellText(cell))).append("</td>");
         html += "</tr>";
     }
     return html + "</table>";

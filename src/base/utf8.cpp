@@ -18,8 +18,22 @@ struct CodeRange {
 constexpr CodeRange steering[] = {{0, 0x1F},        {0x7F, 0x9F},     {0x61C, 0x61C},  {0x200E, 0x200F},
                                   {0x2028, 0x202E}, {0x2066, 0x2069}, {0xFEFF, 0xFEFF}};
 
-bool steersScreen(unsigned code) {
-    return std::any_of(std::begin(steering), std::end(steering),
+// Marks that stand on the letter before them, joiners, variants of signs.
+constexpr CodeRange combining[] = {
+    {0x300, 0x36F},   {0x483, 0x489},   {0x591, 0x5BD},     {0x5BF, 0x5BF},    {0x5C1, 0x5C2},
+    {0x5C4, 0x5C5},   {0x610, 0x61A},   {0x64B, 0x65F},     {0x670, 0x670},    {0x6D6, 0x6DC},
+    {0x93C, 0x93C},   {0x941, 0x948},   {0x94D, 0x94D},     {0xE31, 0xE31},    {0xE34, 0xE3A},
+    {0xE47, 0xE4E},   {0x1AB0, 0x1AFF}, {0x1DC0, 0x1DFF},   {0x200B, 0x200D},  {0x20D0, 0x20FF},
+    {0xFE00, 0xFE0F}, {0xFE20, 0xFE2F}, {0x1F3FB, 0x1F3FF}, {0xE0100, 0xE01EF}};
+
+// East Asian letters and pictures, which are twice as wide as the others.
+constexpr CodeRange wide[] = {{0x1100, 0x115F},   {0x2E80, 0x303E},   {0x3041, 0xA4CF},   {0xAC00, 0xD7A3},
+                              {0xF900, 0xFAFF},   {0xFE30, 0xFE6F},   {0xFF01, 0xFF60},   {0xFFE0, 0xFFE6},
+                              {0x1F300, 0x1F64F}, {0x1F680, 0x1F6FF}, {0x1F900, 0x1F9FF}, {0x20000, 0x3FFFD}};
+
+template <std::size_t Count>
+bool isAmong(unsigned code, const CodeRange (&ranges)[Count]) {
+    return std::any_of(std::begin(ranges), std::end(ranges),
                        [code](const CodeRange& range) { return code >= range.first && code <= range.last; });
 }
 
@@ -81,13 +95,24 @@ std::string printable(std::string_view text, LineEnds ends) {
         const std::string_view letter = text.substr(0, std::max<std::size_t>(length, 1));
         const unsigned code = codePoint(letter);
         const bool isMeant = letter == "\n" && ends == LineEnds::kept;
-        if (!isMeant && (length == 0 || steersScreen(code)))
+        if (!isMeant && (length == 0 || isAmong(code, steering)))
             shown += escaped(code);
         else
             shown += letter;
         text.remove_prefix(letter.size());
     }
     return shown;
+}
+
+std::size_t shownWidth(std::string_view text) {
+    std::size_t width = 0;
+    while (!text.empty()) {
+        const std::string_view letter = text.substr(0, std::max<std::size_t>(letterLength(text), 1));
+        const unsigned code = codePoint(letter);
+        width += isAmong(code, combining) ? 0 : isAmong(code, wide) ? 2 : 1;
+        text.remove_prefix(letter.size());
+    }
+    return width;
 }
 
 std::string cutInMiddle(std::string_view text, std::size_t letters) {

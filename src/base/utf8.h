@@ -23,6 +23,10 @@ enum class LineEnds { escaped, kept };
 /// are no letters) written as "\x1b" or "\u202e".
 std::string printable(std::string_view text, LineEnds ends = LineEnds::escaped);
 
+/// How many places the text takes where all letters are equally wide: none for a mark on a letter, two for an
+/// East Asian one.
+std::size_t shownWidth(std::string_view text);
+
 /// The text with at most so many letters, 3 or more; a longer one has an ellipsis in place of its middle.
 std::string cutInMiddle(std::string_view text, std::size_t letters);
 
