@@ -253,6 +253,7 @@ void restoreBlock(const ScenarioGrid& grid, std::size_t place, SessionState& sta
         else
             writeField(state, cell.field, values[i]);
     }
+    state.settings.ReportSpansChoice = state.settings.ReportSpans;
 }
 
 void RestoreScenario(const ScenarioGrid& grid, std::string_view name, SessionState& state) {

@@ -23,6 +23,7 @@ struct StudySettings {
     int ReportFont = 3;
     PaperSizes ReportPaper = PaperSizes::usLetter;
     Inclusions ReportSpans = Inclusions::include;
+    Inclusions ReportSpansChoice = Inclusions::include;  ///< the user's own, while the study decides
     Inclusions ReportCosts = Inclusions::include;
     int ScenarioNumber = 0;  ///< scenario names handed out so far
     Currency currency;
