@@ -1,0 +1,198 @@
+// Where pages end, and what is drawn on them.
+#include "qt/document_pages.h"
+
+#include <QPainter>
+#include <algorithm>
+#include <cmath>
+#include <iterator>
+
+namespace lorvane {
+
+namespace {
+
+constexpr double partPoints = 14;
+constexpr double footPoints = 9;
+const QColor footColour(0x6B, 0x6B, 0x6B);
+constexpr double hair = 0.01;  ///< twips that count as none
+
+double inTwips(double inches) { return inches * twipsPerInch; }
+
+}  // namespace
+
+DocumentPages::DocumentPages(const PageSetup& page)
+    : setup_(page), fonts_(page.font), y_(inTwips(page.topMargin)) {}
+
+DocumentPages::DocumentPages(const Document& document) : DocumentPages(document.page) {
+    for (const DocumentStep& step : document.steps)
+        send(step);
+}
+
+void DocumentPages::send(const DocumentStep& step) {
+    std::visit([this](const auto& each) { take(each); }, step);
+    ++steps_;
+}
+
+double DocumentPages::Y1() {
+    const bool stays = fits(TextLook{points_}.lineHeight()) || pages_.back().empty();
+    return stays ? y_ / twipsPerInch : setup_.topMargin;
+}
+
+double DocumentPages::heightOf(const DocumentTable& table) { return layoutOf(table).height() / twipsPerInch; }
+
+QSizeF DocumentPages::paper() const {
+    return QSizeF(inTwips(setup_.width), inTwips(setup_.height)) / twipsPerPoint;
+}
+
+DocumentTableLayout DocumentPages::layoutOf(const DocumentTable& table) const {
+    const QSizeF room(inTwips(setup_.textWidth()), inTwips(setup_.height - 2 * setup_.topMargin));
+    return {table, fonts_, points_, room};
+}
+
+bool DocumentPages::fits(double height) const {
+    return y_ + height <= inTwips(setup_.height - setup_.topMargin) + hair;
+}
+
+int DocumentPages::roomFor(const DocumentText& text) const {
+    const double room = inTwips(setup_.height - setup_.topMargin) - y_ + hair;
+    return std::max(0, static_cast<int>(std::floor(room / text.lineHeight())));
+}
+
+// A heading stays whole, and with it two lines of what it heads.
+int DocumentPages::leastLines(const DocumentText& text) const {
+    if (bold_)
+        return text.lines();
+    return waiting_ ? std::min(2, text.lines()) : 1;
+}
+
+void DocumentPages::put(Placed placed, double height) {
+    placed.step = steps_;
+    placed.top = y_;
+    pages_.back().push_back(std::move(placed));
+    y_ += height;
+}
+
+void DocumentPages::take(const step::Paragraph& paragraph) {
+    const TextLook look{.points = points_, .bold = bold_};
+    const auto text =
+        std::make_shared<const DocumentText>(paragraph.text, fonts_, look, inTwips(setup_.textWidth()));
+    for (int from = 0; from < text->lines();) {
+        if (pages_.back().empty())
+            from = text->firstFilled(from);
+        const int least = from == 0 ? leastLines(*text) : 1;
+        int end = text->pageEnd(from, roomFor(*text), least);
+        if (end == from && holdsOnlyHeadings())
+            end = std::min(from + std::max(1, roomFor(*text)), text->lines());
+        if (end > from) {
+            if (bold_)
+                putHeading(text);
+            else
+                waiting_.reset();
+            put({.text = text, .from = from, .end = end}, (end - from) * text->lineHeight());
+        }
+        from = end;
+        if (from < text->lines())
+            beginPage();
+    }
+    belowHeading_ = bold_;
+}
+
+void DocumentPages::putHeading(const std::shared_ptr<const DocumentText>& text) {
+    if (!waiting_)
+        waiting_ = pages_.back().size();
+    const QString line = text->shown().replace(QLatin1Char('\n'), QLatin1Char(' ')).trimmed();
+    headings_.append({line, points_ >= partPoints, pages(), y_ / twipsPerPoint});
+}
+
+void DocumentPages::take(const step::Text& text) {
+    if (pages_.back().empty())
+        return;
+    const auto lines = std::count(text.text.begin(), text.text.end(), '\n');
+    y_ += static_cast<double>(lines) * points_ * twipsPerPoint / (belowHeading_ ? 2 : 1);
+}
+
+void DocumentPages::take(const DocumentTable& table) {
+    const auto layout = std::make_shared<const DocumentTableLayout>(layoutOf(table));
+    if (!fits(layout->height()) && !holdsOnlyHeadings())
+        beginPage();
+    waiting_.reset();
+    if (!fits(layout->height()) && !pages_.back().empty())
+        beginPage();
+    put({.table = layout}, layout->height());
+    belowHeading_ = false;
+}
+
+void DocumentPages::take(const step::NewPage&) {
+    waiting_.reset();
+    if (!pages_.back().empty())
+        beginPage();
+}
+
+// Headings that wait for their text move along.
+void DocumentPages::beginPage() {
+    Page& last = pages_.back();
+    const auto moving = last.begin() + static_cast<std::ptrdiff_t>(waiting_.value_or(last.size()));
+    const double top = inTwips(setup_.topMargin);
+    const double up = (moving == last.end() ? y_ : moving->top) - top;
+    Page next(std::make_move_iterator(moving), std::make_move_iterator(last.end()));
+    last.erase(moving, last.end());
+    for (Placed& placed : next)
+        placed.top -= up;
+    for (auto heading = headings_.end() - static_cast<qsizetype>(next.size()); heading != headings_.end();
+         ++heading) {
+        ++heading->page;
+        heading->top -= up / twipsPerPoint;
+    }
+    y_ -= up;
+    if (waiting_)
+        waiting_ = 0;
+    pages_.push_back(std::move(next));
+}
+
+QPointF DocumentPages::cornerOf(const Placed& placed) const {
+    return {inTwips(setup_.leftMargin), placed.top};
+}
+
+void DocumentPages::paint(QPainter& painter, int page) const {
+    painter.save();
+    painter.scale(1 / twipsPerPoint, 1 / twipsPerPoint);
+    painter.setRenderHint(QPainter::Antialiasing, false);
+    for (const Placed& placed : pages_[static_cast<std::size_t>(page - 1)]) {
+        painter.setPen(Qt::black);
+        if (placed.text)
+            placed.text->paint(painter, cornerOf(placed), placed.from, placed.end);
+        else
+            placed.table->paint(painter, cornerOf(placed));
+    }
+    paintFoot(painter, page);
+    painter.restore();
+}
+
+void DocumentPages::paintFoot(QPainter& painter, int page) const {
+    const TextLook look{.points = footPoints, .side = Qt::AlignHCenter};
+    const std::string words = "Page " + std::to_string(page) + " of " + std::to_string(pages_.size());
+    const DocumentText text(words, fonts_, look, inTwips(setup_.textWidth()));
+    const double top = inTwips(setup_.height - setup_.topMargin / 2) - text.height() / 2;
+    painter.setPen(footColour);
+    text.paint(painter, {inTwips(setup_.leftMargin), top}, 0, text.lines());
+}
+
+QList<DocumentPages::Spot> DocumentPages::spotsOf(const TextPlace& place) const {
+    QList<Spot> found;
+    for (std::size_t page = 0; page < pages_.size(); ++page) {
+        for (const Placed& placed : pages_[page]) {
+            if (placed.step != place.step)
+                continue;
+            const auto spots = placed.text
+                                   ? placed.text->spots(place.from, place.length, placed.from, placed.end)
+                                   : placed.table->spots(place);
+            for (const QRectF& spot : spots) {
+                const QRectF there = spot.translated(cornerOf(placed));
+                found.append({static_cast<int>(page) + 1,
+                              QRectF(there.topLeft() / twipsPerPoint, there.size() / twipsPerPoint)});
+            }
+        }
+    }
+    return found;
+}
+
+}  // namespace lorvane
