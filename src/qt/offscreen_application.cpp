@@ -16,6 +16,8 @@ void onlyFatal(QtMsgType type, const QMessageLogContext&, const QString& text) {
         std::fprintf(stderr, "%s\n", text.toLocal8Bit().constData());
 }
 
+constexpr const char* withoutWindows = "lorvane without windows";
+
 }  // namespace
 
 OffscreenApplication::OffscreenApplication() = default;
@@ -34,7 +36,13 @@ void OffscreenApplication::ensure() {
     const QtMessageHandler before = qInstallMessageHandler(onlyFatal);
     own_ = std::make_unique<QApplication>(count, arguments);
     qInstallMessageHandler(before);
+    own_->setProperty(withoutWindows, true);
     std::setlocale(LC_ALL, locale.c_str());
+}
+
+bool OffscreenApplication::hasWindows() {
+    const QCoreApplication* const application = QCoreApplication::instance();
+    return application != nullptr && !application->property(withoutWindows).toBool();
 }
 
 }  // namespace lorvane

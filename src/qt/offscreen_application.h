@@ -15,6 +15,9 @@ public:
     /// Makes an application that needs no display, unless the program has one. The locale stays as it is.
     void ensure();
 
+    /// Whether the program has an application that was not made here, and so may show windows.
+    static bool hasWindows();
+
 private:
     std::unique_ptr<QApplication> own_;
 };

@@ -1,0 +1,14 @@
+// Bookmarks in a PDF file: the headings of a document, for the side bar of whoever reads it.
+#pragma once
+
+#include <string>
+
+#include "qt/document_pages.h"
+
+namespace lorvane {
+
+/// The bytes of a file of these pages with a bookmark for every heading, sections below their part. It opens
+/// with the bookmarks shown. A file that cannot be read throws std::runtime_error.
+std::string withBookmarks(const std::string& pdf, const DocumentPages& pages);
+
+}  // namespace lorvane

@@ -1,0 +1,78 @@
+// The dialog of printers, and what goes to the printer.
+#include "qt/document_printing.h"
+
+#include <QApplication>
+#include <QPageSize>
+#include <QPainter>
+#include <QPrintDialog>
+#include <QPrinter>
+#include <algorithm>
+#include <stdexcept>
+
+namespace lorvane {
+
+namespace {
+
+constexpr double pointsPerInch = 72;
+constexpr const char* failed = "The document could not be printed.";
+
+void setUp(QPrinter& printer, const DocumentPages& pages, const PageSetup& setup) {
+    printer.setFullPage(true);
+    printer.setPageSize(QPageSize(pages.paper(), QPageSize::Point));
+    printer.setDocName(QString::fromStdString(setup.title));
+    printer.setCreator(QStringLiteral("Lorvane"));
+}
+
+bool isChosen(QPrinter& printer, int pages, std::optional<int> page) {
+    QPrintDialog dialog(&printer, QApplication::activeWindow());
+    dialog.setOption(QAbstractPrintDialog::PrintPageRange);
+    dialog.setMinMax(1, pages);
+    if (page) {
+        dialog.setPrintRange(QAbstractPrintDialog::PageRange);
+        dialog.setFromTo(*page, *page);
+    }
+    return dialog.exec() == QDialog::Accepted;
+}
+
+// In the order in which they come out of the printer, as often as it cannot repeat them itself.
+QList<int> pagesFor(const QPrinter& printer, int pages) {
+    const bool some = printer.printRange() == QPrinter::PageRange && printer.fromPage() > 0;
+    const int from = some ? printer.fromPage() : 1;
+    const int to = some ? std::min(printer.toPage(), pages) : pages;
+    QList<int> one;
+    for (int page = from; page <= to; ++page)
+        one << page;
+    if (printer.pageOrder() == QPrinter::LastPageFirst)
+        std::reverse(one.begin(), one.end());
+    QList<int> all;
+    const int copies = printer.supportsMultipleCopies() ? 1 : printer.copyCount();
+    for (int copy = 0; copy < copies; ++copy)
+        all << one;
+    return all;
+}
+
+}  // namespace
+
+bool printPages(DocumentPages& pages, const PageSetup& setup, std::optional<int> page) {
+    QPrinter printer(QPrinter::HighResolution);
+    setUp(printer, pages, setup);
+    if (!isChosen(printer, pages.pages(), page))
+        return false;
+    printer.setFullPage(true);
+    QPainter painter;
+    if (!painter.begin(&printer))
+        throw std::runtime_error(failed);
+    painter.scale(printer.resolution() / pointsPerInch, printer.resolution() / pointsPerInch);
+    bool isFirst = true;
+    for (const int each : pagesFor(printer, pages.pages())) {
+        if (!isFirst && !printer.newPage())
+            throw std::runtime_error(failed);
+        pages.paint(painter, each);
+        isFirst = false;
+    }
+    if (!painter.end() || printer.printerState() == QPrinter::Error)
+        throw std::runtime_error(failed);
+    return true;
+}
+
+}  // namespace lorvane
