@@ -26,8 +26,10 @@ Application::Application(const Platform& platform)
               platform.clipboard == nullptr ? noClipboard_ : *platform.clipboard, platform.chart,
               platform.sheets, platform.shell},
              platform.progress == nullptr ? noProgress_ : *platform.progress, platform.hourglass),
+      report_(design_, {platform.dialogs, platform.files,
+                        platform.clipboard == nullptr ? noClipboard_ : *platform.clipboard, platform.press}),
       commands_(commandRows({session_, design_, dialogs_, details_, mdesWindow_, optimalWindow_,
-                             scenarioWindow_, studyFiles_, startScreen_, graph_,
+                             scenarioWindow_, studyFiles_, startScreen_, graph_, report_,
                              platform.clipboard == nullptr ? noClipboard_ : *platform.clipboard}),
                 bandRows()) {
     session_.follow([this](const Changed& changed) { follow(changed); });

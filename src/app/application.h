@@ -22,6 +22,7 @@
 #include "platform/clock.h"
 #include "platform/control_registry.h"
 #include "platform/distribution_library.h"
+#include "platform/document.h"
 #include "platform/event_registry.h"
 #include "platform/file_dialogs.h"
 #include "platform/file_store.h"
@@ -33,6 +34,7 @@
 #include "platform/shell.h"
 #include "platform/system_locale.h"
 #include "platform/unsaved_store.h"
+#include "reporting/report_screen.h"
 #include "screen/command_book.h"
 #include "screen/design.h"
 #include "screen/small_dialogs.h"
@@ -61,6 +63,7 @@ struct Platform {
     Chart* chart = nullptr;           ///< none: graphs cannot be saved as pictures
     SheetWriter* sheets = nullptr;    ///< none: tables cannot be saved
     Shell* shell = nullptr;           ///< none: nothing is opened after it was saved
+    DocumentPress* press = nullptr;   ///< none: reports have no pages
 };
 
 class Application {
@@ -131,6 +134,7 @@ public:
     const Details& details() const noexcept { return details_; }
     const MdesWindow& mdesWindow() const noexcept { return mdesWindow_; }
     const GraphScreen& graph() const noexcept { return graph_; }
+    const ReportScreen& report() const noexcept { return report_; }
 
     const ControlRegistry& names() const noexcept { return names_; }
     std::vector<ScenarioLine> scenarios() const { return scenarioLines(session_.scenarios()); }
@@ -160,10 +164,11 @@ private:
     StartScreen startScreen_;
     OptimalWindow optimalWindow_;
     GraphScreen graph_;
+    ReportScreen report_;
 
     /// In the order in which they hear of a change.
     std::vector<Part*> parts_ = {&dialogs_,        &mdesWindow_,  &optimalWindow_, &details_,
-                                 &scenarioWindow_, &startScreen_, &graph_};
+                                 &scenarioWindow_, &startScreen_, &graph_,         &report_};
     CommandBook commands_;
     ControlRegistry names_;
     EventRegistry events_;

@@ -6,6 +6,7 @@
 
 #include "app/command_table.h"
 #include "app/graph_rows.h"
+#include "app/report_rows.h"
 #include "base/money.h"
 #include "base/number_text.h"
 #include "base/utf8.h"
@@ -378,7 +379,6 @@ const CommandRow commandTable[] = {
      open<frmMDES>,
      isOpen<frmMDES>,
      {Sign::mdes, true}},
-    {"gfrmPrint", "&Report", "Make a report", window, nullptr, isOpen<frmPrint>, {Sign::report, true}},
     {"Graph",
      "&Graph",
      "Draw power and cost as a graph",
@@ -736,7 +736,7 @@ std::vector<MenuRow> menuTable() {
           "Level of detail - None", "Level of detail - Moderate", "Level of detail - Full", "-",
           "PDF Low cell counts", "-", "Allow low cell counts", "Do not allow low cell counts"}},
         {"popScenarios", "&Scenarios", menu, {"gfrmScenarios", "Add scenario", "Restore scenario"}},
-        {"popReport", "Re&port", menu, {"gfrmPrint"}},
+        {"popReport", "Re&port", menu, joined({"gfrmPrint", "Copy paragraph"}, reportSettingKeys())},
         {"popViewForms",
          "For&ms",
          menu,
@@ -825,6 +825,7 @@ std::vector<Command> commandRows(const Program& program) {
     std::vector<Command> commands;
     addCommands(commands, program, commandTable);
     addGraphCommands(commands, program);
+    addReportCommands(commands, program);
     addChoices(commands, program);
     addLevelCommands(commands, program);
     addDecimals(commands, program);
@@ -841,8 +842,8 @@ std::vector<Band> bandRows() {
     std::vector<Band> bands;
     for (const MenuRow& row : rows)
         bands.push_back(bandOf(row));
-    for (Band& band : graphBands())
-        bands.push_back(std::move(band));
+    for (const auto& bandsOfScreen : {graphBands(), reportBands()})
+        bands.insert(bands.end(), bandsOfScreen.begin(), bandsOfScreen.end());
     return bands;
 }
 

@@ -7,6 +7,7 @@
 #include "persistence/start_screen.h"
 #include "persistence/study_files.h"
 #include "platform/clipboard.h"
+#include "reporting/report_screen.h"
 #include "screen/design.h"
 #include "screen/small_dialogs.h"
 #include "search/mdes_window.h"
@@ -26,6 +27,7 @@ struct Program {
     StudyFiles& files;
     StartScreen& start;
     GraphScreen& graph;
+    ReportScreen& report;
     Clipboard& clipboard;
 };
 

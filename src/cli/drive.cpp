@@ -12,6 +12,7 @@
 #include "base/names.h"
 #include "base/number_text.h"
 #include "cli/chart_json.h"
+#include "cli/document_json.h"
 #include "cli/json_text.h"
 #include "cli/script_words.h"
 #include "platform/failure_words.h"
@@ -275,6 +276,8 @@ Json chart(Session& session, ScriptWords&) {
     return chartJson(graph.chart(), graph.axis());
 }
 
+Json document(Session& session, ScriptWords&) { return documentJson(session.application.report().document()); }
+
 Json valueOf(double value) { return {{"value", value}}; }
 
 Json dist(Session& session, ScriptWords& words) {
@@ -319,7 +322,7 @@ constexpr Command commands[] = {
     {"state", state},        {"tool", tool},         {"spin", spin},   {"click", click},
     {"type", type},          {"select", select},     {"close", close}, {"file", queueFile},
     {"answer", queueAnswer}, {"messages", messages}, {"grid", grid},   {"chart", chart},
-    {"save", save},          {"open", open},         {"dist", dist}};
+    {"document", document},  {"save", save},         {"open", open},   {"dist", dist}};
 
 Json run(Session& session, std::string_view line) {
     ScriptWords words(line);

@@ -13,12 +13,14 @@
 #include "cli/graph_command.h"
 #include "cli/mdes_command.h"
 #include "cli/optimal_command.h"
+#include "cli/report_command.h"
 #include "numerics/numeric_distribution_library.h"
 #include "os/disk_file_store.h"
 #include "os/environment_locale.h"
 #include "os/program_folder.h"
 #include "platform/failure_words.h"
 #include "qt/qt_chart.h"
+#include "qt/qt_document_press.h"
 #include "sheets/sheet_files.h"
 
 namespace {
@@ -32,6 +34,7 @@ struct Requests {
     OptimalRequest optimal;
     MdesRequest mdes;
     GraphCommandRequest graph;
+    ReportRequest report;
     std::string driven;
 };
 
@@ -109,6 +112,18 @@ void addGraph(CLI::App& cli, GraphCommandRequest& request) {
         "Example:\n  lorvane-cli graph schools.Lorvane --x \"Number of Level 3\" --out schools.png");
 }
 
+void addReport(CLI::App& cli, ReportRequest& request) {
+    CLI::App* command = cli.add_subcommand("report", "The study in sentences and tables, as a document");
+    command->add_option("STUDY", request.study, "Study file")->required();
+    addSettings(command, request.settings);
+    command->add_flag("--checklist", request.checklist,
+                      "Add what a paper on a cluster trial has to tell of its sample size");
+    command->add_option("--out", request.out, "Document to write: .pdf, .rtf or .txt")
+        ->required()
+        ->type_name("FILE");
+    command->footer("Example:\n  lorvane-cli report schools.Lorvane --out schools.pdf");
+}
+
 void addNew(CLI::App& cli, NewRequest& request) {
     CLI::App* command = cli.add_subcommand("new", "A study file from the start values");
     command->add_option("--out", request.out, "Study file to write")->required()->type_name("STUDY");
@@ -137,9 +152,11 @@ int runDrive(const std::string& study, DistributionLibrary& distributions, const
     MemorySettings settings;
     QtChart chart;
     SheetFiles sheets;
+    QtDocumentPress press;
     Platform platform{distributions, locale, files, messages, messages, settings, programFolder()};
     platform.chart = &chart;
     platform.sheets = &sheets;
+    platform.press = &press;
     Application application(platform);
     if (study.empty())
         application.start("");
@@ -170,6 +187,10 @@ int runChosen(const CLI::App& cli, const Requests& requests) {
         QtChart chart;
         SheetFiles sheets;
         return makeGraph(requests.graph, {files, chart, sheets}, line);
+    }
+    if (cli.got_subcommand("report")) {
+        QtDocumentPress press;
+        return writeReport(requests.report, files, press, line);
     }
     if (cli.got_subcommand("new"))
         return makeNew(requests.fresh, line);
@@ -204,6 +225,7 @@ int run(int argc, char** argv) {
     addOptimal(cli, requests.optimal);
     addMdes(cli, requests.mdes);
     addGraph(cli, requests.graph);
+    addReport(cli, requests.report);
     addNew(cli, requests.fresh);
     addScenarios(cli, requests.scenarios);
     addDrive(cli, requests.driven);

@@ -17,6 +17,7 @@
 #include "os/unsaved_folder.h"
 #include "platform/failure_words.h"
 #include "qt/qt_chart.h"
+#include "qt/qt_document_press.h"
 #include "qt/qt_clipboard.h"
 #include "qt/qt_file_dialogs.h"
 #include "qt/qt_hourglass.h"
@@ -48,10 +49,11 @@ int run(desktop::DeskApplication& qt, const QString& file) {
     QtClipboard clipboard;
     QtHourglass hourglass;
     QtChart chart;
+    QtDocumentPress press;
     SheetFiles sheets;
     QtShell shell;
     Application application({distributions, locale, files, messages, dialogs, settings, programFolder(),
-                             &unsaved, &progress, &clipboard, nullptr, &hourglass, &chart, &sheets, &shell});
+                             &unsaved, &progress, &clipboard, nullptr, &hourglass, &chart, &sheets, &shell, &press});
     desktop::Desk desk(application, messages);
     desktop::MainWindow window(desk);
     desktop::Panels panels(desk, window);

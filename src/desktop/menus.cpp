@@ -53,7 +53,12 @@ constexpr SignIcon signIcons[] = {{Sign::open, Icon::Open},
                                   {Sign::right, Icon::ChevronRight},
                                   {Sign::up, Icon::ChevronUp},
                                   {Sign::down, Icon::ChevronDown},
-                                  {Sign::close, Icon::Close}};
+                                  {Sign::close, Icon::Close},
+                                  {Sign::print, Icon::Print},
+                                  {Sign::first, Icon::First},
+                                  {Sign::last, Icon::Last},
+                                  {Sign::pageWidth, Icon::Width},
+                                  {Sign::fitPage, Icon::Fit}};
 
 std::optional<Icon> drawingOf(Sign sign) {
     for (const SignIcon& row : signIcons) {

@@ -6,7 +6,8 @@
 
 namespace lorvane {
 
-enum class ToolCategory { command, choice, increment, window, file, help };
+/// What a tool is: display ones show their caption and cannot be pressed.
+enum class ToolCategory { command, choice, increment, window, file, help, display };
 
 /// The sign that a command carries; a view draws it.
 enum class Sign {
@@ -40,7 +41,12 @@ enum class Sign {
     right,
     up,
     down,
-    close
+    close,
+    print,
+    first,
+    last,
+    pageWidth,
+    fitPage
 };
 
 /// One command as it stands. It may stand in several bands.

@@ -11,7 +11,8 @@ namespace lorvane {
 
 namespace {
 
-constexpr std::string_view graphScreen = "xPlot.";
+// Screens with commands of their own.
+constexpr std::string_view screens[] = {"xPlot.", "frmPrint."};
 
 }  // namespace
 
@@ -42,8 +43,13 @@ void CommandBook::check() const {
 std::unordered_map<std::string_view, std::size_t>::const_iterator
 CommandBook::place(std::string_view key) const {
     const auto found = byKey_.find(key);
-    const bool isLong = found == byKey_.end() && key.starts_with(graphScreen);
-    return isLong ? byKey_.find(key.substr(graphScreen.size())) : found;
+    if (found != byKey_.end())
+        return found;
+    for (const std::string_view screen : screens) {
+        if (key.starts_with(screen))
+            return byKey_.find(key.substr(screen.size()));
+    }
+    return found;
 }
 
 bool CommandBook::run(std::string_view key) const {

@@ -37,16 +37,17 @@ bool isOfDisplay(const std::string& name) {
                             "pnlCostOuter", "pnlAI", "frmDisplayTauSq.lblOmega", "frmDisplayTauSq.pnlOmega"});
 }
 
-// What a graph leaves on its screen is nothing of the study.
-bool isOfGraph(const std::string& name) {
+// What a graph or a report leaves on its screen is nothing of the study.
+bool isOfOtherScreen(const std::string& name) {
     static const std::vector<Band> bands = bandRows();
     if (!name.starts_with("tool:"))
-        return startsWithOneOf(name, {"XVar", "LVar", "XRow", "LRow", "NumLines", "Graph", "CostScale",
-                                      "ColorSet", "CurrentPoint", "DisplayOn", "DetailsCorner", "xPlot",
-                                      "frmTable", "frmXVar", "frmLVar", "XRangeTable", "LValueTable"});
+        return startsWithOneOf(name,
+                               {"XVar", "LVar", "XRow", "LRow", "NumLines", "Graph", "CostScale", "ColorSet",
+                                "CurrentPoint", "DisplayOn", "DetailsCorner", "xPlot", "frmTable", "frmXVar",
+                                "frmLVar", "XRangeTable", "LValueTable", "frmPrint"});
     const std::string tool = name.substr(5, name.rfind('.') - 5);
     return tool == "gxPlot" || std::any_of(bands.begin(), bands.end(), [&](const Band& band) {
-               return band.screen == "xPlot" &&
+               return !band.screen.empty() &&
                       std::any_of(band.entries.begin(), band.entries.end(),
                                   [&](const BandEntry& entry) { return entry.name == tool; });
            });
@@ -93,7 +94,7 @@ protected:
             const std::string flag = name.substr(0, name.rfind('.')) + ".Visible";
             const auto found = std::find(all.begin(), all.end(), flag);
             const std::string& shows = found == all.end() ? name : *found;
-            names_.push_back({isOfSession(name) || isOfGraph(name), isOfDisplay(name),
+            names_.push_back({isOfSession(name) || isOfOtherScreen(name), isOfDisplay(name),
                               name.starts_with("frmCounts"), static_cast<std::size_t>(&shows - all.data())});
         }
     }
