@@ -16,7 +16,7 @@ constexpr double padding = 3 * twipsPerPoint;
 constexpr double fullPadding = 9.5;  ///< the size of letters that have all of it
 constexpr double lineWidth = 0.75 * twipsPerPoint;
 constexpr double shrinking = 0.9;
-constexpr double smallestShare = 0.65;  ///< of the letters of a cell beside the table's
+constexpr double smallerShares[] = {0.9, 0.8, 0.72, 0.65};  ///< of the letters of a cell beside the table's
 constexpr double fewestPoints = 1;
 const QColor lineColour(0x8C, 0x8C, 0x8C);
 
@@ -66,12 +66,12 @@ private:
     double line_;
 };
 
-// Letters get smaller, down to a limit, where that keeps a word or a number whole.
+// Letters get smaller where that keeps a word or a number whole.
 DocumentText textIn(const std::string& text, const DocumentFonts& fonts, const TextLook& look, double width) {
     DocumentText asTold(text, fonts, look, width);
     if (!asTold.breaksWord())
         return asTold;
-    for (double share = shrinking; share >= smallestShare; share *= shrinking) {
+    for (const double share : smallerShares) {
         TextLook smaller = look;
         smaller.points *= share;
         DocumentText tried(text, fonts, smaller, width);

@@ -163,7 +163,7 @@ TEST_F(Pages, HoldAnyNameInsideMarginsAndColumns) {
     for (const std::string& name : names) {
         SampleDocument made;
         made.add(step::Paragraph{name}, sampleTable(name));
-        made.section(name, name + " " + name);
+        made.section(name, std::string(name).append(" ").append(name));
         const DocumentPages pages(made.document);
         const QImage image = pictureOf(pages, 1);
         const QRectF paper(QPointF(), pages.paper());
