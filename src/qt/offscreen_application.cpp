@@ -2,6 +2,8 @@
 #include "qt/offscreen_application.h"
 
 #include <QApplication>
+#include <algorithm>
+#include <array>
 #include <clocale>
 #include <cstdio>
 #include <string>
@@ -30,8 +32,11 @@ void OffscreenApplication::ensure() {
     static char name[] = "lorvane";
     static char option[] = "-platform";
     static char platform[] = "offscreen";
-    static char* arguments[] = {name, option, platform, nullptr};
-    static int count = 3;
+    // Qt takes its options out of what it is given, and one application may follow another.
+    static char* arguments[4];
+    static int count;
+    std::copy_n(std::array{name, option, platform, static_cast<char*>(nullptr)}.begin(), 4, arguments);
+    count = 3;
     const std::string locale = std::setlocale(LC_ALL, nullptr);
     const QtMessageHandler before = qInstallMessageHandler(onlyFatal);
     own_ = std::make_unique<QApplication>(count, arguments);
