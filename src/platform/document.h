@@ -58,6 +58,12 @@ struct EndDoc {};
 
 }  // namespace step
 
+/// A heading of this size or more heads a part of the document; the others head sections of a part.
+inline constexpr double partPoints = 14;
+
+/// Points between a table and a text that follows it without an empty line.
+inline constexpr double noteGap = 4;
+
 using DocumentStep = std::variant<step::FontSize, step::FontBold, step::Paragraph, step::Text, DocumentTable,
                                   step::NewPage, step::EndDoc>;
 

@@ -10,7 +10,6 @@ namespace lorvane {
 
 namespace {
 
-constexpr double partPoints = 14;
 constexpr double footPoints = 9;
 const QColor footColour(0x6B, 0x6B, 0x6B);
 constexpr double hair = 0.01;  ///< twips that count as none
@@ -72,6 +71,9 @@ void DocumentPages::put(Placed placed, double height) {
 }
 
 void DocumentPages::take(const step::Paragraph& paragraph) {
+    if (belowTable_)
+        y_ += noteGap * twipsPerPoint;
+    belowTable_ = false;
     const TextLook look{.points = points_, .bold = bold_};
     const auto text =
         std::make_shared<const DocumentText>(paragraph.text, fonts_, look, inTwips(setup_.textWidth()));
@@ -104,6 +106,7 @@ void DocumentPages::putHeading(const std::shared_ptr<const DocumentText>& text) 
 }
 
 void DocumentPages::take(const step::Text& text) {
+    belowTable_ = false;
     if (pages_.back().empty())
         return;
     const auto lines = std::count(text.text.begin(), text.text.end(), '\n');
@@ -119,10 +122,12 @@ void DocumentPages::take(const DocumentTable& table) {
         beginPage();
     put({.table = layout}, layout->height());
     belowHeading_ = false;
+    belowTable_ = true;
 }
 
 void DocumentPages::take(const step::NewPage&) {
     waiting_.reset();
+    belowTable_ = false;
     if (!pages_.back().empty())
         beginPage();
 }

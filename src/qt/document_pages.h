@@ -89,6 +89,7 @@ private:
     DocumentFonts fonts_;
     double points_ = 11;
     bool bold_ = false;
+    bool belowTable_ = false;
     bool belowHeading_ = false;
     double y_;  ///< where the next line begins
     std::size_t steps_ = 0;

@@ -11,8 +11,6 @@ namespace lorvane {
 
 namespace {
 
-constexpr double partPoints = 14;
-
 std::string shown(const std::string& text) { return printable(text, LineEnds::kept); }
 
 class Walk {
@@ -51,6 +49,10 @@ private:
     }
 
     void add(BlockKinds kind) {
+        const bool isNote = kind == BlockKinds::text && !blocks.empty() && next.above == 0 &&
+                            blocks.back().kind == BlockKinds::table;
+        if (isNote)
+            next.above = noteGap;
         next.kind = kind;
         blocks.push_back(next);
         next = {.points = next.points, .bold = next.bold};

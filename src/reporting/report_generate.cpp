@@ -12,7 +12,6 @@ namespace {
 
 constexpr const char* executiveSummary = "Executive summary";
 constexpr const char* detailedReport = "Detailed report";
-constexpr double partSize = 14;
 constexpr double headingSize = 12;
 constexpr double textSize = 11;
 constexpr double gapSize = 8;      // of the line below a heading
@@ -46,7 +45,7 @@ private:
 void Writer::DoPrint(const std::string& heading, const std::string& text) {
     if (!heading.empty()) {
         const bool isPart = heading == executiveSummary || heading == detailedReport;
-        send(step::FontSize{isPart ? partSize : headingSize});
+        send(step::FontSize{isPart ? partPoints : headingSize});
         send(step::FontBold{true});
         send(step::Paragraph{heading});
         send(step::FontSize{gapSize});

@@ -276,6 +276,7 @@ ReportTable ReportCountsTable(const ReportFacts& facts, const PageSetup& page) {
     TableDraft draft(Counts::count, twoHeads, std::size(arms));
     draft.head(1, Counts::group, "Group and sample size", reportYellow, {2, 1});
     draft.head(2, Counts::group, "Group", reportYellow);
+    draft.cell(2, Counts::group).side = TextSides::left;
     draft.head(2, Counts::size, "N", reportYellow);
     headOfOutcomes(draft, Counts::proportions, "Expected proportions", reportBlue);
     headOfOutcomes(draft, Counts::expected, "Expected counts at\nmean risk and effect", reportGreen);
