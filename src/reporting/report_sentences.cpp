@@ -46,12 +46,13 @@ void appendSentences(std::string& text, std::span<const Sentence> sentences, con
 std::string textOf(const std::vector<Block>& blocks, const ReportFacts& facts) {
     std::string text;
     for (const Block& block : blocks) {
-        bool isFirst = true;
+        const std::size_t start = text.size();
         for (const int level : levelsOf(block.levels, facts.study())) {
-            if (!isFirst)
+            std::string told;
+            appendSentences(told, block.sentences, facts, level);
+            if (!told.empty() && text.size() > start)
                 text += block.between;
-            isFirst = false;
-            appendSentences(text, block.sentences, facts, level);
+            text += told;
         }
     }
     return text;
