@@ -6,9 +6,6 @@ namespace lorvane {
 using namespace cases;
 
 const ReportSection& checklistSection() {
-    static const std::vector<Sentence> unitsInCluster = {
-        {blocked, "{NB} {level} in each of the {above}"},
-        {notBlocked, "{NT} {level} ({treated}) and {NC} {level} ({control}) in each of the {above}"}};
     static const std::vector<Block> text = {
         {Levels::none,
          "",
@@ -47,7 +44,9 @@ const ReportSection& checklistSection() {
           {unequalSizes, "; the two groups differ as told here."},
           {always, " The program does not know how much the sizes will vary. Sizes that vary lower the "
                    "power.\nCluster size: "}}},
-        {Levels::lowestOne, "", unitsInCluster},
+        {Levels::lowestOne,
+         "",
+         {{always, "{NT} {level} ({treated}) and {NC} {level} ({control}) in each of the {above}"}}},
         {Levels::none,
          "",
          {{always, ".\nIntraclass correlation (ICC): {ICCs} for {clusters}"},
