@@ -81,7 +81,9 @@ public:
     const Panel& pnlStatus() const noexcept { return pnlStatus_; }
     const TextBox& txtFind() const noexcept { return txtFind_; }
     const Panel& pnlFound() const noexcept { return pnlFound_; }
+    static constexpr const char* title = "Report";
     static constexpr const char* findWords = "Find in the report";
+    static constexpr const char* endFindWords = "End the search (Esc)";
 
 private:
     bool passesChecks(EffectQuestion question);
