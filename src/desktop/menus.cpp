@@ -9,6 +9,7 @@
 
 #include "desktop/kit/icons.h"
 #include "desktop/kit/menu_button.h"
+#include "desktop/kit/stressed_label.h"
 #include "desktop/kit/tool_button.h"
 #include "screen/command_book.h"
 
@@ -18,6 +19,7 @@ namespace {
 
 constexpr const char* powerTool = "Set power";
 constexpr const char* powerBand = "popSetPower";
+constexpr int labelMargin = 10;
 
 struct SignIcon {
     Sign sign;
@@ -136,6 +138,8 @@ void Menus::sync() {
         sync(action, *desk_.application().commands().find(name));
     if (power_ != nullptr)
         power_->setText(shownText(desk_.application().commands().find(powerTool)->Caption));
+    for (const auto& [name, label] : labels_)
+        label->setText(shownText(desk_.application().commands().find(name)->Caption));
 }
 
 void Menus::addEntries(QMenu* menu, const Band& band) {
@@ -144,7 +148,7 @@ void Menus::addEntries(QMenu* menu, const Band& band) {
             menu->addSeparator();
         else if (entry.kind == BandEntry::Kind::band)
             menu->addMenu(this->menu(entry.name));
-        else
+        else if (desk_.application().commands().find(entry.name)->Category != ToolCategory::display)
             menu->addAction(action(entry.name));
     }
 }
@@ -193,17 +197,39 @@ void Menus::addMenuButton(QToolBar* bar, const std::string& name) {
     bar->addWidget(button);
 }
 
-void Menus::addButton(QToolBar* bar, const std::string& tool) {
+ToolButton* Menus::button(const std::string& tool, QWidget* parent) {
     const bool withWord = desk_.application().commands().find(tool)->withWord;
-    QAction* action = this->action(tool);
     auto* button =
-        new ToolButton(action, withWord ? ToolButton::Words::Beside : ToolButton::Words::None, bar);
+        new ToolButton(action(tool), withWord ? ToolButton::Words::Beside : ToolButton::Words::None, parent);
     button->setFocusPolicy(Qt::TabFocus);
-    if (withWord)
+    return button;
+}
+
+void Menus::addButton(QToolBar* bar, const std::string& tool) {
+    ToolButton* button = this->button(tool, bar);
+    if (desk_.application().commands().find(tool)->withWord)
         words_.push_back(button);
+    QAction* action = this->action(tool);
     QAction* place = bar->addWidget(button);
     place->setVisible(action->isVisible());
     connect(action, &QAction::changed, place, [place, action] { place->setVisible(action->isVisible()); });
+}
+
+void Menus::addLabel(QToolBar* bar, const std::string& tool) {
+    auto* label = new StressedLabel(bar);
+    label->setContentsMargins(labelMargin, 0, labelMargin, 0);
+    label->setText(shownText(desk_.application().commands().find(tool)->Caption));
+    labels_.emplace(tool, label);
+    bar->addWidget(label);
+}
+
+void Menus::addTool(QToolBar* bar, const std::string& tool) {
+    if (tool == powerTool)
+        addPowerButton(bar);
+    else if (desk_.application().commands().find(tool)->Category == ToolCategory::display)
+        addLabel(bar, tool);
+    else
+        addButton(bar, tool);
 }
 
 const Band& Menus::toolBar() const {
@@ -227,10 +253,8 @@ void Menus::fill(QToolBar* bar) {
             addStretch(bar);
         else if (entry.kind == BandEntry::Kind::band)
             addMenuButton(bar, entry.name);
-        else if (entry.name == powerTool)
-            addPowerButton(bar);
         else
-            addButton(bar, entry.name);
+            addTool(bar, entry.name);
     }
     addSpace(bar);
 }

@@ -17,6 +17,7 @@ class QToolBar;
 namespace lorvane::desktop {
 
 class MenuButton;
+class StressedLabel;
 class ToolButton;
 
 /// One action a command, however often it stands in menus and bars. The window owns them all.
@@ -39,6 +40,10 @@ public:
     /// The menu of a band, made once.
     QMenu* menu(const std::string& band);
 
+    /// The action of a tool, made once, and a button for it, which the parent owns.
+    QAction* action(const std::string& tool);
+    ToolButton* button(const std::string& tool, QWidget* parent);
+
     /// Leaves the words of the tool bar out where the window is narrow.
     void setWordsShown(bool shown);
 
@@ -46,13 +51,14 @@ public:
     void sync();
 
 private:
-    QAction* action(const std::string& tool);
     void sync(QAction* action, const Tool& tool);
     void addEntries(QMenu* menu, const Band& band);
     void addPowerButton(QToolBar* bar);
     const Band& toolBar() const;
     void addMenuButton(QToolBar* bar, const std::string& band);
     void addButton(QToolBar* bar, const std::string& tool);
+    void addLabel(QToolBar* bar, const std::string& tool);
+    void addTool(QToolBar* bar, const std::string& tool);
 
     Desk& desk_;
     QWidget* window_;
@@ -61,6 +67,7 @@ private:
     std::map<std::string, QMenu*> menus_;
     MenuButton* power_ = nullptr;
     std::vector<ToolButton*> words_;
+    std::map<std::string, StressedLabel*> labels_;
 };
 
 }  // namespace lorvane::desktop
