@@ -118,9 +118,11 @@ std::string GetInsertTauSq(const Study& s, int level, TauSqColumn column) {
     const TauSqRow row = tauSqRow(s, level);
     if (column == Level || column == LevelC)
         return levelName(s, level);
-    if (!row.hasLimits)
-        return "";
     const int decimals = effectDecimals(s);
+    const bool isLimit = column == LLW || column == ULW || column == ExampleW || column == LLC ||
+                         column == ULC || column == ExampleC;
+    if (isLimit && !row.hasLimits)
+        return "";
     switch (column) {
     case TauSqW:
         return fixedText(row.tauSquared, tauSqDecimals);

@@ -33,7 +33,7 @@ std::string riskText(const Study& study, double risk);
 /// where it is asked for; those of risks are in percentage points.
 std::string GetInsertICC(const Study& study, int level, IccColumn column, bool spanUnits);
 
-/// One cell of the table of effects. A risk ratio and two risks have no limits, and nothing of them is told.
+/// One cell of the table of effects. A risk ratio and two risks have no limits.
 std::string GetInsertTauSq(const Study& study, int level, TauSqColumn column);
 
 /// The effect that the dispersion of effects lies about, in the study's own metric.

@@ -2,6 +2,7 @@
 #include "reporting/report_files.h"
 
 #include <stdexcept>
+#include <utility>
 
 #include "base/utf8.h"
 #include "reporting/document_html.h"
@@ -11,10 +12,23 @@
 
 namespace lorvane {
 
+void ReportFiles::keepPanelsAway() {
+    if (design_.isOpen(WindowId::frmPrint))
+        design_.SuspendForms(FormSet::main);
+}
+
+Answer ReportFiles::ask(std::string title, std::string text, std::vector<MessageButton> buttons,
+                        std::optional<Answer> preset) {
+    const Answer answer = design_.ask(std::move(title), std::move(text), std::move(buttons), preset);
+    keepPanelsAway();
+    return answer;
+}
+
 std::optional<std::string> ReportFiles::choose(const FileDialog& dialog) {
     design_.SuspendForms(FormSet::main);
     auto path = outside_.dialogs.choose(dialog);
     design_.RestoreForms(FormSet::main);
+    keepPanelsAway();
     if (path && path->find('.', path->find_last_of('/') + 1) == std::string::npos)
         *path += dialog.defaultExtension;
     return path;
@@ -30,7 +44,7 @@ std::optional<std::string> ReportFiles::GetFileNamePDF() {
         const auto path = choose(dialog);
         if (!path || !outside_.files.exists(*path))
             return path;
-        design_.ask("File exists   ", "That file already exists. Please enter another file name    ");
+        ask("File exists   ", "That file already exists. Please enter another file name    ");
     }
 }
 
@@ -41,11 +55,11 @@ bool ReportFiles::write(const Document& report, const std::string& path, ReportM
     try {
         outside_.files.replace(path, reportBytes(report, format, outside_.press));
     } catch (const std::runtime_error&) {
-        design_.ask("File was not saved                       ",
-                    "File could not be saved. It is probably being used by another program                ");
+        ask("File was not saved                       ",
+            "File could not be saved. It is probably being used by another program                ");
         return false;
     }
-    design_.ask("Report saved", "The file " + printable(path) + " has been saved.             ");
+    ask("Report saved", "The file " + printable(path) + " has been saved.             ");
     return true;
 }
 
@@ -71,7 +85,7 @@ std::string ReportFiles::print(const Document& report, std::optional<int> page) 
     try {
         return outside_.press->print(report, page) ? "The report goes to the printer." : "";
     } catch (const std::runtime_error& problem) {
-        design_.ask("Print", problem.what());
+        ask("Print", problem.what());
         return problem.what();
     }
 }

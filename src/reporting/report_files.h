@@ -3,6 +3,7 @@
 
 #include <optional>
 #include <string>
+#include <vector>
 
 #include "platform/clipboard.h"
 #include "platform/document.h"
@@ -42,8 +43,13 @@ public:
     std::string copySummary(const Document& report);
     std::string print(const Document& report, std::optional<int> page);
 
+    /// A message with its answer. While the viewer is open the panels stay away.
+    Answer ask(std::string title, std::string text, std::vector<MessageButton> buttons = {Answer::OK},
+               std::optional<Answer> preset = {});
+
 private:
     std::optional<std::string> choose(const FileDialog& dialog);
+    void keepPanelsAway();
 
     Design& design_;
     ReportOutside outside_;

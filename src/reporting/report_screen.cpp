@@ -20,6 +20,11 @@ constexpr double noEffect = 0.0001;
 constexpr int trueSize = 100;
 constexpr int zoomSteps[] = {50, 67, 75, 90, 100, 110, 125, 150, 200, 300};
 
+// What of the settings a report depends on.
+ReportSettings settingsOf(const StudySettings& s) {
+    return {s.ReportFont, s.ReportPaper, s.ReportCosts, s.ReportSpansChoice};
+}
+
 }  // namespace
 
 // Making
@@ -30,6 +35,7 @@ void ReportScreen::open() {
         return;
     if (!isOpen())
         topOfPage();
+    design_.SuspendForms(FormSet::main);
     design_.SynchForms(WindowId::frmPrint, WindowAction::open);
 }
 
@@ -46,13 +52,13 @@ bool ReportScreen::ReportMake(const std::string& fileName, ReportModes mode, Eff
 
 bool ReportScreen::passesChecks(EffectQuestion question) {
     if (!design_.study().result.xValid) {
-        design_.ask(createReport, "Please modify data and try again.             ");
+        files_.ask(createReport, "Please modify data and try again.             ");
         return false;
     }
     return question == EffectQuestion::leaveOut || !lacksEffect() ||
-           design_.ask(createReport,
-                       "You have not yet entered an effect size. Would you like to proceed anyway?       ",
-                       {Answer::Yes, Answer::No}, Answer::No) == Answer::Yes;
+           files_.ask(createReport,
+                      "You have not yet entered an effect size. Would you like to proceed anyway?       ",
+                      {Answer::Yes, Answer::No}, Answer::No) == Answer::Yes;
 }
 
 bool ReportScreen::lacksEffect() const {
@@ -62,6 +68,7 @@ bool ReportScreen::lacksEffect() const {
 
 void ReportScreen::generate() {
     ++revision_;
+    madeWith_ = settingsOf(design_.settings());
     makeReport(design_.session(), extras_, press_, report_);
     view_.pages = report_.pages;
     view_.CurrentPage = std::clamp(view_.CurrentPage, 1, view_.pages);
@@ -143,9 +150,12 @@ void ReportScreen::zoomBy(int direction) {
         view_.percent = *std::prev(here);
 }
 
+// The panels that made way come back; those that the study has no use for by now close again.
 void ReportScreen::close() {
     endFind();
     design_.SynchForms(WindowId::frmPrint, WindowAction::unload);
+    design_.RestoreForms(FormSet::main);
+    design_.show({});
 }
 
 // Finding --------------------------------------------------------------------------------------------------
@@ -220,8 +230,8 @@ void ReportScreen::follow(const Changed& changed) {
         return;
     if (changed.otherStudy)
         close();
-    else if (changed.reach == Reach::setting)
-        afterSetting();
+    else if (madeWith_ != settingsOf(design_.settings()))
+        makeAgain();
     else if (changed.reach == Reach::study)
         tell("The study has changed since this report was made; F5 makes it anew.");
 }

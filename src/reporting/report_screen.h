@@ -4,6 +4,7 @@
 
 #include <optional>
 #include <string>
+#include <tuple>
 
 #include "reporting/make_report.h"
 #include "reporting/report_files.h"
@@ -14,6 +15,9 @@
 namespace lorvane {
 
 enum class EffectQuestion { ask, leaveOut };
+
+/// Font, paper, costs, and the user's choice of spans.
+using ReportSettings = std::tuple<int, PaperSizes, Inclusions, Inclusions>;
 
 /// "frmPrint".
 class ReportScreen final : public Part {
@@ -110,6 +114,7 @@ private:
     TextBox txtFind_;
     Panel pnlFound_;
     bool isMaking_ = false;
+    ReportSettings madeWith_;  ///< the last report
 };
 
 }  // namespace lorvane

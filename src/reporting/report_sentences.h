@@ -90,8 +90,8 @@ enum class Levels {
     lowestOne,
 };
 
-/// Sentences that follow each other; told for each of its levels, with something between two of them that have
-/// something to tell.
+/// Sentences that follow each other; told for each of its levels, with something between two of them that
+/// have something to tell.
 struct Block {
     Levels levels;
     const char* between;

@@ -233,8 +233,9 @@ ReportTable ReportMainTable(const ReportFacts& facts, const PageSetup& page) {
     TableDraft draft(Main::count, twoHeads, countOf(s.NumLevels));
     writeMainHeads(draft, s);
     forRows(s, 1, [&](int level, std::size_t row) { writeMainRow(draft, facts, level, row); });
-    hideIf(!facts.hasSpans(), draft, {Main::example, Main::variation});
-    hideIf(s.isHierarchical() || !s.isTested(), draft, {Main::effect, Main::omega});
+    hideIf(!facts.hasSpans(), draft, {Main::example});
+    hideIf(s.isHierarchical() || !s.isTested(), draft, {Main::effect});
+    hideIf(s.isHierarchical(), draft, {Main::omega});
     hideIf(facts.state.settings.ReportCosts != Inclusions::include, draft,
            {Main::costTreated, Main::costControl});
     return draft.fitted(page);
