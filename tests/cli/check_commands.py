@@ -79,6 +79,25 @@ def check_graph(folder):
     assert not (Path(folder) / "no.png").exists()
 
 
+def check_report(folder):
+    heads = {"PDF": b"%PDF", "rtf": b"{\\rtf1", "txt": b"Executive summary\n"}
+    for ending, head in heads.items():
+        out = Path(folder) / f"report.{ending}"
+        code, told, err = run("report", STUDY, "--out", str(out))
+        assert code == 0 and str(out) in told and out.read_bytes().startswith(head), (ending, err)
+    text = (Path(folder) / "report.txt").read_text(encoding="utf-8")
+    assert "power of 77.3% " in text and "Checklist" not in text and "classes are randomized" in text, text
+    out = str(Path(folder) / "checklist.txt")
+    assert run("report", STUDY, "--checklist", "--set", "txtd=0", "--out", out)[0] == 0
+    assert "\nChecklist for the sample size\n---" in Path(out).read_text(encoding="utf-8")
+    no = Path(folder) / "no.odt"
+    for code, words, *arguments in ((2, ".pdf, .rtf or .txt", "--out", str(no)), (2, "--out"), (3, "written", "--out", "/nowhere/a.pdf"),
+                                    (1, "degrees of freedom", "--set", "txtNB(3)=2", "--out", f"{no}.txt")):
+        answer = run("report", STUDY, *arguments)
+        assert answer[0] == code and words in answer[2], (arguments, answer)
+    assert not no.exists() and not Path(f"{no}.txt").exists()
+
+
 def check_mdes():
     code, out, _ = run("mdes", STUDY)
     assert code == 0 and "Standardized mean difference" in out and "The minimum detectable effect size is" in out, out
@@ -279,6 +298,7 @@ def main():
         check_paths_that_lead_nowhere(folder)
         check_output(folder)
         check_graph(folder)
+        check_report(folder)
     check_mdes()
     check_examples()
     check_long_lines()
