@@ -12,6 +12,7 @@ namespace lorvane {
 namespace {
 
 constexpr double usualSize = 9.5;
+constexpr double pleasantSize = 7.5;  // below it, text is broken to make room for larger letters
 constexpr double smallestSize = 6.5;
 constexpr double padding = 10.0 / 72;  // both sides together
 constexpr double widestName = 1.7;
@@ -40,11 +41,11 @@ double digitsOf(std::string_view text) {
 // A digit is so wide beside the size of the letters.
 double digitOf(const std::string& font) { return font == "Arial" ? 0.556 : 0.507; }
 
-// The length of the longest line, in digits.
-double longestLine(std::string_view text) {
+// The length of the longest part between these signs, in digits.
+double longestPart(std::string_view text, std::string_view signs) {
     double longest = 0;
     while (!text.empty()) {
-        const std::size_t end = std::min(text.find('\n'), text.size());
+        const std::size_t end = std::min(text.find_first_of(signs), text.size());
         longest = std::max(longest, digitsOf(text.substr(0, end)));
         text.remove_prefix(std::min(end + 1, text.size()));
     }
@@ -90,32 +91,46 @@ void TableDraft::hide(std::size_t column) {
 }
 
 // A long name is broken, in the end between its letters.
-double TableDraft::wantedWidth(std::size_t column, double digitWidth) const {
+double TableDraft::wantedWidth(std::size_t column, double digitWidth, Breaks breaks) const {
     double wanted = 0;
     for (std::size_t row = 0; row < rows_.size(); ++row) {
         const TableCell& cell = rows_[row][column];
-        const bool isName = column == 0 && row >= headRows_;
-        const double width = longestLine(cell.text) * digitWidth + padding;
+        const bool isHead = row < headRows_;
+        const bool isName = column == 0 && !isHead;
+        const bool isBroken = breaks == Breaks::all || (breaks == Breaks::words && (isHead || isName));
+        const double width = longestPart(cell.text, isBroken ? "\n " : "\n") * digitWidth + padding;
         wanted = std::max(wanted, (isName ? std::min(width, widestName) : width) / cell.columns);
     }
     return wanted;
 }
 
-ReportTable TableDraft::fitted(const PageSetup& page) const {
+// Widths in inches, on letters of the usual size, that fill the page; and how much smaller the letters get.
+TableDraft::Columns TableDraft::columnsFor(const PageSetup& page, Breaks breaks) const {
     const double digitWidth = digitOf(page.font) * usualSize / 72;
-    std::vector<double> widths(hidden_.size(), 0.0);
-    for (std::size_t column = 0; column < widths.size(); ++column)
-        widths[column] = hidden_[column] ? 0 : wantedWidth(column, digitWidth);
-    const double wanted = std::accumulate(widths.begin(), widths.end(), 0.0);
-    const double scale = std::min(page.textWidth() / wanted, mostStretch);
-    for (double& width : widths)
-        width = hundredths(width * scale);
+    Columns columns{std::vector<double>(hidden_.size(), 0.0), 1};
+    for (std::size_t column = 0; column < hidden_.size(); ++column) {
+        if (!hidden_[column])
+            columns.widths[column] = wantedWidth(column, digitWidth, breaks);
+    }
+    const double wanted = std::accumulate(columns.widths.begin(), columns.widths.end(), 0.0);
+    columns.scale = std::min(page.textWidth() / wanted, mostStretch);
+    for (double& width : columns.widths)
+        width = hundredths(width * columns.scale);
+    return columns;
+}
+
+ReportTable TableDraft::fitted(const PageSetup& page) const {
+    Columns columns = columnsFor(page, Breaks::lines);
+    for (const Breaks breaks : {Breaks::words, Breaks::all}) {
+        if (columns.scale * usualSize < pleasantSize)
+            columns = columnsFor(page, breaks);
+    }
     ReportTable made;
-    made.fontSize = std::clamp(std::floor(usualSize * scale * 2) / 2, smallestSize, usualSize);
-    made.table.widths = listOfColumns(widths.size(), [](std::size_t) { return std::string("100"); });
+    made.fontSize = std::clamp(std::floor(usualSize * columns.scale * 2) / 2, smallestSize, usualSize);
+    made.table.widths = listOfColumns(hidden_.size(), [](std::size_t) { return std::string("100"); });
     made.table.headers =
-        listOfColumns(widths.size(), [](std::size_t column) { return std::to_string(column); });
-    made.table.columnWidths = std::move(widths);
+        listOfColumns(hidden_.size(), [](std::size_t column) { return std::to_string(column); });
+    made.table.columnWidths = std::move(columns.widths);
     made.table.rows = rows_;
     made.table.headRows = headRows_;
     return made;

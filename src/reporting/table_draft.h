@@ -2,6 +2,7 @@
 #pragma once
 
 #include <string>
+#include <vector>
 
 #include "platform/document.h"
 
@@ -39,11 +40,19 @@ public:
     void hide(std::size_t column);
 
     /// The table with columns as wide as their texts want. Where the page is too narrow for them the letters
-    /// get smaller, and text is broken in the end.
+    /// get a little smaller, then text is broken, then they get smaller still.
     ReportTable fitted(const PageSetup& page) const;
 
 private:
-    double wantedWidth(std::size_t column, double digitWidth) const;
+    /// Where texts may be broken: nowhere, between the words of heads and names, between all words.
+    enum class Breaks { lines, words, all };
+    struct Columns {
+        std::vector<double> widths;
+        double scale;
+    };
+
+    double wantedWidth(std::size_t column, double digitWidth, Breaks breaks) const;
+    Columns columnsFor(const PageSetup& page, Breaks breaks) const;
 
     std::vector<std::vector<TableCell>> rows_;
     std::size_t headRows_;

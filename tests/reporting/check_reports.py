@@ -47,7 +47,7 @@ def pages_of(pdf):
 def check_pages(script, pages, golden):
     assert_same("\n".join(pages), golden, script.stem)
     # The last row of the table of levels stands on the page of its head, and no heading at the foot of a page.
-    heads = [page.count("# Cov") for page in pages]
+    heads = [len(re.findall(r"R-sq\b", page)) for page in pages]
     rows = [page.count("\n(Randomized)") for page in pages]
     assert heads == rows and sum(heads) == 2, (script, heads, rows)
     headings = {before for before, below in zip(golden.splitlines(), golden.splitlines()[1:])
