@@ -9,6 +9,7 @@
 #include "desktop/mdes_view.h"
 #include "desktop/message_views.h"
 #include "desktop/optimal_view.h"
+#include "desktop/report_viewer.h"
 #include "desktop/scenario_view.h"
 #include "desktop/start_view.h"
 #include "desktop/table_view.h"
@@ -48,6 +49,7 @@ Panels::Panels(Desk& desk, MainWindow& window) : desk_(desk), window_(window) {
     add<OptimalView>(centred, 0.15, window_.menus());
     add<GraphView>(centred, centred);
     add<GraphTableView>(0.2, 0.6);
+    add<ReportViewer>(centred, centred);
     const GraphScreen& graph = desk.application().graph();
     const auto addGraphDialog = [&](const auto& dialog) {
         add<DialogView>(centred, centred, dialog.dialog(), [&dialog] { return dialog.isOpen(); });

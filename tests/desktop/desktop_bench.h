@@ -20,6 +20,7 @@
 #include "desktop/panels.h"
 #include "os/disk_file_store.h"
 #include "qt/qt_clipboard.h"
+#include "qt/qt_document_press.h"
 #include "qt/qt_hourglass.h"
 #include "support/test_library.h"
 
@@ -58,6 +59,15 @@ struct SlowProgress final : Progress {
     }
     DeskProgress inner;
     unsigned long pause = 0;  ///< milliseconds
+};
+
+/// Real pages, and a printer that the user never chooses.
+struct PaperlessPress final : DocumentPress {
+    std::unique_ptr<DocumentSurface> start(const PageSetup& page) override { return inner.start(page); }
+    std::string pdf(const Document& document) override { return inner.pdf(document); }
+    std::string picture(const Document& document, int page) override { return inner.picture(document, page); }
+    bool print(const Document&, std::optional<int>) override { return false; }
+    QtDocumentPress inner;
 };
 
 class DesktopBench : public testing::Test {
@@ -128,8 +138,10 @@ protected:
     SlowProgress progress;
     QtClipboard clipboard;
     QtHourglass hourglass;
+    PaperlessPress press;
     Application application{{distributions, locale, files, messages, messages.scripted, settings, "/program",
-                             nullptr, &progress, &clipboard, nullptr, &hourglass}};
+                             nullptr, &progress, &clipboard, nullptr, &hourglass, nullptr, nullptr, nullptr,
+                             &press}};
     Desk desk{application, messages};
     MainWindow window{desk};
     Panels panels{desk, window};

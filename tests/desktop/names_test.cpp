@@ -209,7 +209,8 @@ TEST_F(Names, AreShownLetterByLetterInEveryWindow) {
     runTool("gfrmOpenWizard");
     runClick("frmStart.optStart(2)");
     messages.scripted.queue(Answer::Yes);
-    for (const char* tool : {"Graph", "Show cost", "Show table", "L Number of Level 1"})
+    messages.scripted.queue(Answer::Yes);
+    for (const char* tool : {"gfrmPrint", "Graph", "Show cost", "Show table", "L Number of Level 1"})
         runTool(tool);
     runClick("frmLVar.Command1");
     set({{"txtNB(4)", 1.0}, {"txtMRange(3)", 0.95}});
@@ -226,8 +227,9 @@ TEST_F(Names, AreShownLetterByLetterInEveryWindow) {
     inspectMessages();
     EXPECT_FALSE(pipe.wasOpened());
     EXPECT_LE(window.minimumSizeHint().width(), 1280) << "long names give way";
-    // The graph opens as large as the screen lets it.
-    panel("xPlot").resize(100, 100);
+    // The graph and the report open as large as the screen lets them.
+    for (const char* large : {"xPlot", "frmPrint"})
+        panel(large).resize(100, 100);
     for (const ToolPanel* panel : window.findChildren<ToolPanel*>())
         EXPECT_LE(panel->width(), 950) << panel->objectName().toStdString();
     for (const ToolPanel* panel : unseen)

@@ -26,6 +26,7 @@
 #include "os/disk_file_store.h"
 #include "os/program_folder.h"
 #include "platform/scripted_dialogs.h"
+#include "qt/qt_document_press.h"
 
 namespace {
 
@@ -121,7 +122,9 @@ int main(int argc, char** argv) {
     ScriptedDialogs messages;
     messages.queue(Answer::OK);
     MemorySettings settings;
-    Application application({distributions, locale, files, messages, messages, settings, programFolder()});
+    QtDocumentPress press;
+    Application application({distributions, locale, files, messages, messages, settings, programFolder(),
+                             nullptr, nullptr, nullptr, nullptr, nullptr, nullptr, nullptr, nullptr, &press});
     desktop::Desk desk(application, messages);
     desktop::MainWindow window(desk);
     desktop::Panels panels(desk, window);

@@ -1,0 +1,123 @@
+// The viewer of the report.
+#include "desktop/report_viewer.h"
+
+#include <QAction>
+#include <QEvent>
+#include <QMenuBar>
+#include <QScreen>
+#include <QToolBar>
+#include <QVBoxLayout>
+#include <utility>
+
+#include "desktop/kit/elided_label.h"
+#include "desktop/kit/text_style.h"
+#include "desktop/menus.h"
+#include "desktop/report_find.h"
+#include "desktop/report_pages.h"
+#include "reporting/document_text.h"
+
+namespace lorvane::desktop {
+
+namespace {
+
+constexpr const char* screenName = "frmPrint";
+constexpr QSize firstSize(1080, 1000);
+constexpr QSize smallestSize(600, 420);
+constexpr int menuHeight = 30;
+constexpr int toolHeight = 44;
+constexpr int statusHeight = 28;
+constexpr int statusMargin = 20;
+constexpr int narrow = 980;    // below, the words of the tool bar go
+constexpr int frameRoom = 60;  // of the screen, for the frame of the window system
+
+}  // namespace
+
+ReportViewer::ReportViewer(Desk& desk, ToolPanel* panel)
+    : PanelView(desk, panel, screenName), menus_(new Menus(desk, panel, screenName)),
+      find_(new ReportFind(desk, *menus_)), pages_(new ReportPages), status_(new ElidedLabel) {
+    panel->setWindowTitle(QString::fromLatin1(ReportScreen::title));
+    panel->setAttribute(Qt::WA_ShowWithoutActivating, false);
+    panel->installEventFilter(this);
+    QVBoxLayout* column = panel->content();
+    column->setSizeConstraint(QLayout::SetDefaultConstraint);
+    column->setContentsMargins(0, 0, 0, 0);
+    panel->setMinimumSize(smallestSize);
+    const QSize room = panel->screen()->availableGeometry().size() - QSize(0, frameRoom);
+    panel->resize(firstSize.boundedTo(room).expandedTo(smallestSize));
+    addBars();
+    column->addWidget(find_);
+    column->addWidget(pages_, 1);
+    addStatus();
+    connect(pages_, &ReportPages::pageReached, this,
+            [this](int page) { desk_.setNumber("frmPrint.CurrentPage", page); });
+    connect(pages_, &ReportPages::zoomTurned, this,
+            [this](int direction) { desk_.tool(direction > 0 ? "Zoom in" : "Zoom out"); });
+    // Also while it is open already.
+    connect(menus_->action("Find"), &QAction::triggered, find_, &ReportFind::takeFocus);
+}
+
+void ReportViewer::addBars() {
+    auto* menuBar = new QMenuBar;
+    menus_->fill(menuBar);
+    menuBar->setFixedHeight(menuHeight);
+    panel()->content()->addWidget(menuBar);
+    auto* bar = new QToolBar;
+    bar->setWindowTitle(shownText(desk_.application().commands().band("frmPrintBar")->Caption));
+    bar->setFixedHeight(toolHeight);
+    bar->layout()->setContentsMargins(0, 0, 0, 0);
+    menus_->fill(bar);
+    panel()->content()->addWidget(bar);
+}
+
+void ReportViewer::addStatus() {
+    status_->setFont(textFont(TextStyle::Caption));
+    status_->setProperty("second", true);
+    status_->setFixedHeight(statusHeight);
+    status_->setContentsMargins(statusMargin, 0, statusMargin, 0);
+    status_->setBackgroundRole(QPalette::Window);
+    status_->setAutoFillBackground(true);
+    panel()->content()->addWidget(status_);
+}
+
+// A narrow window has no room for the words of its bar.
+bool ReportViewer::eventFilter(QObject* watched, QEvent* event) {
+    if (watched == panel() && event->type() == QEvent::Resize)
+        menus_->setWordsShown(panel()->width() >= narrow);
+    return PanelView::eventFilter(watched, event);
+}
+
+bool ReportViewer::isOpen() const { return model().isOpen(); }
+
+void ReportViewer::syncPages() {
+    if (revision_ == model().revision())
+        return pages_->setView(model().view());
+    revision_ = model().revision();
+    pages_->setDocument(model().document(), model().view());
+    pages_->setAccessibleDescription(shownText(plainTextOf(model().document())));
+}
+
+// The keyboard is with the pages, and while a text is looked for with its field. It goes before the field is
+// hidden, or it would go to whatever is next.
+void ReportViewer::syncFocus() {
+    const bool opens = isOpen() && !std::exchange(wasOpen_, isOpen());
+    const bool finding = model().view().isFinding;
+    const bool wasFinding = std::exchange(wasFinding_, finding);
+    if (opens || (wasFinding && !finding))
+        pages_->setFocus(Qt::OtherFocusReason);
+    find_->sync();
+    if (finding && !wasFinding)
+        find_->takeFocus();
+}
+
+void ReportViewer::sync() {
+    menus_->sync();
+    syncFocus();
+    const QString status = shownText(model().pnlStatus().Caption);
+    status_->setText(status);
+    status_->setVisible(!status.isEmpty());
+    syncPages();
+    pages_->setAccessibleName(
+        QStringLiteral("%1, %2").arg(panel()->windowTitle(), shownText(model().caption().Caption)));
+}
+
+}  // namespace lorvane::desktop
