@@ -1,6 +1,7 @@
 // Menus, popups and tool bar made from the bands.
 #include "desktop/menus.h"
 
+#include <QKeyEvent>
 #include <QMenuBar>
 #include <QToolBar>
 #include <algorithm>
@@ -97,7 +98,35 @@ void addSpace(QToolBar* bar) {
 }  // namespace
 
 Menus::Menus(Desk& desk, QWidget* window, std::string screen)
-    : QObject(window), desk_(desk), window_(window), screen_(std::move(screen)) {}
+    : QObject(window), desk_(desk), window_(window), screen_(std::move(screen)) {
+    if (!screen_.empty())
+        window->installEventFilter(this);
+}
+
+// The action of a key that commands of other screens have too.
+QAction* Menus::ownActionOf(const QKeySequence& key) const {
+    const auto own = std::find_if(actions_.begin(), actions_.end(),
+                                  [&](const auto& row) { return row.second->shortcuts().contains(key); });
+    const std::vector<Tool> tools = desk_.application().commands().tools();
+    const bool isShared = std::any_of(tools.begin(), tools.end(), [&](const Tool& tool) {
+        return !actions_.contains(tool.Name) && keysOf(tool).contains(key);
+    });
+    return own != actions_.end() && isShared ? own->second : nullptr;
+}
+
+// The shortcuts of the main screen hold in its floating windows as well, and two for one key would cancel
+// each other. A window with menus of its own takes such a key for itself.
+bool Menus::eventFilter(QObject* watched, QEvent* event) {
+    if (event->type() != QEvent::ShortcutOverride && event->type() != QEvent::KeyPress)
+        return QObject::eventFilter(watched, event);
+    QAction* action = ownActionOf(QKeySequence(static_cast<QKeyEvent*>(event)->keyCombination()));
+    if (action == nullptr)
+        return false;
+    event->accept();
+    if (event->type() == QEvent::KeyPress)
+        action->trigger();
+    return true;
+}
 
 QAction* Menus::action(const std::string& name) {
     const auto found = actions_.find(name);

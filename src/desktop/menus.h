@@ -6,6 +6,7 @@
 #include <vector>
 
 #include <QAction>
+#include <QKeySequence>
 #include <QMenu>
 #include <QPoint>
 
@@ -50,7 +51,11 @@ public:
     /// Copies what has changed from the tools.
     void sync();
 
+protected:
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
 private:
+    QAction* ownActionOf(const QKeySequence& key) const;
     void sync(QAction* action, const Tool& tool);
     void addEntries(QMenu* menu, const Band& band);
     void addPowerButton(QToolBar* bar);

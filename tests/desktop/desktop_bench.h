@@ -66,8 +66,12 @@ struct PaperlessPress final : DocumentPress {
     std::unique_ptr<DocumentSurface> start(const PageSetup& page) override { return inner.start(page); }
     std::string pdf(const Document& document) override { return inner.pdf(document); }
     std::string picture(const Document& document, int page) override { return inner.picture(document, page); }
-    bool print(const Document&, std::optional<int>) override { return false; }
+    bool print(const Document&, std::optional<int>) override {
+        ++asked;
+        return false;
+    }
     QtDocumentPress inner;
+    int asked = 0;  ///< to print
 };
 
 class DesktopBench : public testing::Test {

@@ -2,6 +2,7 @@
 #include <QLineEdit>
 #include <QScrollBar>
 #include <QWheelEvent>
+#include <set>
 
 #include "desktop/kit/stressed_label.h"
 #include "desktop/report_pages.h"
@@ -141,6 +142,17 @@ TEST_F(ReportWindow, ClosesWithItsStudyAndComesBackWhereItWas) {
     set({{"txtd", 0.3}});
     tool("gfrmPrint");
     EXPECT_EQ(panel("frmPrint").geometry(), QRect(140, 90, 800, 640));
+}
+
+// The main screen has these keys too.
+TEST_F(ReportWindow, TakesItsKeysForItself) {
+    key(Qt::Key_P, Qt::ControlModifier);
+    EXPECT_EQ(press.asked, 1);
+    EXPECT_EQ(application.report().revision(), 1) << "not the report anew";
+    key(Qt::Key_C, Qt::ControlModifier);
+    EXPECT_EQ(application.report().pnlStatus().Caption, "The page has been copied.");
+    key(Qt::Key_Z, Qt::ControlModifier);
+    EXPECT_EQ(study().txtCostT(2), 0) << "the others stay those of the main screen";
 }
 
 using ReportLook = ReportWindow;
