@@ -72,7 +72,8 @@ std::optional<std::string> QtFileDialogs::choose(const FileDialog& dialog) {
         redraw_();
     if (folder_.isEmpty())
         folder_ = QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation);
-    FileBox box(owner_, QString::fromStdString(dialog.title), folder_);
+    const QPointer<QWidget> over = owner_ ? owner_->window() : nullptr;
+    FileBox box(over, QString::fromStdString(dialog.title), folder_);
     // Without its details a filter shows what stands before the last bracket.
     box.setOption(QFileDialog::HideNameFilterDetails);
     box.setOption(QFileDialog::DontConfirmOverwrite, !dialog.asksBeforeReplacing);
@@ -81,7 +82,9 @@ std::optional<std::string> QtFileDialogs::choose(const FileDialog& dialog) {
         box.setAcceptMode(QFileDialog::AcceptSave);
     else
         box.setFileMode(QFileDialog::ExistingFile);
-    if (box.exec() != QDialog::Accepted || box.selectedFiles().isEmpty())
+    const bool isChosen = box.exec() == QDialog::Accepted;
+    giveKeyboard(over);
+    if (!isChosen || box.selectedFiles().isEmpty())
         return std::nullopt;
     const QString path = box.selectedFiles().constFirst();
     folder_ = QFileInfo(path).absolutePath();

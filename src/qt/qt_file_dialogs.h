@@ -2,12 +2,12 @@
 #pragma once
 
 #include <functional>
+#include <memory>
 
 #include <QString>
 
 #include "platform/file_dialogs.h"
-
-class QWidget;
+#include "qt/window_in_use.h"
 
 namespace lorvane {
 
@@ -16,8 +16,8 @@ public:
     /// What to do before a dialog comes up: the windows that make way have to be gone by then.
     void beforeShowing(std::function<void()> redraw) { redraw_ = std::move(redraw); }
 
-    /// The window over which dialogs come up.
-    void setOwner(QWidget* owner) { owner_ = owner; }
+    /// The main window: dialogs come up over it, or over its floating window that is in use.
+    void setOwner(QWidget* owner) { owner_ = std::make_unique<WindowInUse>(owner); }
 
     /// Starts in the folder of the file that was chosen last, at first in the user's documents. A name for
     /// saving without an ending gets the one of the filter.
@@ -25,7 +25,7 @@ public:
 
 private:
     std::function<void()> redraw_;
-    QWidget* owner_ = nullptr;
+    std::unique_ptr<WindowInUse> owner_;
     QString folder_;
 };
 

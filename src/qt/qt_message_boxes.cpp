@@ -38,7 +38,8 @@ QPushButton* addButton(QMessageBox& box, const MessageButton& button) {
 Answer QtMessageBoxes::show(const MessageBox& message) {
     if (redraw_)
         redraw_();
-    QMessageBox box(owner_);
+    const QPointer<QWidget> over = owner_ ? owner_->window() : nullptr;
+    QMessageBox box(over);
     box.setIcon(QMessageBox::Information);
     box.setWindowTitle(QString::fromStdString(message.title));
     box.setTextFormat(Qt::PlainText);
@@ -55,6 +56,7 @@ Answer QtMessageBoxes::show(const MessageBox& message) {
                          [&answer, given = button.answer] { answer = given; });
     }
     box.exec();
+    giveKeyboard(over);
     return answer;
 }
 

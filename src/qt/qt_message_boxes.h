@@ -2,10 +2,10 @@
 #pragma once
 
 #include <functional>
+#include <memory>
 
 #include "platform/message_boxes.h"
-
-class QWidget;
+#include "qt/window_in_use.h"
 
 namespace lorvane {
 
@@ -14,14 +14,14 @@ public:
     /// What to do before a message comes up: the windows that make way have to be gone by then.
     void beforeShowing(std::function<void()> redraw) { redraw_ = std::move(redraw); }
 
-    /// The window over which messages come up.
-    void setOwner(QWidget* owner) { owner_ = owner; }
+    /// The main window: messages come up over it, or over its floating window that is in use.
+    void setOwner(QWidget* owner) { owner_ = std::make_unique<WindowInUse>(owner); }
 
     Answer show(const MessageBox& message) override;
 
 private:
     std::function<void()> redraw_;
-    QWidget* owner_ = nullptr;
+    std::unique_ptr<WindowInUse> owner_;
 };
 
 }  // namespace lorvane

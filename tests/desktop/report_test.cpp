@@ -1,12 +1,15 @@
 // The report in its window, by mouse and by keys.
+#include <QDialog>
 #include <QLineEdit>
 #include <QScrollBar>
+#include <QTimer>
 #include <QWheelEvent>
 #include <set>
 
 #include "desktop/kit/stressed_label.h"
 #include "desktop/report_pages.h"
 #include "desktop_bench.h"
+#include "qt/qt_message_boxes.h"
 
 namespace lorvane::desktop {
 namespace {
@@ -153,6 +156,30 @@ TEST_F(ReportWindow, TakesItsKeysForItself) {
     EXPECT_EQ(application.report().pnlStatus().Caption, "The page has been copied.");
     key(Qt::Key_Z, Qt::ControlModifier);
     EXPECT_EQ(study().txtCostT(2), 0) << "the others stay those of the main screen";
+}
+
+TEST_F(ReportWindow, MessagesComeUpOverTheWindowInUse) {
+    QtMessageBoxes boxes;
+    boxes.setOwner(&window);
+    const auto parentOfMessage = [&] {
+        QWidget* parent = nullptr;
+        QTimer::singleShot(0, &window, [&parent] {
+            auto* box = qobject_cast<QDialog*>(QApplication::activeModalWidget());
+            parent = box->parentWidget();
+            box->reject();
+        });
+        boxes.show({"Saved", "Saved.", {Answer::OK}});
+        settle();
+        return parent;
+    };
+    window.activateWindow();
+    settle();
+    EXPECT_EQ(parentOfMessage(), &window);
+    panel("frmPrint").activateWindow();
+    settle();
+    EXPECT_EQ(parentOfMessage(), &panel("frmPrint"));
+    panel("frmPrint").hide();
+    EXPECT_EQ(parentOfMessage(), &window) << "the other one made way";
 }
 
 using ReportLook = ReportWindow;
