@@ -34,7 +34,7 @@ void ReportScreen::open() {
     if (!ReportMake("", ReportModes::view, EffectQuestion::ask))
         return;
     if (!isOpen())
-        topOfPage();
+        goTo(1);
     design_.SuspendForms(FormSet::main);
     design_.SynchForms(WindowId::frmPrint, WindowAction::open);
 }

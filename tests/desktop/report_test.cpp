@@ -72,6 +72,9 @@ TEST_F(ReportWindow, JumpsToTheTopOfPages) {
     EXPECT_TRUE(isAtTop(2)) << "nothing moved";
     key(Qt::Key_End, Qt::ControlModifier);
     EXPECT_EQ(caption(), captionOf(last()));
+    for (int i = 0; i < 5; ++i)
+        turn(1, Qt::ControlModifier);
+    EXPECT_TRUE(isAtTop(last())) << "as soon as there is room below it";
     key(Qt::Key_PageUp, Qt::ControlModifier);
     EXPECT_EQ(caption(), captionOf(last() - 1));
 }
@@ -137,6 +140,7 @@ TEST_F(ReportWindow, FindsByKeysAlone) {
 
 TEST_F(ReportWindow, ClosesWithItsStudyAndComesBackWhereItWas) {
     panel("frmPrint").setGeometry(140, 90, 800, 640);
+    tool("Last");
     set({{"txtd", 0.5}});
     EXPECT_TRUE(isShown("frmPrint")) << "a picture of the study as it was";
     messages.scripted.queue(Answer::OK);
@@ -145,6 +149,7 @@ TEST_F(ReportWindow, ClosesWithItsStudyAndComesBackWhereItWas) {
     set({{"txtd", 0.3}});
     tool("gfrmPrint");
     EXPECT_EQ(panel("frmPrint").geometry(), QRect(140, 90, 800, 640));
+    EXPECT_TRUE(isAtTop(1)) << "another report";
 }
 
 // The main screen has these keys too.
