@@ -17,6 +17,7 @@
 #include "desktop/kit/outline_overlay.h"
 #include "desktop/kit/push_button.h"
 #include "desktop/kit/span_plot.h"
+#include "desktop/kit/stressed_label.h"
 #include "desktop/kit/text_field.h"
 #include "desktop/kit/theme.h"
 #include "desktop/kit/tool_panel.h"
@@ -40,6 +41,7 @@ SpanRow row(const char* label) {
 TEST_F(Content, SaysAndPaintsWhatItWasGivenLast) {
     FigureCard figure(&window);
     NumberLabel number(Qt::AlignRight, &window);
+    StressedLabel stressed(&window);
     LevelName level(&window);
     ArmLabel arm(&window);
     MessageCard message(MessageCard::Kind::Problem, &window);
@@ -62,6 +64,7 @@ TEST_F(Content, SaysAndPaintsWhatItWasGivenLast) {
         {figure, card(limited), "Cost $5", "limit $7"},
         {figure, card(FigureTrouble{"No power", "see the cells"}), "No power", "see the cells"},
         {number, [&] { number.setText("0.25"); }, "0.25", ""},
+        {stressed, [&] { stressed.setText("Page 1 of 4"); }, "Page 1 of 4", ""},
         {level, [&] { level.setLevel("Schools", "nested", false); }, "Schools", "nested"},
         {level, [&] { level.setLevel("Schools", "nested", true); }, "Schools", "nested"},
         {arm, [&] { arm.setArm(ArmLabel::Dot::Treated, "Treated"); }, "Treated", ""},
@@ -106,6 +109,18 @@ TEST_F(Content, ALongFigureStaysOnItsCard) {
     const QImage image = painted(card);
     const QRect margin(card.width() - 20, 10, 18, card.height() - 20);
     EXPECT_EQ(pixels(image.copy(margin), colour(Role::Card)), margin.width() * margin.height());
+}
+
+TEST_F(Content, CountingMovesNothing) {
+    StressedLabel label(&window);
+    const auto widthOf = [&](const char* text) {
+        label.setText(QString::fromLatin1(text));
+        return label.sizeHint().width();
+    };
+    const int width = widthOf("Page 9 of 12");
+    EXPECT_EQ(widthOf("Page 10 of 12"), width);
+    EXPECT_EQ(widthOf("Page 11 of 12"), width) << "with narrow digits";
+    EXPECT_LT(widthOf("Page 9 of 9"), width);
 }
 
 TEST_F(Content, TakesRoomByItsText) {
