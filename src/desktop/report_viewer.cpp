@@ -27,7 +27,7 @@ constexpr int menuHeight = 30;
 constexpr int toolHeight = 44;
 constexpr int statusHeight = 28;
 constexpr int statusMargin = 20;
-constexpr int narrow = 980;    // below, the words of the tool bar go
+constexpr int narrow = 1060;   // below, the words of the tool bar go
 constexpr int frameRoom = 60;  // of the screen, for the frame of the window system
 
 }  // namespace
