@@ -74,7 +74,7 @@ void ReportScreen::generate() {
     view_.CurrentPage = std::clamp(view_.CurrentPage, 1, view_.pages);
     Displaypage();
     if (view_.isFinding)
-        search();
+        search(view_.match.value_or(0));
 }
 
 void ReportScreen::makeAgain() { ReportMake("", ReportModes::view, EffectQuestion::leaveOut); }
@@ -162,7 +162,7 @@ void ReportScreen::close() {
 
 void ReportScreen::find() {
     view_.isFinding = true;
-    search();
+    search(0);
 }
 
 void ReportScreen::endFind() {
@@ -172,9 +172,12 @@ void ReportScreen::endFind() {
     pnlFound_.Caption.clear();
 }
 
-void ReportScreen::search() {
+// Goes to the match of a number, or to the last one where there are fewer.
+void ReportScreen::search(std::size_t match) {
     view_.matches = placesOf(txtFind_.Text, report_.document);
-    view_.match = view_.matches.empty() ? std::nullopt : std::optional<std::size_t>(0);
+    view_.match.reset();
+    if (!view_.matches.empty())
+        view_.match = std::min(match, view_.matches.size() - 1);
     tellMatch();
 }
 

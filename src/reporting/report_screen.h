@@ -97,7 +97,7 @@ private:
     void set(const char* name, Change change);
     void afterSetting();
     void Displaypage();
-    void search();
+    void search(std::size_t match);
     void tellMatch();
     void tell(std::string text) { pnlStatus_.Caption = std::move(text); }
 
