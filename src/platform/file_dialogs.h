@@ -16,6 +16,7 @@ struct FileDialog {
     std::string defaultExtension;                ///< ".txt"; empty for none
     std::vector<std::string> otherFilters = {};  ///< on offer beside the filter, in the same form
     bool asksBeforeReplacing = true;             ///< where the name of a file that is there is chosen
+    std::string suggestedName = {};              ///< stands in the field at first; without a folder
 };
 
 /// The longest name of a file that a dialog takes, in letters.

@@ -14,6 +14,8 @@ namespace lorvane {
 namespace {
 
 constexpr double pointsPerInch = 72;
+// The dialog is Qt's own and has no room for buttons with much air.
+constexpr const char* tightButtons = "QPushButton { padding: 3px 6px; min-width: 72px; }";
 constexpr const char* failed = "The document could not be printed.";
 
 void setUp(QPrinter& printer, const DocumentPages& pages, const PageSetup& setup) {
@@ -25,6 +27,7 @@ void setUp(QPrinter& printer, const DocumentPages& pages, const PageSetup& setup
 
 bool isChosen(QPrinter& printer, int pages, std::optional<int> page) {
     QPrintDialog dialog(&printer, QApplication::activeWindow());
+    dialog.setStyleSheet(QString::fromLatin1(tightButtons));
     dialog.setOption(QAbstractPrintDialog::PrintPageRange);
     dialog.setMinMax(1, pages);
     if (page) {

@@ -41,6 +41,12 @@ void offerFilters(QFileDialog& box, const FileDialog& dialog) {
                          [&box](const QString& filter) { box.setDefaultSuffix(endingOf(filter)); });
 }
 
+// A home without a folder for documents is one itself.
+QString firstFolder() {
+    const QString documents = QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation);
+    return QDir(documents).exists() ? documents : QDir::homePath();
+}
+
 // Stays open with a reason for a path that cannot be taken. The dialogs of a desktop look after that
 // themselves; they have no field of ours.
 class FileBox : public QFileDialog {
@@ -71,7 +77,7 @@ std::optional<std::string> QtFileDialogs::choose(const FileDialog& dialog) {
     if (redraw_)
         redraw_();
     if (folder_.isEmpty())
-        folder_ = QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation);
+        folder_ = firstFolder();
     const QPointer<QWidget> over = owner_ ? owner_->window() : nullptr;
     FileBox box(over, QString::fromStdString(dialog.title), folder_);
     // Without its details a filter shows what stands before the last bracket.
@@ -82,6 +88,8 @@ std::optional<std::string> QtFileDialogs::choose(const FileDialog& dialog) {
         box.setAcceptMode(QFileDialog::AcceptSave);
     else
         box.setFileMode(QFileDialog::ExistingFile);
+    if (!dialog.suggestedName.empty())
+        box.selectFile(QString::fromStdString(dialog.suggestedName));
     const bool isChosen = box.exec() == QDialog::Accepted;
     giveKeyboard(over);
     if (!isChosen || box.selectedFiles().isEmpty())

@@ -8,13 +8,6 @@ namespace lorvane {
 
 namespace {
 
-// The name of the study's file without its folder and ending; a new study has its design.
-std::string titleOf(const Session& session) {
-    const std::string& file = session.currentFile();
-    const std::string name = file.substr(file.find_last_of('/') + 1);
-    return file.empty() ? designTitle(session.study()) : name.substr(0, name.find_last_of('.'));
-}
-
 void decideSpans(Session& session) {
     const Inclusions decided = spansToTell(session.state());
     if (session.settings().ReportSpans != decided)
@@ -24,6 +17,12 @@ void decideSpans(Session& session) {
 
 }  // namespace
 
+std::string titleOfReport(const Session& session) {
+    const std::string& file = session.currentFile();
+    const std::string name = file.substr(file.find_last_of('/') + 1);
+    return file.empty() ? designTitle(session.study()) : name.substr(0, name.find_last_of('.'));
+}
+
 bool spansAreOpen(const Study& study) { return study.isMeans() && study.IccMetric == IccMetrics::icc; }
 
 Inclusions spansToTell(const SessionState& session) {
@@ -32,7 +31,7 @@ Inclusions spansToTell(const SessionState& session) {
 
 void makeReport(Session& session, const ReportExtras& extras, DocumentPress* press, MadeReport& made) {
     decideSpans(session);
-    made.document = {pageOf(session.settings(), titleOf(session)), {}};
+    made.document = {pageOf(session.settings(), titleOfReport(session)), {}};
     RecordingSurface surface(made.document, press == nullptr ? nullptr : press->start(made.document.page));
     try {
         ReportGenerate(session.state(), extras, made.document.page, surface);

@@ -19,6 +19,9 @@ bool spansAreOpen(const Study& study);
 /// Whether the spans are told, as the study and the user's choice stand.
 Inclusions spansToTell(const SessionState& session);
 
+/// The name of the study's file without its folder and ending; a new study has its design.
+std::string titleOfReport(const Session& session);
+
 /// Makes the report of a session with an answer, and sets in it whether spans are told. Without a press
 /// nothing is measured. Throws ArithmeticFault; the document is closed also then.
 void makeReport(Session& session, const ReportExtras& extras, DocumentPress* press, MadeReport& made);

@@ -7,6 +7,7 @@
 #include "base/utf8.h"
 #include "reporting/document_html.h"
 #include "reporting/document_text.h"
+#include "reporting/make_report.h"
 #include "reporting/report_formats.h"
 #include "reporting/report_generate.h"
 
@@ -35,11 +36,23 @@ std::optional<std::string> ReportFiles::choose(const FileDialog& dialog) {
 }
 
 std::optional<std::string> ReportFiles::GetFileName() {
-    return choose({FileDialog::Kind::save, "Save report", "(*.rtf)|*.rtf", ".rtf", {"Text (*.txt)|*.txt"}});
+    return choose({FileDialog::Kind::save,
+                   "Save report",
+                   "(*.rtf)|*.rtf",
+                   ".rtf",
+                   {"Text (*.txt)|*.txt"},
+                   true,
+                   titleOfReport(design_.session()) + ".rtf"});
 }
 
 std::optional<std::string> ReportFiles::GetFileNamePDF() {
-    const FileDialog dialog{FileDialog::Kind::save, "Save file", "(*.pdf)|*.pdf", ".PDF", {}, false};
+    const FileDialog dialog{FileDialog::Kind::save,
+                            "Save file",
+                            "(*.pdf)|*.pdf",
+                            ".PDF",
+                            {},
+                            false,
+                            titleOfReport(design_.session()) + ".pdf"};
     for (;;) {
         const auto path = choose(dialog);
         if (!path || !outside_.files.exists(*path))
