@@ -1,8 +1,10 @@
 # How every target of the project is made: language level, warnings, sanitizers, one library a folder.
 
+# Headers that are compiled ahead need some leniency of the cache, see lorvane_precompile.
 find_program(CCACHE_PROGRAM ccache)
 if(CCACHE_PROGRAM)
-    set(CMAKE_CXX_COMPILER_LAUNCHER ${CCACHE_PROGRAM})
+    set(CMAKE_CXX_COMPILER_LAUNCHER
+        ${CMAKE_COMMAND} -E env CCACHE_SLOPPINESS=pch_defines,time_macros ${CCACHE_PROGRAM})
 endif()
 
 option(LORVANE_SANITIZE "Build with the address and undefined-behaviour sanitizers" OFF)
@@ -35,6 +37,20 @@ function(lorvane_library name)
     target_link_libraries(${name} PUBLIC lorvane_options ${ARG_LIBRARIES})
 endfunction()
 
+# lorvane_precompile(name <header>...): compiles headers only once for the target. Every file still includes what it uses.
+function(lorvane_precompile name)
+    target_precompile_headers(${name} PRIVATE ${ARGN})
+    target_compile_options(${name} PRIVATE
+        $<$<CXX_COMPILER_ID:GNU>:-fpch-preprocess> "$<$<CXX_COMPILER_ID:Clang>:SHELL:-Xclang -fno-pch-timestamp>")
+endfunction()
+
+# lorvane_precompile_qt(name): those that most files on Qt include, which halves the time of their build.
+function(lorvane_precompile_qt name)
+    lorvane_precompile(${name}
+        <QApplication> <QLabel> <QLineEdit> <QPainter> <QPushButton> <QScrollArea> <QStyleOption> <QVBoxLayout>
+        <algorithm> <functional> <map> <memory> <optional> <string> <vector>)
+endfunction()
+
 # lorvane_test(name SOURCES a.cpp ... LIBRARIES lorvane_engine ...): one GoogleTest program.
 function(lorvane_test name)
     cmake_parse_arguments(ARG "" "" "SOURCES;LIBRARIES" ${ARGN})
@@ -42,5 +58,9 @@ function(lorvane_test name)
     target_link_libraries(${name} PRIVATE lorvane_options ${ARG_LIBRARIES} GTest::gtest_main)
     target_include_directories(${name} PRIVATE ${CMAKE_SOURCE_DIR}/tests)
     target_compile_definitions(${name} PRIVATE LORVANE_TEST_DATA="${CMAKE_SOURCE_DIR}/tests/data")
+    list(LENGTH ARG_SOURCES sources)
+    if(sources GREATER 2)
+        lorvane_precompile(${name} <gtest/gtest.h> <algorithm> <functional> <map> <string> <vector>)
+    endif()
     add_test(NAME ${name} COMMAND ${name})
 endfunction()
