@@ -136,7 +136,7 @@ const CommandRow reportTable[] = {
      [](P p) { return enabledIf(p.report.isOpen() || p.session.study().result.xValid); },
      {Sign::none, false, "Ctrl+Shift+C"}},
     {"Make again",
-     "&Make again",
+     "Make a&new",
      "Make the report of the study as it stands now",
      command,
      [](P p) { p.report.makeAgain(); },

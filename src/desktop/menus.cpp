@@ -107,11 +107,22 @@ Menus::Menus(Desk& desk, QWidget* window, std::string screen)
 QAction* Menus::ownActionOf(const QKeySequence& key) const {
     const auto own = std::find_if(actions_.begin(), actions_.end(),
                                   [&](const auto& row) { return row.second->shortcuts().contains(key); });
-    const std::vector<Tool> tools = desk_.application().commands().tools();
+    const std::vector<Tool>& tools = desk_.application().commands().tools();
     const bool isShared = std::any_of(tools.begin(), tools.end(), [&](const Tool& tool) {
         return !actions_.contains(tool.Name) && keysOf(tool).contains(key);
     });
     return own != actions_.end() && isShared ? own->second : nullptr;
+}
+
+// The menu that a letter with Alt opens.
+QAction* Menus::ownMenuOf(const QKeySequence& key) const {
+    if (menuBar_ == nullptr || key.isEmpty())
+        return nullptr;
+    const QList<QAction*> menus = menuBar_->actions();
+    const auto found = std::find_if(menus.begin(), menus.end(), [&](const QAction* menu) {
+        return QKeySequence::mnemonic(menu->text()) == key;
+    });
+    return found == menus.end() ? nullptr : *found;
 }
 
 // The shortcuts of the main screen hold in its floating windows as well, and two for one key would cancel
@@ -119,12 +130,16 @@ QAction* Menus::ownActionOf(const QKeySequence& key) const {
 bool Menus::eventFilter(QObject* watched, QEvent* event) {
     if (event->type() != QEvent::ShortcutOverride && event->type() != QEvent::KeyPress)
         return QObject::eventFilter(watched, event);
-    QAction* action = ownActionOf(QKeySequence(static_cast<QKeyEvent*>(event)->keyCombination()));
-    if (action == nullptr)
+    const QKeySequence key(static_cast<QKeyEvent*>(event)->keyCombination());
+    QAction* action = ownActionOf(key);
+    QAction* menu = ownMenuOf(key);
+    if (action == nullptr && menu == nullptr)
         return false;
     event->accept();
-    if (event->type() == QEvent::KeyPress)
+    if (event->type() == QEvent::KeyPress && action != nullptr)
         action->trigger();
+    else if (event->type() == QEvent::KeyPress)
+        menuBar_->setActiveAction(menu);
     return true;
 }
 
@@ -198,6 +213,7 @@ QMenu* Menus::menu(const std::string& name) {
 }
 
 void Menus::fill(QMenuBar* bar) {
+    menuBar_ = bar;
     for (const Band& band : desk_.application().commands().bands()) {
         if (band.kind == BandKind::menu && band.screen == screen_)
             bar->addMenu(menu(band.Name));

@@ -56,6 +56,7 @@ protected:
 
 private:
     QAction* ownActionOf(const QKeySequence& key) const;
+    QAction* ownMenuOf(const QKeySequence& key) const;
     void sync(QAction* action, const Tool& tool);
     void addEntries(QMenu* menu, const Band& band);
     void addPowerButton(QToolBar* bar);
@@ -70,6 +71,7 @@ private:
     std::string screen_;
     std::map<std::string, QAction*> actions_;
     std::map<std::string, QMenu*> menus_;
+    QMenuBar* menuBar_ = nullptr;
     MenuButton* power_ = nullptr;
     std::vector<ToolButton*> words_;
     std::map<std::string, StressedLabel*> labels_;

@@ -21,6 +21,7 @@ namespace {
 
 constexpr int margin = 24;  // around the pages and between them
 constexpr double pixelsPerPoint = 96.0 / 72.0;
+constexpr double pointsPerInch = 72;
 constexpr double wholePercent = 100;
 constexpr double smallestScale = 0.1;
 constexpr int lineStep = 20;
@@ -68,6 +69,7 @@ ReportPages::ReportPages(QWidget* parent) : QAbstractScrollArea(parent) {
 // The matches of another report are not gone to, but a page that was asked for is.
 void ReportPages::setDocument(const Document& document, const ReportView& view) {
     pages_ = document.steps.empty() ? nullptr : std::make_unique<DocumentPages>(document);
+    leftMargin_ = document.page.leftMargin * pointsPerInch;
     const int jump = view_.jump;
     view_ = view;
     view_.jump = jump;
@@ -78,7 +80,8 @@ void ReportPages::setDocument(const Document& document, const ReportView& view) 
 
 void ReportPages::setView(const ReportView& view) {
     const ReportView before = std::exchange(view_, view);
-    const bool otherZoom = view.zoom != before.zoom || view.percent != before.percent;
+    const bool otherSize = view.zoom == Zooms::percent && view.percent != before.percent;
+    const bool otherZoom = view.zoom != before.zoom || otherSize;
     if (view.matches != before.matches)
         readMatches();
     if (otherZoom)
@@ -129,6 +132,8 @@ void ReportPages::arrange() {
     setRanges();
     toPlace();
     viewport()->update();
+    if (view_.zoom != Zooms::percent)
+        emit fitted(static_cast<int>(std::lround(wholePercent * scale_ / pixelsPerPoint)));
 }
 
 void ReportPages::setRanges() {
@@ -151,6 +156,10 @@ void ReportPages::toPlace() {
 void ReportPages::notePlace() {
     const int below = verticalScrollBar()->value() - topOf(view_.CurrentPage);
     place_ = {std::max(below, 0) / static_cast<double>(page_.height()), std::max(-below, 0)};
+    noteAcross();
+}
+
+void ReportPages::noteAcross() {
     if (horizontalScrollBar()->maximum() > 0)
         across_ = (horizontalScrollBar()->value() + viewport()->width() / 2.0) / (page_.width() + 2 * margin);
 }
@@ -183,10 +192,13 @@ void ReportPages::tellPage() {
         emit pageReached(page);
 }
 
+// A narrow view begins where the text does.
 void ReportPages::goToCurrent() {
     const WhileSet arranging(arranging_);
     place_ = {0, margin};
     toPlace();
+    horizontalScrollBar()->setValue(static_cast<int>(std::lround(leftMargin_ * scale_)));
+    noteAcross();
 }
 
 // What stays in view is moved as it is, where pixels of the screen are whole parts of ours and no ring lies

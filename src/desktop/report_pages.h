@@ -38,6 +38,9 @@ signals:
     /// The user scrolled to another page.
     void pageReached(int page);
 
+    /// The pages were made to fit the window, in percent of the true size.
+    void fitted(int percent);
+
     /// The wheel turned by a step with Ctrl held: larger (1) or smaller (-1).
     void zoomTurned(int direction);
 
@@ -67,6 +70,7 @@ private:
     void setRanges();
     void toPlace();
     void notePlace();
+    void noteAcross();
     int pageInView() const;
     void tellPage();
     void goToCurrent();
@@ -79,8 +83,9 @@ private:
 
     std::unique_ptr<DocumentPages> pages_;
     ReportView view_;
-    double scale_ = 1;  ///< pixels for a point
-    QSize page_;        ///< pixels
+    double scale_ = 1;       ///< pixels for a point
+    double leftMargin_ = 0;  ///< of the text, in points
+    QSize page_;             ///< pixels
     Place place_;
     double across_ = 0.5;  ///< of the content, what stands in the middle of the viewport
     bool arranging_ = false;

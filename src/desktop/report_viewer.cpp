@@ -50,6 +50,14 @@ ReportViewer::ReportViewer(Desk& desk, ToolPanel* panel)
     addStatus();
     connect(pages_, &ReportPages::pageReached, this,
             [this](int page) { desk_.setNumber("frmPrint.CurrentPage", page); });
+    // What fits the window is told when the program is done with what it is about.
+    connect(
+        pages_, &ReportPages::fitted, this,
+        [this](int percent) {
+            if (percent != model().view().percent)
+                desk_.setNumber("frmPrint.Zoom", percent);
+        },
+        Qt::QueuedConnection);
     connect(pages_, &ReportPages::zoomTurned, this,
             [this](int direction) { desk_.tool(direction > 0 ? "Zoom in" : "Zoom out"); });
     // Also while it is open already.
@@ -99,7 +107,7 @@ void ReportViewer::syncPages() {
 // The keyboard is with the pages, and while a text is looked for with its field. It goes before the field is
 // hidden, or it would go to whatever is next.
 void ReportViewer::syncFocus() {
-    const bool opens = isOpen() && !std::exchange(wasOpen_, isOpen());
+    const bool opens = !std::exchange(wasOpen_, isOpen()) && isOpen();
     const bool finding = model().view().isFinding;
     const bool wasFinding = std::exchange(wasFinding_, finding);
     if (opens || (wasFinding && !finding))

@@ -4,10 +4,13 @@
 #include <QApplication>
 #include <QPageSize>
 #include <QPainter>
+#include <QPointer>
 #include <QPrintDialog>
 #include <QPrinter>
 #include <algorithm>
 #include <stdexcept>
+
+#include "qt/window_in_use.h"
 
 namespace lorvane {
 
@@ -26,7 +29,8 @@ void setUp(QPrinter& printer, const DocumentPages& pages, const PageSetup& setup
 }
 
 bool isChosen(QPrinter& printer, int pages, std::optional<int> page) {
-    QPrintDialog dialog(&printer, QApplication::activeWindow());
+    const QPointer<QWidget> over = QApplication::activeWindow();
+    QPrintDialog dialog(&printer, over);
     dialog.setStyleSheet(QString::fromLatin1(tightButtons));
     dialog.setOption(QAbstractPrintDialog::PrintPageRange);
     dialog.setMinMax(1, pages);
@@ -34,7 +38,9 @@ bool isChosen(QPrinter& printer, int pages, std::optional<int> page) {
         dialog.setPrintRange(QAbstractPrintDialog::PageRange);
         dialog.setFromTo(*page, *page);
     }
-    return dialog.exec() == QDialog::Accepted;
+    const bool isAccepted = dialog.exec() == QDialog::Accepted;
+    giveKeyboard(over);
+    return isAccepted;
 }
 
 // In the order in which they come out of the printer, as often as it cannot repeat them itself.

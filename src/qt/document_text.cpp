@@ -109,11 +109,17 @@ int DocumentText::firstFilled(int line) const {
     return static_cast<int>(std::find_if(from, lines_.end(), isFilled) - lines_.begin());
 }
 
+// A line below an empty one opens what follows, as "Notes." does, and stays with it.
 bool DocumentText::mayBreakBefore(int line) const {
     const auto leavesOne = [](int before, int all) { return all > 2 && (before == 1 || before == all - 1); };
+    const auto isEmpty = [this](int each) {
+        return lines_[static_cast<std::size_t>(each)].text.textLength() == 0;
+    };
     const Line& next = lines_[static_cast<std::size_t>(line)];
     const int lines = pieces_[static_cast<std::size_t>(next.piece)]->lineCount();
-    return !leavesOne(line, this->lines()) && !leavesOne(next.number, lines);
+    const int filled = isEmpty(this->lines() - 1) ? this->lines() - 1 : this->lines();
+    const bool opens = line > 1 && isEmpty(line - 2) && !isEmpty(line - 1);
+    return !opens && !leavesOne(line, filled) && !leavesOne(next.number, lines);
 }
 
 int DocumentText::pageEnd(int from, int room, int least) const {

@@ -14,7 +14,8 @@ int emptyLines(const DocumentBlock& above, const DocumentBlock& below) {
     if (below.pageBreak == PageBreaks::forced)
         return 2;
     const bool hasTable = above.table || below.table;
-    return hasTable || below.above > below.points / 2 ? 1 : 0;
+    const bool isEmptySection = above.kind == BlockKinds::section && below.isHeading();
+    return hasTable || isEmptySection || below.above > below.points / 2 ? 1 : 0;
 }
 
 std::string textOf(const DocumentBlock& block) {

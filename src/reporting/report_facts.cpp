@@ -45,6 +45,59 @@ int effectDecimals(const Study& s) {
     return s.isBinary() && s.BinaryType == BinaryTypes::riskDifference ? riskDecimals : limitDecimals;
 }
 
+// A block of the table of ICCs: of the level by itself, or with all levels above it.
+struct IccBlock {
+    double share, SD, lower, upper;
+};
+
+std::string iccText(const Study& s, const IccBlock& block, IccColumn column, bool spanUnits) {
+    using enum IccColumn;
+    const int decimals = s.isMeans() ? limitDecimals : riskDecimals;
+    switch (column) {
+    case ICCW:
+        return fixedText(block.share, s.decimals.txtICC);
+    case PctW:
+        return shareText(s, block.share);
+    case SDW:
+        return fixedText(block.SD, sdDecimals);
+    case VarW:
+        return fixedText(block.SD * block.SD, sdDecimals);
+    case SpanW:
+        return spanText(s, spanOfOneSd * block.SD, spanUnits);
+    case LLW:
+        return fixedText(block.lower, decimals);
+    case ULW:
+        return fixedText(block.upper, decimals);
+    default:
+        return limitsText(block.lower, block.upper, decimals);
+    }
+}
+
+// The same of the table of effects.
+struct TauSqBlock {
+    double tauSquared, span, lower, upper;
+    bool hasLimits;
+};
+
+std::string tauSqText(const Study& s, const TauSqBlock& block, TauSqColumn column) {
+    using enum TauSqColumn;
+    const int decimals = effectDecimals(s);
+    if (column == TauSqW)
+        return fixedText(block.tauSquared, tauSqDecimals);
+    if (column == SpanW)
+        return fixedText(block.span, decimals);
+    if (!block.hasLimits)
+        return "";
+    switch (column) {
+    case LLW:
+        return fixedText(block.lower, decimals);
+    case ULW:
+        return fixedText(block.upper, decimals);
+    default:
+        return limitsText(block.lower, block.upper, decimals);
+    }
+}
+
 }  // namespace
 
 std::string levelName(const Study& s, int level) { return onOneLine(s.txtName(level)); }
@@ -67,91 +120,33 @@ std::string listed(const std::vector<std::string>& texts) {
 std::string riskText(const Study& s, double risk) { return fixedText(risk, GetCurrFmt(s)); }
 
 std::string GetInsertICC(const Study& s, int level, IccColumn column, bool spanUnits) {
-    using enum IccColumn;
-    const IccRow row = iccRow(s, level);
-    if (column == Level)
+    if (column == IccColumn::Level)
         return levelName(s, level);
+    const IccRow row = iccRow(s, level);
     if (!row.told)
         return "";
-    const int decimals = s.isMeans() ? limitDecimals : riskDecimals;
-    switch (column) {
-    case ICCW:
-        return fixedText(row.share, s.decimals.txtICC);
-    case PctW:
-        return shareText(s, row.share);
-    case SDW:
-        return fixedText(row.SD, sdDecimals);
-    case VarW:
-        return fixedText(row.SD * row.SD, sdDecimals);
-    case SpanW:
-        return spanText(s, spanOfOneSd * row.SD, spanUnits);
-    case LLW:
-        return fixedText(row.lower, decimals);
-    case ULW:
-        return fixedText(row.upper, decimals);
-    case ExampleW:
-        return limitsText(row.lower, row.upper, decimals);
-    case ICCC:
-        return fixedText(row.cumulativeShare, s.decimals.txtICC);
-    case PctC:
-        return shareText(s, row.cumulativeShare);
-    case SDC:
-        return fixedText(row.cumulativeSD, sdDecimals);
-    case VarC:
-        return fixedText(row.cumulativeSD * row.cumulativeSD, sdDecimals);
-    case SpanC:
-        return spanText(s, spanOfOneSd * row.cumulativeSD, spanUnits);
-    case LLC:
-        return fixedText(row.cumulativeLower, decimals);
-    case ULC:
-        return fixedText(row.cumulativeUpper, decimals);
-    case ExampleC:
-        return limitsText(row.cumulativeLower, row.cumulativeUpper, decimals);
-    case Level:
-        break;
-    }
-    return "";
+    const int blockWidth = static_cast<int>(IccColumn::ICCC) - static_cast<int>(IccColumn::ICCW);
+    if (column < IccColumn::ICCC)
+        return iccText(s, {row.share, row.SD, row.lower, row.upper}, column, spanUnits);
+    return iccText(s, {row.cumulativeShare, row.cumulativeSD, row.cumulativeLower, row.cumulativeUpper},
+                   IccColumn{static_cast<int>(column) - blockWidth}, spanUnits);
 }
 
 std::string GetInsertTauSq(const Study& s, int level, TauSqColumn column) {
-    using enum TauSqColumn;
-    const TauSqRow row = tauSqRow(s, level);
-    if (column == Level || column == LevelC)
+    if (column == TauSqColumn::Level || column == TauSqColumn::LevelC)
         return levelName(s, level);
-    const int decimals = effectDecimals(s);
-    const bool isLimit = column == LLW || column == ULW || column == ExampleW || column == LLC ||
-                         column == ULC || column == ExampleC;
-    if (isLimit && !row.hasLimits)
-        return "";
-    switch (column) {
-    case TauSqW:
-        return fixedText(row.tauSquared, tauSqDecimals);
-    case SpanW:
-        return fixedText(row.span, decimals);
-    case LLW:
-        return fixedText(row.lower, decimals);
-    case ULW:
-        return fixedText(row.upper, decimals);
-    case ExampleW:
-        return limitsText(row.lower, row.upper, decimals);
-    case OmegaW:
+    if (column == TauSqColumn::OmegaC)
+        return "";  // omegas are not added
+    const TauSqRow row = tauSqRow(s, level);
+    if (column == TauSqColumn::OmegaW)
         return s.effect.ValidOmega(level) ? fixedText(row.omega, s.decimals.txtOmega) : "";
-    case TauSqC:
-        return fixedText(row.cumulativeTauSquared, tauSqDecimals);
-    case SpanC:
-        return fixedText(row.cumulativeSpan, decimals);
-    case LLC:
-        return fixedText(row.cumulativeLower, decimals);
-    case ULC:
-        return fixedText(row.cumulativeUpper, decimals);
-    case ExampleC:
-        return limitsText(row.cumulativeLower, row.cumulativeUpper, decimals);
-    case Level:
-    case LevelC:
-    case OmegaC:
-        break;
-    }
-    return "";
+    const int blockWidth = static_cast<int>(TauSqColumn::LevelC) - static_cast<int>(TauSqColumn::Level);
+    if (column < TauSqColumn::LevelC)
+        return tauSqText(s, {row.tauSquared, row.span, row.lower, row.upper, row.hasLimits}, column);
+    return tauSqText(s,
+                     {row.cumulativeTauSquared, row.cumulativeSpan, row.cumulativeLower, row.cumulativeUpper,
+                      row.hasLimits},
+                     TauSqColumn{static_cast<int>(column) - blockWidth});
 }
 
 std::string meanEffect(const Study& s) {

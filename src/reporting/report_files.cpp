@@ -13,6 +13,18 @@
 
 namespace lorvane {
 
+namespace {
+
+constexpr const char* pdfEnding = ".PDF";
+
+// A name for a PDF ends as one; any of the endings does for a report.
+bool hasEnding(const std::string& path, const FileDialog& dialog) {
+    const auto format = reportFormatOf(path);
+    return format && (dialog.defaultExtension == pdfEnding) == (format == ReportFormats::pdf);
+}
+
+}  // namespace
+
 void ReportFiles::keepPanelsAway() {
     if (design_.isOpen(WindowId::frmPrint))
         design_.SuspendForms(FormSet::main);
@@ -30,7 +42,7 @@ std::optional<std::string> ReportFiles::choose(const FileDialog& dialog) {
     auto path = outside_.dialogs.choose(dialog);
     design_.RestoreForms(FormSet::main);
     keepPanelsAway();
-    if (path && path->find('.', path->find_last_of('/') + 1) == std::string::npos)
+    if (path && !hasEnding(*path, dialog))
         *path += dialog.defaultExtension;
     return path;
 }
@@ -49,7 +61,7 @@ std::optional<std::string> ReportFiles::GetFileNamePDF() {
     const FileDialog dialog{FileDialog::Kind::save,
                             "Save file",
                             "(*.pdf)|*.pdf",
-                            ".PDF",
+                            pdfEnding,
                             {},
                             false,
                             titleOfReport(design_.session()) + ".pdf"};
@@ -62,9 +74,8 @@ std::optional<std::string> ReportFiles::GetFileNamePDF() {
 }
 
 bool ReportFiles::write(const Document& report, const std::string& path, ReportModes mode) {
-    const ReportFormats format = mode == ReportModes::pdf                      ? ReportFormats::pdf
-                                 : reportFormatOf(path) == ReportFormats::text ? ReportFormats::text
-                                                                               : ReportFormats::rtf;
+    const ReportFormats format =
+        mode == ReportModes::pdf ? ReportFormats::pdf : reportFormatOf(path).value_or(ReportFormats::rtf);
     try {
         outside_.files.replace(path, reportBytes(report, format, outside_.press));
     } catch (const std::runtime_error&) {
@@ -96,7 +107,7 @@ std::string ReportFiles::print(const Document& report, std::optional<int> page) 
     if (outside_.press == nullptr)
         return noPages;
     try {
-        return outside_.press->print(report, page) ? "The report goes to the printer." : "";
+        return outside_.press->print(report, page) ? "The report has been printed." : "";
     } catch (const std::runtime_error& problem) {
         ask("Print", problem.what());
         return problem.what();

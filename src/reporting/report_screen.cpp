@@ -9,6 +9,7 @@
 #include "base/number_text.h"
 #include "base/while_set.h"
 #include "reporting/document_search.h"
+#include "session/field_book.h"
 #include "validation/icc_messages.h"
 
 namespace lorvane {
@@ -42,9 +43,11 @@ void ReportScreen::open() {
 bool ReportScreen::ReportMake(const std::string& fileName, ReportModes mode, EffectQuestion question) {
     if (!passesChecks(question))
         return false;
+    madeWith_ = settingsOf(design_.settings());
     const WhileSet making(isMaking_);
     generate();
-    tell(truncationNote(design_.study()));
+    madeFor_ = design_.session().state();
+    tell("");
     if (mode != ReportModes::view && !fileName.empty() && files_.write(report_.document, fileName, mode))
         ReportFilePath_ = fileName;
     return true;
@@ -68,13 +71,22 @@ bool ReportScreen::lacksEffect() const {
 
 void ReportScreen::generate() {
     ++revision_;
-    madeWith_ = settingsOf(design_.settings());
     makeReport(design_.session(), extras_, press_, report_);
     view_.pages = report_.pages;
     view_.CurrentPage = std::clamp(view_.CurrentPage, 1, view_.pages);
     Displaypage();
     if (view_.isFinding)
         search(view_.match.value_or(0));
+}
+
+// What was done, and what a reader of the report has to know.
+void ReportScreen::tell(std::string done) {
+    const bool isOld = !sameValues(madeFor_, design_.session().state());
+    const std::string known = isOld ? "The study has changed since this report was made; F5 makes it anew."
+                                    : truncationNote(madeFor_.study);
+    if (!done.empty() && !known.empty())
+        done += ' ';
+    pnlStatus_.Caption = done + known;
 }
 
 void ReportScreen::makeAgain() { ReportMake("", ReportModes::view, EffectQuestion::leaveOut); }
@@ -227,16 +239,17 @@ void ReportScreen::print(std::optional<int> page) { tell(files_.print(report_.do
 
 // What happens around it -----------------------------------------------------------------------------------
 
-// The report is a picture of the study at one moment: it follows its own settings and nothing else.
+// The report is a picture of the study at one moment: it follows its own settings and nothing else, once the
+// study gives an answer.
 void ReportScreen::follow(const Changed& changed) {
     if (!isOpen() || isMaking_)
         return;
     if (changed.otherStudy)
         close();
-    else if (madeWith_ != settingsOf(design_.settings()))
+    else if (madeWith_ != settingsOf(design_.settings()) && design_.study().result.xValid)
         makeAgain();
     else if (changed.reach == Reach::study)
-        tell("The study has changed since this report was made; F5 makes it anew.");
+        tell("");
 }
 
 void ReportScreen::registerNames(ControlRegistry& registry) const {
@@ -252,11 +265,14 @@ void ReportScreen::registerNames(ControlRegistry& registry) const {
 
 void ReportScreen::registerEvents(EventRegistry& events) {
     constexpr double mostPages = 10000;
+    constexpr double mostPercent = 10000;
     events.addTextBox("frmPrint.txtFind", txtFind_);
     events.onTyped("frmPrint.txtFind", [this] { find(); });
     events.onClick("frmPrint.cmdEndFind", [this] { endFind(); });
     events.onClose("frmPrint", [this] { close(); });
-    // The viewer was scrolled to another page.
+    // The viewer was scrolled to another page, or has made the pages fit; steps of the zoom begin there.
+    events.addNumber("frmPrint.Zoom",
+                     {1, mostPercent, [this](double percent) { view_.percent = static_cast<int>(percent); }});
     events.addNumber("frmPrint.CurrentPage", {1, mostPages, [this](double page) {
                                                   view_.CurrentPage = std::clamp(static_cast<int>(page), 1,
                                                                                  std::max(view_.pages, 1));

@@ -99,7 +99,7 @@ private:
     void Displaypage();
     void search(std::size_t match);
     void tellMatch();
-    void tell(std::string text) { pnlStatus_.Caption = std::move(text); }
+    void tell(std::string done);
 
     Design& design_;
     DocumentPress* press_;
@@ -115,6 +115,7 @@ private:
     Panel pnlFound_;
     bool isMaking_ = false;
     ReportSettings madeWith_;  ///< the last report
+    SessionState madeFor_;     ///< what the report tells of
 };
 
 }  // namespace lorvane

@@ -15,7 +15,6 @@ constexpr double usualSize = 9.5;
 constexpr double pleasantSize = 7.5;  // below it, text is broken to make room for larger letters
 constexpr double smallestSize = 6.5;
 constexpr double padding = 10.0 / 72;  // both sides together
-constexpr double widestName = 1.7;
 constexpr double mostStretch = 1.5;
 
 // How wide a letter is beside a digit.
@@ -41,13 +40,29 @@ double digitsOf(std::string_view text) {
 // A digit is so wide beside the size of the letters.
 double digitOf(const std::string& font) { return font == "Arial" ? 0.556 : 0.507; }
 
-// The length of the longest part between these signs, in digits.
-double longestPart(std::string_view text, std::string_view signs) {
+// Where a line may be broken: at a blank with words on both sides, not as in "# Cov" or "in means".
+std::size_t endOfPart(std::string_view text) {
+    constexpr std::size_t shortest = 3;
+    std::size_t from = 0;
+    for (;;) {
+        const std::size_t blank = text.find(' ', from);
+        if (blank == std::string_view::npos)
+            return text.size();
+        const std::size_t next = std::min(text.find(' ', blank + 1), text.size());
+        if (blank >= shortest && next - blank - 1 >= shortest)
+            return blank;
+        from = blank + 1;
+    }
+}
+
+// The length of the longest line, or of its longest part where lines may be broken; in digits.
+double longestPart(std::string_view text, bool isBroken) {
     double longest = 0;
     while (!text.empty()) {
-        const std::size_t end = std::min(text.find_first_of(signs), text.size());
-        longest = std::max(longest, digitsOf(text.substr(0, end)));
-        text.remove_prefix(std::min(end + 1, text.size()));
+        const std::string_view line = text.substr(0, text.find('\n'));
+        const std::string_view part = isBroken ? line.substr(0, endOfPart(line)) : line;
+        longest = std::max(longest, digitsOf(part));
+        text.remove_prefix(std::min(part.size() + 1, text.size()));
     }
     return longest;
 }
@@ -90,16 +105,33 @@ void TableDraft::hide(std::size_t column) {
         row[column - 1] = TableCell();
 }
 
-// A long name is broken, in the end between its letters.
+namespace {
+
+// Names and heads give way before numbers do: they may be so wide, in inches.
+struct Limits {
+    double name;
+    double head;
+};
+
+Limits limitsOf(TableDraft::Breaks breaks) {
+    using enum TableDraft::Breaks;
+    return breaks == lines ? Limits{1.7, 1.2} : breaks == words ? Limits{1.2, 0.9} : Limits{0.9, 0.55};
+}
+
+}  // namespace
+
 double TableDraft::wantedWidth(std::size_t column, double digitWidth, Breaks breaks) const {
+    const Limits limits = limitsOf(breaks);
     double wanted = 0;
     for (std::size_t row = 0; row < rows_.size(); ++row) {
         const TableCell& cell = rows_[row][column];
         const bool isHead = row < headRows_;
         const bool isName = column == 0 && !isHead;
         const bool isBroken = breaks == Breaks::all || (breaks == Breaks::words && (isHead || isName));
-        const double width = longestPart(cell.text, isBroken ? "\n " : "\n") * digitWidth + padding;
-        wanted = std::max(wanted, (isName ? std::min(width, widestName) : width) / cell.columns);
+        double width = longestPart(cell.text, isBroken) * digitWidth + padding;
+        if (isHead || isName)
+            width = std::min(width, isHead ? limits.head * cell.columns : limits.name);
+        wanted = std::max(wanted, width / cell.columns);
     }
     return wanted;
 }

@@ -21,6 +21,9 @@ struct ReportTable {
 /// Rows and columns are counted from 1.
 class TableDraft {
 public:
+    /// Where texts may be broken: nowhere, between the words of heads and names, between all words.
+    enum class Breaks { lines, words, all };
+
     TableDraft(std::size_t columns, std::size_t headRows, std::size_t bodyRows);
 
     /// A head, over several columns or rows. In the second row one over numbers stands at the right, as they
@@ -44,8 +47,6 @@ public:
     ReportTable fitted(const PageSetup& page) const;
 
 private:
-    /// Where texts may be broken: nowhere, between the words of heads and names, between all words.
-    enum class Breaks { lines, words, all };
     struct Columns {
         std::vector<double> widths;
         double scale;
