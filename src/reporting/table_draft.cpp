@@ -115,7 +115,7 @@ struct Limits {
 
 Limits limitsOf(TableDraft::Breaks breaks) {
     using enum TableDraft::Breaks;
-    return breaks == lines ? Limits{1.7, 1.2} : breaks == words ? Limits{1.2, 0.9} : Limits{0.9, 0.55};
+    return breaks == lines ? Limits{1.7, 1.2} : breaks == words ? Limits{1.2, 0.9} : Limits{1.0, 0.75};
 }
 
 }  // namespace

@@ -13,6 +13,7 @@
 #include "reporting/recording_surface.h"
 #include "reporting/report_generate.h"
 #include "reporting/report_sections.h"
+#include "reporting/report_tables.h"
 #include "support/test_platform.h"
 
 namespace lorvane {
@@ -159,6 +160,30 @@ TEST(GoldenTest, TellsFourLevelsInOrder) {
         const std::string text = plainTextOf(MadeStudy(name).document());
         for (const char* sentence : sentences)
             EXPECT_NE(text.find(sentence), std::string::npos) << name << "\n" << sentence;
+    }
+}
+
+// Numbers are never broken or made smaller for the sake of a name.
+TEST(GoldenTest, LongNamesOfGroupsLeaveRoomForNumbers) {
+    MadeStudy study("risks_four_levels_blocked");
+    const std::string name(60, 'm');
+    study.application.set(std::vector<Assignment>{{"txtGroupName(1)", name}, {"txtCostB(4)", 123456.0}});
+    for (const char* font : {"Calibri", "Arial"}) {
+        const PageSetup page{.font = font};
+        const auto& [table, size] = ReportMainTable(study.facts(), page);
+        const double digit = (page.font == "Arial" ? 0.556 : 0.507) * size / 72;
+        const double padding = 9 * (size / 9.5) / 72;
+        for (std::size_t row = table.headRows; row < table.rows.size(); ++row) {
+            for (std::size_t column = 1; column < table.columnWidths.size(); ++column) {
+                const std::string& text = table.rows[row][column].text;
+                const auto points = std::count(text.begin(), text.end(), '.');
+                const double digits = static_cast<double>(text.size()) - 0.5 * static_cast<double>(points);
+                if (!text.empty() && text.find_first_not_of("0123456789.") == std::string::npos) {
+                    EXPECT_LE(digits * digit + padding, table.columnWidths[column])
+                        << font << " " << text << " in column " << column;
+                }
+            }
+        }
     }
 }
 
