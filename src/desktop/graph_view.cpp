@@ -5,11 +5,9 @@
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QLineEdit>
-#include <QMenuBar>
 #include <QPainter>
 #include <QScreen>
 #include <QScrollArea>
-#include <QToolBar>
 #include <QVBoxLayout>
 #include <algorithm>
 
@@ -32,8 +30,6 @@ constexpr int pageMargin = 20;
 constexpr int cardPadding = 22;
 constexpr int roomAboveFooter = 520;  // bars, header, and a chart that can be read
 constexpr int leastFooter = 54;       // three lines
-constexpr int menuHeight = 30;
-constexpr int toolHeight = 44;
 constexpr int statusHeight = 28;
 constexpr int narrow = 1040;   // below, the words of the tool bar go
 constexpr int frameRoom = 60;  // of the screen, for the frame of the window system
@@ -73,7 +69,7 @@ GraphView::GraphView(Desk& desk, ToolPanel* panel)
     panel->setMinimumSize(smallestSize);
     const QSize room = panel->screen()->availableGeometry().size() - QSize(0, frameRoom);
     panel->resize(firstSize.boundedTo(room).expandedTo(smallestSize));
-    addBars();
+    menus_->addTo(column);
     column->addWidget(makePage(), 1);
     connect(plot_, &ChartPlot::picked, this, [this](int series, int point) {
         desk_.click("xPlot.CurrChart(" + std::to_string(series) + "," + std::to_string(point) + ")");
@@ -84,19 +80,6 @@ GraphView::GraphView(Desk& desk, ToolPanel* panel)
 }
 
 // Parts ----------------------------------------------------------------------------------------------------
-
-void GraphView::addBars() {
-    auto* menuBar = new QMenuBar;
-    menus_->fill(menuBar);
-    menuBar->setFixedHeight(menuHeight);
-    panel()->content()->addWidget(menuBar);
-    auto* bar = new QToolBar;
-    bar->setWindowTitle(shownText(desk_.application().commands().band("xPlotBar")->Caption));
-    bar->setFixedHeight(toolHeight);
-    bar->layout()->setContentsMargins(0, 0, 0, 0);
-    menus_->fill(bar);
-    panel()->content()->addWidget(bar);
-}
 
 // The card with the status line below it.
 QWidget* GraphView::makePage() {

@@ -34,7 +34,6 @@ protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
-    void addBars();
     QWidget* makePage();
     QWidget* makeCard();
     void addHeader(QVBoxLayout* column);

@@ -4,6 +4,7 @@
 #include <QKeyEvent>
 #include <QMenuBar>
 #include <QToolBar>
+#include <QVBoxLayout>
 #include <algorithm>
 #include <optional>
 #include <utility>
@@ -18,6 +19,8 @@ namespace lorvane::desktop {
 
 namespace {
 
+constexpr int menuHeight = 30;
+constexpr int toolHeight = 44;
 constexpr const char* powerTool = "Set power";
 constexpr const char* powerBand = "popSetPower";
 constexpr int labelMargin = 10;
@@ -302,6 +305,19 @@ void Menus::fill(QToolBar* bar) {
             addTool(bar, entry.name);
     }
     addSpace(bar);
+}
+
+void Menus::addTo(QVBoxLayout* column) {
+    auto* menuBar = new QMenuBar;
+    fill(menuBar);
+    menuBar->setFixedHeight(menuHeight);
+    column->addWidget(menuBar);
+    auto* bar = new QToolBar;
+    bar->setWindowTitle(shownText(toolBar().Caption));
+    bar->setFixedHeight(toolHeight);
+    bar->layout()->setContentsMargins(0, 0, 0, 0);
+    fill(bar);
+    column->addWidget(bar);
 }
 
 void Menus::popup(const std::string& band, const QPoint& place) {

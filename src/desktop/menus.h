@@ -14,6 +14,7 @@
 
 class QMenuBar;
 class QToolBar;
+class QVBoxLayout;
 
 namespace lorvane::desktop {
 
@@ -34,6 +35,9 @@ public:
 
     /// Fills the tool bar: signs with words where the eye needs them, guide and details at the right end.
     void fill(QToolBar* bar);
+
+    /// A window of its own: puts its menu bar and its tool bar into a column.
+    void addTo(QVBoxLayout* column);
 
     /// Opens the popup of a band; nothing for a band without tools.
     void popup(const std::string& band, const QPoint& place);

@@ -3,9 +3,7 @@
 
 #include <QAction>
 #include <QEvent>
-#include <QMenuBar>
 #include <QScreen>
-#include <QToolBar>
 #include <QVBoxLayout>
 #include <utility>
 
@@ -23,8 +21,6 @@ namespace {
 constexpr const char* screenName = "frmPrint";
 constexpr QSize firstSize(1080, 1000);
 constexpr QSize smallestSize(600, 420);
-constexpr int menuHeight = 30;
-constexpr int toolHeight = 44;
 constexpr int statusHeight = 28;
 constexpr int statusMargin = 20;
 constexpr int narrow = 1060;   // below, the words of the tool bar go
@@ -44,7 +40,7 @@ ReportViewer::ReportViewer(Desk& desk, ToolPanel* panel)
     panel->setMinimumSize(smallestSize);
     const QSize room = panel->screen()->availableGeometry().size() - QSize(0, frameRoom);
     panel->resize(firstSize.boundedTo(room).expandedTo(smallestSize));
-    addBars();
+    menus_->addTo(column);
     column->addWidget(find_);
     column->addWidget(pages_, 1);
     addStatus();
@@ -62,19 +58,6 @@ ReportViewer::ReportViewer(Desk& desk, ToolPanel* panel)
             [this](int direction) { desk_.tool(direction > 0 ? "Zoom in" : "Zoom out"); });
     // Also while it is open already.
     connect(menus_->action("Find"), &QAction::triggered, find_, &ReportFind::takeFocus);
-}
-
-void ReportViewer::addBars() {
-    auto* menuBar = new QMenuBar;
-    menus_->fill(menuBar);
-    menuBar->setFixedHeight(menuHeight);
-    panel()->content()->addWidget(menuBar);
-    auto* bar = new QToolBar;
-    bar->setWindowTitle(shownText(desk_.application().commands().band("frmPrintBar")->Caption));
-    bar->setFixedHeight(toolHeight);
-    bar->layout()->setContentsMargins(0, 0, 0, 0);
-    menus_->fill(bar);
-    panel()->content()->addWidget(bar);
 }
 
 void ReportViewer::addStatus() {

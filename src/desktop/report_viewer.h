@@ -24,7 +24,6 @@ protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
-    void addBars();
     void addStatus();
     void syncPages();
     void syncFocus();
