@@ -10,6 +10,7 @@
 
 #include "cli/drive.h"
 #include "reporting/document_text.h"
+#include "reporting/make_report.h"
 #include "reporting/recording_surface.h"
 #include "reporting/report_generate.h"
 #include "reporting/report_sections.h"
@@ -185,6 +186,35 @@ TEST(GoldenTest, LongNamesOfGroupsLeaveRoomForNumbers) {
             }
         }
     }
+}
+
+// Pages that fail when the first table comes.
+struct FailingPress final : DocumentPress {
+    struct Pages final : DocumentSurface {
+        void send(const DocumentStep&) override {}
+        double Y1() override { return 0; }
+        double heightOf(const DocumentTable&) override { throw std::runtime_error("no table"); }
+        int pages() override { return 1; }
+    };
+    std::unique_ptr<DocumentSurface> start(const PageSetup&) override { return std::make_unique<Pages>(); }
+    std::string pdf(const Document&) override { return ""; }
+    std::string picture(const Document&, int) override { return ""; }
+    bool print(const Document&, std::optional<int>) override { return false; }
+};
+
+TEST(GoldenTest, AReportThatFailsIsClosedOnce) {
+    FailingPress press;
+    TestPlatform outside;
+    SteadyClock clock;
+    lorvane::Session session(outside.library, {"$", CurrencyPositions::before}, clock);
+    MadeReport made;
+    EXPECT_THROW(makeReport(session, {}, &press, made), std::runtime_error);
+    const auto& steps = made.document.steps;
+    ASSERT_FALSE(steps.empty());
+    EXPECT_TRUE(std::holds_alternative<step::EndDoc>(steps.back()));
+    EXPECT_EQ(std::count_if(steps.begin(), steps.end(),
+                            [](const auto& each) { return std::holds_alternative<step::EndDoc>(each); }),
+              1);
 }
 
 TEST(GoldenTest, TakesThePageOfTheStudy) {
