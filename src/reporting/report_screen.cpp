@@ -167,7 +167,7 @@ void ReportScreen::close() {
     endFind();
     design_.SynchForms(WindowId::frmPrint, WindowAction::unload);
     design_.RestoreForms(FormSet::main);
-    design_.show({});
+    design_.closeUnfit();
 }
 
 // Finding --------------------------------------------------------------------------------------------------

@@ -160,21 +160,27 @@ void Design::writeCost() {
     screen_.pnlCostBar.Flood = SmallerOf(amount / study().MaxCost * 100, fullBar);
 }
 
-// The windows that tell of problems follow the computation. Where its arithmetic could not go on none opens.
-void Design::moveWindows(bool heldArrow) {
+void Design::closeUnfit() {
     const auto closeIf = [&](bool close, WindowId window) {
         if (close)
             SynchForms(window, WindowAction::withdrawForGood);
     };
+    const bool isComputed = session_.faultWords().empty();
+    closeIf(study().isHierarchical(), frmDisplayTauSq);
+    closeIf(study().isMeans(), frmCounts);
+    closeIf(study().isBinary() && study().result.ValidES, frmProblemES);
+    closeIf(isComputed && session_.computation().outcome.obstacle == Obstacle::none, frmProblems);
+}
+
+// The windows that tell of problems follow the computation. Where its arithmetic could not go on none opens.
+void Design::moveWindows(bool heldArrow) {
     const auto openIf = [&](bool open, WindowId window) {
         if (open)
             SynchForms(window, WindowAction::open);
     };
     const bool faulty = !session_.faultWords().empty();
     const Obstacle obstacle = faulty ? Obstacle::none : session_.computation().outcome.obstacle;
-    closeIf(study().isHierarchical(), frmDisplayTauSq);
-    closeIf(study().isBinary() && study().result.ValidES, frmProblemES);
-    closeIf(obstacle == Obstacle::none && !faulty, frmProblems);
+    closeUnfit();
     openIf(obstacle == Obstacle::effect, frmProblemES);
     openIf(obstacle == Obstacle::icc, frmDisplayICC);
     openIf(obstacle == Obstacle::tauSq, frmDisplayTauSq);

@@ -85,6 +85,9 @@ public:
     /// Puts all windows back into earlier states.
     void putBack(const WindowRegistry& windows) { windows_ = windows; }
 
+    /// Closes windows that the study has no use for, as those of a problem that is gone.
+    void closeUnfit();
+
     /// Withdraws the windows of a set, and brings the same ones back.
     void SuspendForms(FormSet set);
     void RestoreForms(FormSet set);
