@@ -178,7 +178,6 @@ constexpr Place places[] = {
     {"cost blocked", amount<&S::txtCostB>},
     {"total cost", [](F f, int) { return costText(f.study().result.txtCost, f.state.settings.currency); }},
     // Dispersion of the outcome
-    {"ICC", icc<I::ICCW>},
     {"ICCs", [](F f, int) { return listed(ofClusters(f, I::ICCW)); }},
     {"percent", icc<I::PctW>},
     {"percent within", [](F f, int) { return GetInsertICC(f.study(), 1, I::PctW, true); }},
