@@ -6,7 +6,6 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QPainter>
-#include <QScreen>
 #include <QScrollArea>
 #include <QVBoxLayout>
 #include <algorithm>
@@ -31,8 +30,7 @@ constexpr int cardPadding = 22;
 constexpr int roomAboveFooter = 520;  // bars, header, and a chart that can be read
 constexpr int leastFooter = 54;       // three lines
 constexpr int statusHeight = 28;
-constexpr int narrow = 1040;   // below, the words of the tool bar go
-constexpr int frameRoom = 60;  // of the screen, for the frame of the window system
+constexpr int narrow = 1040;  // below, the words of the tool bar go
 
 // A line of one pixel.
 class Separator : public QWidget {
@@ -61,14 +59,8 @@ GraphView::GraphView(Desk& desk, ToolPanel* panel)
       secondHeader_(new QLineEdit), plot_(new ChartPlot), line_(new Separator), footerArea_(new QScrollArea),
       status_(new ElidedLabel) {
     panel->setWindowTitle(shownText(windowTitle(WindowId::xPlot)));
-    panel->setAttribute(Qt::WA_ShowWithoutActivating, false);
     panel->installEventFilter(this);
-    QVBoxLayout* column = panel->content();
-    column->setSizeConstraint(QLayout::SetDefaultConstraint);
-    column->setContentsMargins(0, 0, 0, 0);
-    panel->setMinimumSize(smallestSize);
-    const QSize room = panel->screen()->availableGeometry().size() - QSize(0, frameRoom);
-    panel->resize(firstSize.boundedTo(room).expandedTo(smallestSize));
+    QVBoxLayout* column = makeScreen(firstSize, smallestSize);
     menus_->addTo(column);
     column->addWidget(makePage(), 1);
     connect(plot_, &ChartPlot::picked, this, [this](int series, int point) {

@@ -2,15 +2,16 @@
 #include "desktop/panel_view.h"
 
 #include <QGuiApplication>
-#include <QLayout>
 #include <QScreen>
+#include <QVBoxLayout>
 #include <algorithm>
 
 namespace lorvane::desktop {
 
 namespace {
 
-constexpr int frameRoom = 50;  // for the frame of the window system
+constexpr int frameRoom = 50;    // for the frame of the window system
+constexpr int titledFrame = 60;  // the same of a screen as high as it can be
 
 }  // namespace
 
@@ -23,6 +24,17 @@ PanelView::PanelView(Desk& desk, ToolPanel* panel, const std::string& name)
         prepareClose();
         desk_.close(name);
     });
+}
+
+QVBoxLayout* PanelView::makeScreen(QSize firstSize, QSize smallestSize) {
+    panel_->setAttribute(Qt::WA_ShowWithoutActivating, false);
+    QVBoxLayout* column = panel_->content();
+    column->setSizeConstraint(QLayout::SetDefaultConstraint);
+    column->setContentsMargins(0, 0, 0, 0);
+    panel_->setMinimumSize(smallestSize);
+    const QSize room = panel_->screen()->availableGeometry().size() - QSize(0, titledFrame);
+    panel_->resize(firstSize.boundedTo(room).expandedTo(smallestSize));
+    return column;
 }
 
 void PanelView::setFirstPlace(double x, double y) {

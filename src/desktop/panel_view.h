@@ -31,6 +31,10 @@ public:
     void follow();
 
 protected:
+    /// Makes the window one that is worked in as long as the user likes: it takes the keyboard and has any
+    /// size from the smallest on. Its column has no margins.
+    QVBoxLayout* makeScreen(QSize firstSize, QSize smallestSize);
+
     /// What has to reach the program before the window asks to be closed.
     virtual void prepareClose() {}
 

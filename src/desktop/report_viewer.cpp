@@ -3,7 +3,6 @@
 
 #include <QAction>
 #include <QEvent>
-#include <QScreen>
 #include <QVBoxLayout>
 #include <utility>
 
@@ -23,8 +22,7 @@ constexpr QSize firstSize(1080, 1000);
 constexpr QSize smallestSize(600, 420);
 constexpr int statusHeight = 28;
 constexpr int statusMargin = 20;
-constexpr int narrow = 1060;   // below, the words of the tool bar go
-constexpr int frameRoom = 60;  // of the screen, for the frame of the window system
+constexpr int narrow = 1060;  // below, the words of the tool bar go
 
 }  // namespace
 
@@ -32,14 +30,8 @@ ReportViewer::ReportViewer(Desk& desk, ToolPanel* panel)
     : PanelView(desk, panel, screenName), menus_(new Menus(desk, panel, screenName)),
       find_(new ReportFind(desk, *menus_)), pages_(new ReportPages), status_(new ElidedLabel) {
     panel->setWindowTitle(QString::fromLatin1(ReportScreen::title));
-    panel->setAttribute(Qt::WA_ShowWithoutActivating, false);
     panel->installEventFilter(this);
-    QVBoxLayout* column = panel->content();
-    column->setSizeConstraint(QLayout::SetDefaultConstraint);
-    column->setContentsMargins(0, 0, 0, 0);
-    panel->setMinimumSize(smallestSize);
-    const QSize room = panel->screen()->availableGeometry().size() - QSize(0, frameRoom);
-    panel->resize(firstSize.boundedTo(room).expandedTo(smallestSize));
+    QVBoxLayout* column = makeScreen(firstSize, smallestSize);
     menus_->addTo(column);
     column->addWidget(find_);
     column->addWidget(pages_, 1);
