@@ -1,29 +1,30 @@
-// The base of the floating windows.
+// The base of the windows that accompany the main one.
 #include "desktop/panel_view.h"
 
-#include <QGuiApplication>
+#include <QApplication>
 #include <QScreen>
 #include <QVBoxLayout>
-#include <algorithm>
+#include <utility>
 
 namespace lorvane::desktop {
 
 namespace {
 
-constexpr int frameRoom = 50;    // for the frame of the window system
-constexpr int titledFrame = 60;  // the same of a screen as high as it can be
+constexpr int titledFrame = 60;  // of the window system, on a screen as high as it can be
 
 }  // namespace
 
 PanelView::PanelView(Desk& desk, ToolPanel* panel, const std::string& name)
-    : QObject(panel), desk_(desk), panel_(panel) {
+    : QObject(panel), desk_(desk), panel_(panel), name_(name), window_(windowNamed(name)) {
     panel->setObjectName(QString::fromStdString(name));
     // A window that opens by itself leaves the keyboard where it is, and a held arrow held.
     panel->setAttribute(Qt::WA_ShowWithoutActivating);
-    connect(panel, &ToolPanel::closeRequested, this, [this, name] {
-        prepareClose();
-        desk_.close(name);
-    });
+    connect(panel, &ToolPanel::closeRequested, this, &PanelView::requestClose);
+}
+
+void PanelView::requestClose() {
+    prepareClose();
+    desk_.close(name_);
 }
 
 QVBoxLayout* PanelView::makeScreen(QSize firstSize, QSize smallestSize) {
@@ -37,37 +38,38 @@ QVBoxLayout* PanelView::makeScreen(QSize firstSize, QSize smallestSize) {
     return column;
 }
 
-void PanelView::setFirstPlace(double x, double y) {
-    x_ = x;
-    y_ = y;
+bool PanelView::wasAskedAgain() {
+    const int asked = window_ ? desk_.design().windows().asked(*window_) : 0;
+    return asked > std::exchange(asked_, asked);
 }
 
-// The first place of a window is a share of the screen or its middle; later it comes back where it was.
+void PanelView::hide() {
+    const QWidget* focus = QApplication::focusWidget();
+    const bool hadKeyboard = focus == nullptr || focus->window() == panel_ || panel_->isAncestorOf(focus);
+    stage_->hide(*this);
+    emit gone(hadKeyboard);
+}
+
+// A docked panel is in nobody's way while the program has the floating ones away.
+bool PanelView::isWanted() const {
+    const bool isAway = window_ && desk_.design().windows().state(*window_) == WindowStates::withdrawn;
+    return isOpen() || (isAway && stage_->standsAside(*this));
+}
+
 void PanelView::follow() {
-    const bool open = isOpen();
-    if (open || panel_->isVisible())
+    const bool open = isWanted();
+    const bool shown = stage_->isShown(*this);
+    const bool again = wasAskedAgain();
+    if (open || shown)
         sync();
-    if (open == panel_->isVisible())
-        return;
-    if (open && !panel_->place()) {
-        const QRect screen = QGuiApplication::primaryScreen()->availableGeometry();
-        if (panel_->content()->sizeConstraint() == QLayout::SetFixedSize)
-            panel_->adjustSize();
-        const QSize room = screen.size() - panel_->size();
-        const auto at = [](double share, int size, int space) {
-            const int wanted = share < 0 ? space / 2 : static_cast<int>(share * size);
-            return std::max(0, std::min(wanted, space - frameRoom));
-        };
-        panel_->setPlace(screen.topLeft() + QPoint(at(x_, screen.width(), room.width()),
-                                                   at(y_, screen.height(), room.height())));
-    }
-    panel_->setVisible(open);
-    if (!open)
-        return;
-    sync();
-    // A window that is there to be answered takes the keyboard.
-    if (!panel_->testAttribute(Qt::WA_ShowWithoutActivating))
-        panel_->activateWindow();
+    if (!open && shown)
+        hide();
+    if (open && !shown)
+        stage_->show(*this);
+    else if (open && again)
+        stage_->raise(*this);
+    if (open && !shown)
+        sync();
 }
 
 }  // namespace lorvane::desktop

@@ -1,14 +1,17 @@
-// The base of the floating windows: what every one does as it opens, closes and follows the program.
+// The base of the windows that accompany the main one: what every one does as it opens, closes and follows
+// the program.
 #pragma once
 
+#include <optional>
 #include <string>
 
 #include "desktop/desk.h"
 #include "desktop/kit/tool_panel.h"
+#include "desktop/panel_stage.h"
 
 namespace lorvane::desktop {
 
-/// One floating window and when it is open.
+/// One window and when it is open.
 class PanelView : public QObject {
     Q_OBJECT
 
@@ -21,14 +24,21 @@ public:
     /// Copies what has changed from the models into the widgets.
     virtual void sync() = 0;
 
-    /// The window itself.
+    /// The panel with the content: the window itself, or what its dock holds.
     ToolPanel* panel() const { return panel_; }
 
-    /// Where it opens first, as shares of the screen from the left and from the top; below 0 in the middle.
-    void setFirstPlace(double x, double y);
+    /// How it comes onto the screen; set once, before it follows.
+    void setStage(PanelStage& stage) { stage_ = &stage; }
+
+    /// The user asks to close the window; the program decides.
+    void requestClose();
 
     /// Opens, closes and fills the window as the program stands.
     void follow();
+
+signals:
+    /// The panel has just gone from the screen; whether it had the keyboard.
+    void gone(bool hadKeyboard);
 
 protected:
     /// Makes the window one that is worked in as long as the user likes: it takes the keyboard and has any
@@ -41,9 +51,15 @@ protected:
     Desk& desk_;
 
 private:
+    void hide();
+    bool wasAskedAgain();
+    bool isWanted() const;
+
     ToolPanel* panel_;
-    double x_ = 0.5;
-    double y_ = 0.4;
+    PanelStage* stage_ = nullptr;
+    std::string name_;
+    std::optional<WindowId> window_;
+    int asked_ = 0;  ///< how often the program has been asked for it by now
 };
 
 }  // namespace lorvane::desktop

@@ -18,56 +18,97 @@ namespace lorvane::desktop {
 
 namespace {
 
-constexpr double centred = -1;  // in place of a share of the screen
+// A table of two or three levels without dispersion of effects is narrower.
+int roomyMiddle(const Desk& desk) {
+    const bool isNarrow = desk.study().NumLevels <= 3 && !desk.design().screen().head(HeadId::effect).Visible;
+    return isNarrow ? 1014 : 1130;
+}
 
 }  // namespace
 
 template <typename View, typename... More>
-void Panels::add(double x, double y, More&&... more) {
+void Panels::add(FirstPlace place, More&&... more) {
     auto* panel = new ToolPanel(QString(), &window_);
     views_.push_back(std::make_unique<View>(desk_, panel, std::forward<More>(more)...));
-    views_.back()->setParent(nullptr);
-    views_.back()->setFirstPlace(x, y);
+    PanelView& view = *views_.back();
+    view.setParent(nullptr);
+    const DockRow* row = dockRowOf(panel->objectName().toStdString());
+    if (row != nullptr) {
+        docks_.add(view, *row);
+        view.setStage(docks_);
+    } else {
+        view.setStage(place == FirstPlace::centre ? centred_ : clear_);
+    }
+    ring_.add(view, docks_.dockOf(view));
 }
 
-Panels::Panels(Desk& desk, MainWindow& window) : desk_(desk), window_(window) {
-    const Design& design = desk.design();
-    add<IccView>(0.5, 0.2, window.menus());
-    add<TauSqView>(0.5, 0.3, window.menus());
-    add<ProblemView>(centred, centred, "frmProblems", WindowId::frmProblems, design.problems().pnlErrTitle,
-                     design.problems().pnlErr);
-    add<ProblemView>(centred, centred, "frmProblemES", WindowId::frmProblemES,
-                     design.effectProblems().pnlErrESTitle, design.effectProblems().pnlErrES);
-    add<CountsView>(0.3, 0.5);
-    add<DetailsView>(0.7, 0.15);
-    const SmallDialogs& dialogs = desk.application().dialogs();
-    add<TableView>(0.2, 0.3, dialogs.spreadICC(), design.spreadICC());
-    add<TableView>(0.2, 0.4, dialogs.spreadTauSq(), design.spreadTauSq());
-    add<ScenarioView>(0.5, 0.45);
-    add<MdesView>(centred, centred);
-    add<StartView>(centred, centred);
-    add<OptimalView>(centred, 0.15, window_.menus());
-    add<GraphView>(centred, centred);
-    add<GraphTableView>(0.2, 0.6);
-    add<ReportViewer>(centred, centred);
-    const GraphScreen& graph = desk.application().graph();
-    const auto addGraphDialog = [&](const auto& dialog) {
-        add<DialogView>(centred, centred, dialog.dialog(), [&dialog] { return dialog.isOpen(); });
-    };
-    addGraphDialog(graph.axisDialog());
-    addGraphDialog(graph.lineDialog());
-    for (const Dialog* dialog : dialogs.all())
-        add<DialogView>(centred, centred, *dialog, [&dialogs, dialog] { return dialogs.isOpen(*dialog); });
-    const ScenarioWindow& scenarios = desk.application().scenarioWindow();
-    add<DialogView>(centred, centred, scenarios.nameDialog(),
-                    [&scenarios] { return scenarios.nameIsOpen(); });
+Panels::Panels(Desk& desk, MainWindow& window)
+    : desk_(desk), window_(window), docks_(window, [&desk] { return roomyMiddle(desk); }),
+      centred_(window, FirstPlace::centre), clear_(window, FirstPlace::clearSight), ring_(window) {
+    addStudyPanels();
+    addScreens();
+    addDialogs();
     connect(&desk_, &Desk::shown, this, &Panels::follow);
+    connect(&ring_, &FocusRing::movedInMainWindow, this, &Panels::keepClear);
     follow();
+}
+
+void Panels::addStudyPanels() {
+    using enum FirstPlace;
+    const Design& design = desk_.design();
+    add<ProblemView>(clearSight, "frmProblems", WindowId::frmProblems, design.problems().pnlErrTitle,
+                     design.problems().pnlErr);
+    add<ProblemView>(clearSight, "frmProblemES", WindowId::frmProblemES,
+                     design.effectProblems().pnlErrESTitle, design.effectProblems().pnlErrES);
+    add<IccView>(clearSight, window_.menus());
+    add<TauSqView>(clearSight, window_.menus());
+    add<CountsView>(clearSight);
+    add<MdesView>(clearSight);
+    add<ScenarioView>(clearSight);
+    add<DetailsView>(clearSight);
+    add<OptimalView>(clearSight, window_.menus());
+}
+
+void Panels::addScreens() {
+    using enum FirstPlace;
+    const SmallDialogs& dialogs = desk_.application().dialogs();
+    add<TableView>(centre, dialogs.spreadICC(), desk_.design().spreadICC());
+    add<TableView>(centre, dialogs.spreadTauSq(), desk_.design().spreadTauSq());
+    add<StartView>(centre);
+    add<GraphView>(centre);
+    add<GraphTableView>(clearSight);
+    add<ReportViewer>(centre);
+}
+
+void Panels::addDialogs() {
+    using enum FirstPlace;
+    const auto addDialog = [this](const Dialog& dialog, std::function<bool()> isOpen) {
+        add<DialogView>(centre, dialog, std::move(isOpen));
+    };
+    const GraphScreen& graph = desk_.application().graph();
+    addDialog(graph.axisDialog().dialog(), [&graph] { return graph.axisDialog().isOpen(); });
+    addDialog(graph.lineDialog().dialog(), [&graph] { return graph.lineDialog().isOpen(); });
+    const SmallDialogs& dialogs = desk_.application().dialogs();
+    for (const Dialog* dialog : dialogs.all())
+        addDialog(*dialog, [&dialogs, dialog] { return dialogs.isOpen(*dialog); });
+    const ScenarioWindow& scenarios = desk_.application().scenarioWindow();
+    addDialog(scenarios.nameDialog(), [&scenarios] { return scenarios.nameIsOpen(); });
 }
 
 void Panels::follow() {
     for (const auto& view : views_)
         view->follow();
+    keepClear();
+}
+
+// Also the wizard outlines cells of the main window.
+void Panels::keepClear() {
+    docks_.keepClear();
+    for (const char* name : {"frmOptimal"}) {
+        ToolPanel* floating = panel(QLatin1String(name));
+        if (floating != nullptr && floating->isVisible())
+            lorvane::desktop::keepClear(*floating, window_);
+    }
 }
 
 ToolPanel* Panels::panel(const QString& name) const {

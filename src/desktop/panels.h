@@ -4,13 +4,16 @@
 #include <memory>
 #include <vector>
 
+#include "desktop/docks.h"
+#include "desktop/floating_stage.h"
+#include "desktop/focus_ring.h"
 #include "desktop/panel_view.h"
 
 namespace lorvane::desktop {
 
 class MainWindow;
 
-/// Makes every floating window once, hidden, and keeps it.
+/// Makes every window that accompanies the main one once, hidden, and keeps it.
 class Panels : public QObject {
     Q_OBJECT
 
@@ -20,15 +23,26 @@ public:
     /// Opens, closes and fills them all as the program stands.
     void follow();
 
-    /// The floating window of a name, "frmDisplayICC"; null when there is none.
+    /// The panel of a window by its name, "frmDisplayICC"; null when there is none.
     ToolPanel* panel(const QString& name) const;
+
+    /// Where panels dock.
+    Docks& docks() { return docks_; }
 
 private:
     template <typename View, typename... More>
-    void add(double x, double y, More&&... more);
+    void add(FirstPlace place, More&&... more);
+    void addStudyPanels();
+    void addScreens();
+    void addDialogs();
+    void keepClear();
 
     Desk& desk_;
     MainWindow& window_;
+    Docks docks_;
+    FloatingStage centred_;
+    FloatingStage clear_;
+    FocusRing ring_;
     std::vector<std::unique_ptr<PanelView>> views_;
 };
 

@@ -160,6 +160,13 @@ void Design::writeCost() {
     screen_.pnlCostBar.Flood = SmallerOf(amount / study().MaxCost * 100, fullBar);
 }
 
+void Design::SynchForms(WindowId window, WindowAction action) {
+    if (action == WindowAction::open)
+        windows_.ask(window);
+    else
+        windows_.SynchForms(window, action);
+}
+
 void Design::closeUnfit() {
     const auto closeIf = [&](bool close, WindowId window) {
         if (close)
@@ -176,7 +183,7 @@ void Design::closeUnfit() {
 void Design::moveWindows(bool heldArrow) {
     const auto openIf = [&](bool open, WindowId window) {
         if (open)
-            SynchForms(window, WindowAction::open);
+            windows_.SynchForms(window, WindowAction::open);
     };
     const bool faulty = !session_.faultWords().empty();
     const Obstacle obstacle = faulty ? Obstacle::none : session_.computation().outcome.obstacle;
@@ -272,14 +279,14 @@ void Design::ShowICC(bool show) {
     if (!show)
         SynchForms(frmDisplayICC, WindowAction::withdrawForGood);
     else if (display().ShowIccSchematic != SchematicModes::off)
-        SynchForms(frmDisplayICC, WindowAction::open);
+        windows_.SynchForms(frmDisplayICC, WindowAction::open);
 }
 
 void Design::ShowTauSq(bool show) {
     if (!show)
         SynchForms(frmDisplayTauSq, WindowAction::withdrawForGood);
     else if (display().ShowTauSqSchematic != SchematicModes::off)
-        SynchForms(frmDisplayTauSq, WindowAction::open);
+        windows_.SynchForms(frmDisplayTauSq, WindowAction::open);
 }
 
 void Design::SynchCellCounts() {
@@ -290,7 +297,7 @@ void Design::SynchCellCounts() {
 }
 
 void Design::ShowCounts(bool show) {
-    SynchForms(frmCounts, show ? WindowAction::open : WindowAction::withdrawForGood);
+    windows_.SynchForms(frmCounts, show ? WindowAction::open : WindowAction::withdrawForGood);
 }
 
 std::string Design::savedWords() const {

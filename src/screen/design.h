@@ -79,7 +79,8 @@ public:
 
     // Windows and questions ---------------------------------------------------------------------------------
 
-    void SynchForms(WindowId window, WindowAction action) { windows_.SynchForms(window, action); }
+    /// What a person or a command does to a window; one that is opened again comes to the front.
+    void SynchForms(WindowId window, WindowAction action);
     bool isOpen(WindowId window) const { return windows_.state(window) == WindowStates::open; }
 
     /// Puts all windows back into earlier states.

@@ -145,9 +145,12 @@ void Design::registerNames(ControlRegistry& registry) const {
     addDispersion(registry, study());
     addLimits(registry, study().limits);
     registry.add("Design.Caption", [this]() -> ControlValue { return SetCaption(); });
-    for (const WindowTitle& row : windowTitles())
+    for (const WindowTitle& row : windowTitles()) {
+        if (*row.title == '\0')
+            continue;
         registry.add(std::string(row.name) + ".Caption",
                      [title = row.title]() -> ControlValue { return std::string(title); });
+    }
     screen_.registerNames(registry);
     iccPanel_.registerNames(registry);
     tauSqPanel_.registerNames(registry);

@@ -8,15 +8,31 @@ namespace lorvane {
 
 namespace {
 
-constexpr WindowTitle titles[] = {{WindowId::frmProblems, "frmProblems", "Problem"},
-                                  {WindowId::frmProblemES, "frmProblemES", "Problem"},
-                                  {WindowId::frmCounts, "frmCounts", "Cell counts"},
-                                  {WindowId::frmDetails, "frmDetails", "Details"},
-                                  {WindowId::frmScenarios, "frmScenarios", "Scenarios"},
-                                  {WindowId::frmStart, "frmStart", "Lorvane"},
-                                  {WindowId::xPlot, "xPlot", "Sensitivity graph"},
-                                  {WindowId::frmMDES, "frmMDES", "Minimum detectable effect size"},
-                                  {WindowId::frmOptimal, "frmOptimal", "Optimal design wizard"}};
+using enum WindowId;
+
+constexpr WindowTitle titles[] = {{frmAlpha, "frmAlpha", ""},
+                                  {frmDetails, "frmDetails", "Details"},
+                                  {frmDisplayICC, "frmDisplayICC", ""},
+                                  {frmDisplayTauSq, "frmDisplayTauSq", ""},
+                                  {frmGroupNames, "frmGroupNames", ""},
+                                  {frmLevelNames, "frmLevelNames", ""},
+                                  {frmLVar, "frmLVar", ""},
+                                  {frmScenarios, "frmScenarios", "Scenarios"},
+                                  {frmScenariosName, "frmScenariosName", ""},
+                                  {frmTable, "frmTable", ""},
+                                  {frmTips, "frmTips", ""},
+                                  {frmXVar, "frmXVar", ""},
+                                  {xPlot, "xPlot", "Sensitivity graph"},
+                                  {frmProblems, "frmProblems", "Problem"},
+                                  {frmProblemES, "frmProblemES", "Problem"},
+                                  {frmOptimal, "frmOptimal", "Optimal design wizard"},
+                                  {frmMDES, "frmMDES", "Minimum detectable effect size"},
+                                  {frmTipsGraph, "frmTipsGraph", ""},
+                                  {frmStart, "frmStart", "Lorvane"},
+                                  {frmPrint, "frmPrint", ""},
+                                  {frmDelta, "frmDelta", ""},
+                                  {frmSetMean, "frmSetMean", ""},
+                                  {frmCounts, "frmCounts", "Cell counts"}};
 
 WindowStates stateAfter(WindowStates state, WindowAction action) {
     switch (action) {
@@ -45,11 +61,22 @@ const char* windowTitle(WindowId window) {
     return found->title;
 }
 
+std::optional<WindowId> windowNamed(std::string_view name) {
+    const auto found = std::find_if(std::begin(titles), std::end(titles),
+                                    [&](const WindowTitle& row) { return row.name == name; });
+    return found == std::end(titles) ? std::nullopt : std::optional(found->window);
+}
+
 WindowRegistry::WindowRegistry() { states_(static_cast<int>(WindowId::Design)) = WindowStates::open; }
 
 void WindowRegistry::SynchForms(WindowId window, WindowAction action) {
     WindowStates& state = states_(static_cast<int>(window));
     state = stateAfter(state, action);
+}
+
+void WindowRegistry::ask(WindowId window) {
+    SynchForms(window, WindowAction::open);
+    ++asked_(static_cast<int>(window));
 }
 
 }  // namespace lorvane

@@ -2,7 +2,9 @@
 // one. Knows no window's content and no toolkit.
 #pragma once
 
+#include <optional>
 #include <span>
+#include <string_view>
 
 #include "engine/per_level.h"
 #include "platform/window_id.h"
@@ -16,10 +18,10 @@ enum class WindowStates {
     open = 4
 };
 
-/// A window with a title of its own; the others word theirs as the study stands.
+/// A window by number, name and title. The title is empty where it is worded as the study stands.
 struct WindowTitle {
     WindowId window;
-    const char* name;  ///< "frmCounts"
+    std::string_view name;  ///< "frmCounts"
     const char* title;
 };
 
@@ -27,6 +29,9 @@ std::span<const WindowTitle> windowTitles();
 
 /// The title of one of them; it must be there.
 const char* windowTitle(WindowId window);
+
+/// The window of a name, "frmCounts"; nothing for a window without a number.
+std::optional<WindowId> windowNamed(std::string_view name);
 
 class WindowRegistry {
 public:
@@ -36,10 +41,17 @@ public:
     /// window's state does nothing.
     void SynchForms(WindowId window, WindowAction action);
 
+    /// Opens a window since a person asks for it: one that is open already comes to the front.
+    void ask(WindowId window);
+
+    /// How often it was asked for.
+    int asked(WindowId window) const { return asked_(static_cast<int>(window)); }
+
     WindowStates state(WindowId window) const { return states_(static_cast<int>(window)); }
 
 private:
     IndexedArray<WindowStates, 1, lastWindowId> states_;
+    IndexedArray<int, 1, lastWindowId> asked_;
 };
 
 }  // namespace lorvane

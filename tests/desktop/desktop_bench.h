@@ -14,6 +14,7 @@
 
 #include "desktop/desk_progress.h"
 #include "desktop/kit/figure_card.h"
+#include "desktop/kit/panel_dock.h"
 #include "desktop/kit/value_cell.h"
 #include "desktop/main_window.h"
 #include "desktop/menus.h"
@@ -100,6 +101,12 @@ protected:
 
     const Study& study() const { return desk.study(); }
     ToolPanel& panel(const char* name) { return *panels.panel(QString::fromUtf8(name)); }
+    PanelDock& dock(const char* name) {
+        QWidget* at = &panel(name);
+        while (qobject_cast<PanelDock*>(at) == nullptr)
+            at = at->parentWidget();
+        return static_cast<PanelDock&>(*at);
+    }
     bool isShown(const char* name) { return panel(name).isVisible(); }
     ValueCell& cell(const std::string& name) { return dynamic_cast<ValueCell&>(*window.cell(name)); }
     std::string text(const std::string& name) { return cell(name).text().toStdString(); }

@@ -197,7 +197,7 @@ protected:
         for (QWidget* widget : shown.findChildren<QWidget*>()) {
             const bool control = qobject_cast<ValueCell*>(widget) || qobject_cast<QAbstractButton*>(widget) ||
                                  qobject_cast<QLineEdit*>(widget) || qobject_cast<PaintedText*>(widget);
-            const bool asked = control && widget->isVisible() && widget->window() == &shown;
+            const bool asked = control && widget->isVisible() && widget->window() == shown.window();
             EXPECT_FALSE(asked && nameOf(*widget).empty()) << widget->metaObject()->className();
         }
         shown.activateWindow();
@@ -335,11 +335,13 @@ TEST_F(Edit, TheSmallestEffectByKeysAlone) {
     const QString copied = QGuiApplication::clipboard()->text();
     EXPECT_TRUE(copied.contains(QStringLiteral("(d) of %1,\nwhere d is").arg(found, 0, 'f', 2)))
         << copied.toStdString();
-    const int withResult = panel("frmMDES").height();
+    const int withResult = dock("frmMDES").heightFor(dock("frmMDES").width());
     clickArrow("pnlNT(2)", 1);
-    EXPECT_LT(panel("frmMDES").height(), withResult) << "the figure is gone";
-    panel("frmMDES").activateWindow();
-    settle();
+    EXPECT_LT(dock("frmMDES").heightFor(dock("frmMDES").width()), withResult) << "the figure is gone";
+    cell("pnlNT(2)").setFocus();
+    key(Qt::Key_Escape);
+    EXPECT_TRUE(isShown("frmMDES")) << "the keyboard is not in it";
+    key(Qt::Key_F6);
     key(Qt::Key_Escape);
     EXPECT_FALSE(isShown("frmMDES"));
     EXPECT_EQ(study().txtd, 0.3);

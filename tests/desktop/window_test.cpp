@@ -13,17 +13,20 @@ namespace {
 
 using Floating = DesktopBench;
 
-TEST_F(Floating, FramesCloseInAnyOrderAndThePlaceStays) {
+TEST_F(Floating, PanelsCloseInAnyOrderAndThePlaceStays) {
     openFourLevels();
     const char* const names[] = {"frmDisplayICC", "frmDisplayTauSq"};
     for (const int first : {0, 1}) {
         clickArrow("pnlMRange(3)", 1);
         clickArrow("pnlTauSq(3)", 1);
-        panel("frmDisplayICC").move(137, 91);
+        dock("frmDisplayICC").setFloating(true);
+        dock("frmDisplayICC").move(137, 91);
+        settle();
         const double power = study().result.txtPower;
         for (const char* name : {names[first], names[1 - first]}) {
             EXPECT_TRUE(isShown(name)) << name;
-            closeByFrame(panel(name));
+            emit dock(name).closeRequested();
+            settle();
             EXPECT_FALSE(isShown(name)) << name;
         }
         clickArrow("pnlQ(1)", 1);
@@ -33,7 +36,9 @@ TEST_F(Floating, FramesCloseInAnyOrderAndThePlaceStays) {
         EXPECT_FALSE(isShown("frmDisplayICC")) << "closed for good";
     }
     clickArrow("pnlMRange(3)", 1);
-    EXPECT_EQ(panel("frmDisplayICC").pos(), QPoint(137, 91));
+    EXPECT_EQ(dock("frmDisplayICC").pos(), QPoint(137, 91));
+    closeByFrame(dock("frmDisplayICC"));
+    EXPECT_FALSE(isShown("frmDisplayICC"));
 }
 
 // What opens by itself must not take the keyboard or a held arrow away; a dialog is opened to type into.
@@ -45,18 +50,22 @@ TEST_F(Floating, OnlyDialogsAskForTheKeyboard) {
 
 TEST_F(Floating, TheExitQuestionStandsAloneAndDecides) {
     tool("gfrmDetails");
-    panel("frmDetails").move(77, 55);
+    tool("gfrmDisplayICC");
+    dock("frmDetails").setFloating(true);
+    dock("frmDetails").move(77, 55);
+    settle();
     int asked = 0;
     messages.beforeShowing = [&] {
         panels.follow();
         EXPECT_FALSE(isShown("frmDetails"));
+        EXPECT_TRUE(isShown("frmDisplayICC")) << "docked, it stands over nothing";
         ++asked;
     };
     messages.scripted.queue(Answer::Cancel);
     closeByFrame(window);
     EXPECT_TRUE(window.isVisible());
     EXPECT_TRUE(isShown("frmDetails"));
-    EXPECT_EQ(panel("frmDetails").pos(), QPoint(77, 55));
+    EXPECT_EQ(dock("frmDetails").pos(), QPoint(77, 55));
     window.activateWindow();
     settle();
     for (const Answer answer : {Answer::Cancel, Answer::OK}) {

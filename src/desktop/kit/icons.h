@@ -32,6 +32,7 @@ enum class Icon {
     Film,
     First,
     Fit,
+    Float,
     Font,
     Gear,
     Graph,

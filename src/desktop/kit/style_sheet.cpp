@@ -78,6 +78,11 @@ QTabBar::tab:hover { color: @text; }
 QTabBar::tab:selected { color: @accent; border-bottom-color: @accent; }
 QTabBar::tab:disabled { color: @quiet; }
 
+QMainWindow::separator { background: @line; width: 1px; height: 1px; }
+QTabBar[docks="true"] { background: @card; }
+QTabBar[docks="true"]::tab { padding: 0 2px; margin: 0 0 0 18px; height: 30px; }
+QToolButton[sign="true"] { padding: 0; margin: 0; border-radius: 6px; }
+
 QHeaderView, QTableCornerButton::section { background: @card; border: none; }
 QHeaderView::section { background: transparent; color: @secondText; border: none;
                        border-bottom: 1px solid @line; padding: 6px 10px; font-size: 9pt; font-weight: 500; }

@@ -25,6 +25,14 @@ ToolPanel::ToolPanel(const QString& title, QWidget* owner, Sizing sizing)
         content_->setSizeConstraint(QLayout::SetFixedSize);
 }
 
+void ToolPanel::standInDock(const QMargins& padding) {
+    setWindowFlags(Qt::Widget);
+    setMinimumSize(0, 0);
+    content_->setSizeConstraint(QLayout::SetDefaultConstraint);
+    if (content_->contentsMargins() == QMargins(Padding, Padding, Padding, Padding))
+        content_->setContentsMargins(padding);
+}
+
 void ToolPanel::setPlace(const QPoint& place) {
     place_ = place;
     if (isVisible())

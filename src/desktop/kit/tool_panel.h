@@ -27,6 +27,10 @@ public:
     /// The column that takes the content, with 22 pixels of room around it.
     QVBoxLayout* content() const { return content_; }
 
+    /// Makes it a part of a dock instead of a window: no size of its own, and so much room around its
+    /// content where it had the usual one.
+    void standInDock(const QMargins& padding);
+
     /// The top left corner of the frame on the screen when it was last hidden or placed; nothing before the
     /// first time.
     std::optional<QPoint> place() const { return place_; }
