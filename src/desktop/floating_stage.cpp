@@ -23,10 +23,30 @@ QSize framed(const QWidget& widget) {
     return hasFrame ? widget.frameGeometry().size() : widget.size() + QSize(0, titleHeight);
 }
 
-QPoint centredOver(const QSize& size, const QRect& window, const QRect& screen) {
-    const QPoint at = window.center() - QPoint(size.width() / 2, size.height() / 2);
-    return {std::clamp(at.x(), screen.left(), std::max(screen.left(), screen.right() - size.width())),
-            std::clamp(at.y(), screen.top(), std::max(screen.top(), screen.bottom() - size.height()))};
+// What a window in a place has to leave in sight. A dialog stands over the window, as near as it can.
+Surroundings sightFor(FirstPlace place, const QWidget& mainWindow) {
+    Surroundings around = surroundingsOf(mainWindow);
+    if (place == FirstPlace::clearSight)
+        return around;
+    around.window = {};
+    around.results.clear();
+    if (place == FirstPlace::centre)
+        around.pointedAt.clear();
+    return around;
+}
+
+void placeFirst(QWidget& floating, const QWidget& mainWindow, FirstPlace place) {
+    const QRect window = mainWindow.frameGeometry();
+    const QSize size = framed(floating);
+    const QPoint corner(window.right() - size.width() - inset, window.top() + inset);
+    const QPoint middle = window.center() - QPoint(size.width() / 2, size.height() / 2);
+    const QPoint wanted = place == FirstPlace::clearSight ? corner : middle;
+    floating.move(freePlace(size, sightFor(place, mainWindow), wanted));
+}
+
+bool coversWhatCounts(const ToolPanel& panel, const QWidget& mainWindow, FirstPlace place) {
+    const QRect there(panel.place().value_or(QPoint()), framed(panel));
+    return coveredArea(there, sightFor(place, mainWindow).pointedAt) > 0;
 }
 
 bool isOnScreen(const QPoint& corner) {
@@ -39,10 +59,7 @@ bool isOnScreen(const QPoint& corner) {
 }  // namespace
 
 void placeClear(QWidget& floating, const QWidget& mainWindow) {
-    const Surroundings around = surroundingsOf(mainWindow);
-    const QSize size = framed(floating);
-    const QPoint wanted(around.window.right() - size.width() - inset, around.window.top() + inset);
-    floating.move(freePlace(size, around, wanted));
+    placeFirst(floating, mainWindow, FirstPlace::clearSight);
 }
 
 void keepClear(QWidget& floating, const QWidget& mainWindow) {
@@ -60,12 +77,8 @@ void FloatingStage::show(PanelView& view) {
     ToolPanel& panel = *view.panel();
     if (panel.content()->sizeConstraint() == QLayout::SetFixedSize)
         panel.adjustSize();
-    if (!panel.place() || !isOnScreen(*panel.place())) {
-        const Surroundings around = surroundingsOf(mainWindow_);
-        if (place_ == FirstPlace::clearSight)
-            placeClear(panel, mainWindow_);
-        else
-            panel.move(centredOver(framed(panel), around.window, around.screen));
+    if (!panel.place() || !isOnScreen(*panel.place()) || coversWhatCounts(panel, mainWindow_, place_)) {
+        placeFirst(panel, mainWindow_, place_);
         panel.setPlace(panel.pos());
     }
     panel.show();

@@ -10,8 +10,9 @@ namespace lorvane::desktop {
 
 /// Where a floating window opens first.
 enum class FirstPlace {
-    centre,     ///< over the middle of the main window
-    clearSight  ///< where it covers neither what is worked on nor the results
+    centre,      ///< over the middle of the main window
+    besideCell,  ///< there, but beside the cell that is worked on
+    clearSight   ///< where it covers neither what is worked on nor the results
 };
 
 /// A window comes back where it was, as long as that is on a screen.

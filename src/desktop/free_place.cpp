@@ -22,6 +22,8 @@ QPoint onScreen(const QPoint& at, const QSize& size, const QRect& screen) {
 // Where a window stands first of all, and beside the main window where the screen has the room.
 QList<QPoint> preferredPlaces(const QSize& size, const Surroundings& around, const QPoint& wanted) {
     QList<QPoint> places = {onScreen(wanted, size, around.screen)};
+    if (around.window.isEmpty())
+        return places;
     for (const int left : {around.window.right() + 1 + gap, around.window.left() - gap - size.width()}) {
         const QPoint beside = onScreen({left, wanted.y()}, size, around.screen);
         if (beside.x() == left)

@@ -11,7 +11,7 @@ namespace lorvane::desktop {
 /// What is around a window that is to be placed, in places of the screen.
 struct Surroundings {
     QRect screen;            ///< the free area of the screen
-    QRect window;            ///< the main window with its frame
+    QRect window;            ///< what it may stand beside; empty for nothing
     QList<QRect> pointedAt;  ///< what is worked on and what is outlined: it comes first
     QList<QRect> results;    ///< what is watched while one works
 };

@@ -83,7 +83,7 @@ void Panels::addScreens() {
 void Panels::addDialogs() {
     using enum FirstPlace;
     const auto addDialog = [this](const Dialog& dialog, std::function<bool()> isOpen) {
-        add<DialogView>(centre, dialog, std::move(isOpen));
+        add<DialogView>(besideCell, dialog, std::move(isOpen));
     };
     const GraphScreen& graph = desk_.application().graph();
     addDialog(graph.axisDialog().dialog(), [&graph] { return graph.axisDialog().isOpen(); });
