@@ -190,10 +190,10 @@ void Application::restoreForms() {
     handle([&] { design_.RestoreForms(FormSet::main); });
 }
 
-void Application::openValue(const std::string& field) {
+void Application::openValue(const std::string& field, const std::string& firstText) {
     handle([&] {
         if (const auto found = findField(field))
-            dialogs_.activate(*found);
+            dialogs_.activate(*found, firstText);
     });
 }
 

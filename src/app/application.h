@@ -110,8 +110,9 @@ public:
     void spin(const std::string& control, int direction, ArrowHold hold = ArrowHold::click, int times = 1);
     void spinReleased();
 
-    /// What a double click on the cell of a field does; nothing for a name without a field.
-    void openValue(const std::string& field);
+    /// What a double click on the cell of a field does; nothing for a name without a field. With a text, what
+    /// typing its first character on the cell does: a number opens with the text in place of its value.
+    void openValue(const std::string& field, const std::string& firstText = {});
 
     /// A number of a window by its name, "frmOptimal.txtNumReps(1)", within its limits.
     void setNumber(const std::string& name, double value);

@@ -55,8 +55,8 @@ void Desk::setNumber(const std::string& name, double value) {
     act([&] { application_.setNumber(name, value); });
 }
 
-void Desk::openValue(const std::string& field) {
-    act([&] { application_.openValue(field); });
+void Desk::openValue(const std::string& field, const std::string& firstText) {
+    act([&] { application_.openValue(field, firstText); });
 }
 
 void Desk::select(const std::string& grid, const std::vector<std::size_t>& rows) {

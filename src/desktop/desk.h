@@ -38,8 +38,10 @@ public:
     void spin(const std::string& control, int direction, ArrowHold hold = ArrowHold::click);
     void spinReleased();
 
-    /// Opens the value of a field for typing, and writes a number of a window within its limits.
-    void openValue(const std::string& field);
+    /// Opens the value of a field for typing, with a first text where that was typed on its cell already.
+    void openValue(const std::string& field, const std::string& firstText = {});
+
+    /// Writes a number of a window within its limits.
     void setNumber(const std::string& name, double value);
 
     /// Selects rows of a table; they count from 1, below the heads.

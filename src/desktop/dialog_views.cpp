@@ -124,10 +124,11 @@ void DialogView::sync() {
     syncNote();
     for (const OptionView& option : options_)
         option.button->setChecked(option.model->option.Value);
-    const bool opened = isOpen() && !wasOpen_;
+    const bool opened = isOpen() && (!wasOpen_ || openings_ != model_.openings);
     for (std::size_t i = 0; i < fields_.size(); ++i)
         syncField(i, opened);
     wasOpen_ = isOpen();
+    openings_ = model_.openings;
     if (opened)
         focusFirst();
 }
@@ -163,8 +164,11 @@ void DialogView::focusFirst() {
     for (FieldView& view : fields_) {
         if (view.field->isHidden() || !view.field->isEnabled())
             continue;
+        if (panel()->isVisible())
+            panel()->activateWindow();
         view.field->setFocus();
-        view.field->selectAll();
+        if (!model_.isBegun)
+            view.field->selectAll();
         return;
     }
 }

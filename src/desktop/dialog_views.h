@@ -57,6 +57,7 @@ private:
     std::vector<OptionView> options_;
     std::vector<FieldView> fields_;
     bool wasOpen_ = false;
+    int openings_ = 0;
 };
 
 }  // namespace lorvane::desktop

@@ -51,6 +51,8 @@ struct Dialog {
     Panel note = {};   ///< limits or an explanation, below them
     std::vector<DialogOption> options = {};
     std::vector<DialogButton> fieldButtons = {};  ///< that change which fields there are
+    int openings = 0;                             ///< how often it was opened, also while it was open already
+    bool isBegun = false;  ///< the text was begun on a cell, and the next letters come behind it
 
     /// A field by its control; it must exist.
     TextBox& box(std::string_view control);

@@ -224,6 +224,7 @@ void SmallDialogs::show(Dialog& dialog) {
     if (dialog.window)
         design_.SynchForms(*dialog.window, WindowAction::open);
     dialog.open = true;
+    ++dialog.openings;
 }
 
 void SmallDialogs::close(Dialog& dialog) {
@@ -487,14 +488,15 @@ void SmallDialogs::applyExample() {
 // One value
 // ----------------------------------------------------------------------------------------------------
 
-void SmallDialogs::activate(FieldRef field) {
+void SmallDialogs::activate(FieldRef field, const std::string& firstText) {
     if (field->arrows == ArrowRule::byStep)
-        openValue(field);
-    else if (field->arrows == ArrowRule::twoStates)
+        openValue(field, firstText);
+    else if (field->arrows == ArrowRule::twoStates && firstText.empty())
         stepField(session_, field, readNumberField(session_.state(), field) == 1 ? -1 : 1);
 }
 
-void SmallDialogs::openValue(FieldRef field) {
+// What was typed for another field, and not applied, is dropped.
+void SmallDialogs::openValue(FieldRef field, const std::string& firstText) {
     const Study& s = session_.study();
     const double value = readNumberField(session_.state(), field);
     const int decimals = decimalsOf(s, *field.field);
@@ -502,7 +504,10 @@ void SmallDialogs::openValue(FieldRef field) {
     value_.title.Caption = value_.fields[0].label.Caption = fieldWords(s, field);
     value_.note.Caption =
         (field->decimals == nullptr ? "A whole number " : "A number ") + limitsOf(s, *field.field).words();
-    value_.box(valueBox).Text = decimals == 0 ? shortestText(value) : fixedText(value, decimals);
+    value_.isBegun = !firstText.empty();
+    value_.box(valueBox).Text = value_.isBegun  ? firstText
+                                : decimals == 0 ? shortestText(value)
+                                                : fixedText(value, decimals);
     show(value_);
 }
 

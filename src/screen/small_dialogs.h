@@ -10,8 +10,8 @@
 #include "platform/controls.h"
 #include "platform/event_registry.h"
 #include "screen/design.h"
-#include "screen/part.h"
 #include "screen/dialog.h"
+#include "screen/part.h"
 
 namespace lorvane {
 
@@ -37,8 +37,8 @@ public:
     void openExample();
 
     /// What a double click on a field's cell does: a choice of two goes over to the other one, and a number
-    /// opens for typing.
-    void activate(FieldRef field);
+    /// opens for typing. With a first text, typed on the cell, only a number opens, with that text.
+    void activate(FieldRef field, const std::string& firstText = {});
 
     /// The dispersion of the outcome entered as ICC, or as limits of the risks.
     void enterIcc();
@@ -76,7 +76,7 @@ private:
     void enterRisksAs(RangeModes mode);
     void applyMaxCost();
     void applyExample();
-    void openValue(FieldRef field);
+    void openValue(FieldRef field, const std::string& firstText);
     void applyValue();
     bool groupNamesChanged() const;
     bool levelNamesChanged() const;

@@ -129,9 +129,10 @@ protected:
         EXPECT_EQ(qobject_cast<QLabel*>(*tip)->textFormat(), Qt::PlainText);
         EXPECT_EQ(qobject_cast<QLabel*>(*tip)->text(), text);
     }
-    void run(const std::string& name, void (Desk::*act)(const std::string&)) {
+    template <typename Act>
+    void run(const std::string& name, Act act) {
         SCOPED_TRACE(name);
-        (desk.*act)(name);
+        std::invoke(act, desk, name);
         settle();
         inspect();
     }
@@ -197,7 +198,7 @@ TEST_F(Names, AreShownLetterByLetterInEveryWindow) {
             return;
         const std::string cell(field->cell.stem);
         runClick(field->index == FieldIndex::none ? cell : indexedName(cell, field.index));
-        run(field.name(), &Desk::openValue);
+        run(field.name(), [](Desk& opener, const std::string& name) { opener.openValue(name); });
         run("frmValue", &Desk::close);
     });
     runTool("gfrmOptimal");
