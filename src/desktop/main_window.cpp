@@ -19,11 +19,11 @@
 
 #include "desktop/effect_strip.h"
 #include "desktop/kit/elided_label.h"
-#include "desktop/kit/figure_card.h"
 #include "desktop/kit/plain_text.h"
 #include "desktop/kit/text_style.h"
 #include "desktop/level_table.h"
 #include "desktop/menus.h"
+#include "desktop/result_cards.h"
 
 namespace lorvane::desktop {
 
@@ -136,57 +136,15 @@ QWidget* MainWindow::makeContent() {
     scroll_->setFocusPolicy(Qt::NoFocus);
     page_->addWidget(scroll_);
 
-    auto* figures = new QHBoxLayout;
-    figures->setSpacing(14);
-    power_ = new FigureCard;
-    cost_ = new FigureCard;
-    for (FigureCard* card : {power_, cost_}) {
-        card->setMinimumHeight(smallestCards);
-        card->setMaximumHeight(200);
-        figures->addWidget(card, 1);
-    }
-    page_->addLayout(figures, 1);
+    results_ = new ResultCards(desk_);
+    results_->setMinimumHeight(smallestCards);
+    results_->setMaximumHeight(200);
+    page_->addWidget(results_, 1);
     page_->addStretch(0);
     outer->addStretch(0);
     outer->addWidget(page, 1);
     outer->addStretch(0);
     return content;
-}
-
-void MainWindow::syncPower() {
-    const MainScreen& screen = desk_.design().screen();
-    const lorvane::Figure& power = screen.pnlPower;
-    const QString note = shownText(screen.pnlPowerNote.Caption);
-    switch (power.state) {
-    case FigureState::request:
-        power_->setContent(FigureTrouble{shownText(power.Caption), note});
-        break;
-    case FigureState::bar:
-        power_->setContent(
-            FigureBar{shownText(power.name), shownText(power.number), screen.pnlPowerBar.Flood / 100,
-                      shownText(power.low), shownText(power.high),
-                      FigureTick{screen.pnlPowerTick.Flood / 100, shownText(screen.pnlPowerTick.Caption)}});
-        break;
-    case FigureState::digits:
-        power_->setContent(
-            Figure{shownText(power.words()), shownText(power.number), note, screen.powerIsReached});
-        break;
-    }
-}
-
-void MainWindow::syncCost() {
-    const MainScreen& screen = desk_.design().screen();
-    const lorvane::Figure& cost = screen.pnlCost;
-    if (cost.state == FigureState::bar)
-        cost_->setContent(FigureBar{shownText(cost.name),
-                                    shownText(cost.number),
-                                    screen.pnlCostBar.Flood / 100,
-                                    shownText(cost.low),
-                                    shownText(cost.high),
-                                    {}});
-    else
-        cost_->setContent(Figure{shownText(cost.words()), shownText(cost.number),
-                                 shownText(screen.pnlCostNote.Caption), false});
 }
 
 void MainWindow::sync() {
@@ -196,8 +154,7 @@ void MainWindow::sync() {
     sense_->setText(shownText(screen.pnlSense.Caption));
     strip_->sync();
     table_->sync();
-    syncPower();
-    syncCost();
+    results_->sync();
     menus_->sync();
     saved_->setText(shownText(desk_.design().savedWords()));
     syncStatus();

@@ -14,9 +14,9 @@ class QVBoxLayout;
 namespace lorvane::desktop {
 
 class EffectStrip;
-class FigureCard;
 class LevelTable;
 class Menus;
+class ResultCards;
 
 /// The window with the study. It closes only when the program has asked about unsaved work.
 class MainWindow : public QMainWindow {
@@ -45,8 +45,6 @@ private:
     void addBars();
     QWidget* makeContent();
     void addTitle(QVBoxLayout* column);
-    void syncPower();
-    void syncCost();
     void syncStatus();
     void chooseSize();
 
@@ -60,8 +58,7 @@ private:
     QScrollArea* scroll_ = nullptr;
     EffectStrip* strip_ = nullptr;
     LevelTable* table_ = nullptr;
-    FigureCard* power_ = nullptr;
-    FigureCard* cost_ = nullptr;
+    ResultCards* results_ = nullptr;
     QVBoxLayout* page_ = nullptr;
     QVBoxLayout* upper_ = nullptr;
 };
