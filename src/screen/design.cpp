@@ -8,7 +8,9 @@
 #include "base/number_text.h"
 #include "engine/effect_check.h"
 #include "engine/power_test.h"
+#include "screen/design_words.h"
 #include "screen/screen_rows.h"
+#include "screen/trouble_words.h"
 #include "session/answers.h"
 #include "validation/dispersion_tables.h"
 
@@ -28,7 +30,9 @@ constexpr WindowId graphFormsBack[] = {frmXVar, frmLVar, xPlot, frmTable, frmTip
 
 constexpr double fullBar = 100;
 
-// Outlines 2 to 6 belong to the levels: level i has number i + 1.
+// Outline 1 goes around the dispersion at fault. Outlines 2 to 6 belong to the levels: that of level i is i
+// + 1.
+constexpr int dispersionOutline = 1;
 constexpr int firstLevelOutline = 2;
 constexpr int lastLevelOutline = 6;
 
@@ -73,11 +77,11 @@ void Design::writeModels() {
     writeCells(session_.state(), session_.computation().models, screen_);
     writeStrip(s, screen_);
     writeTable(s, screen_);
+    writeWords(session_.state(), screen_);
     writeOutcome();
     writeCost();
     writeOtherForm(s, screen_);
     writeDiagnostics(s, screen_);
-    writeWords(session_.state(), screen_);
     const DetailLevels detail = settings().CellCountDetail;
     writeCellCounts(s, {detail >= DetailLevels::moderate, detail >= DetailLevels::full}, countsPanel_);
 }
@@ -103,14 +107,31 @@ void Design::writeDispersion() {
     writeTauSqPanel(study(), computation.tauSq, display().ShowOmega, tauSqPanel_);
 }
 
-// The request stands in the place of the power whatever the mode. A gate before the power leaves the outlines
-// of the last problem, and so does arithmetic that could not go on. It comes after the cells, since an
-// outline asks which of them are shown.
+// The request stands in the place of the power whatever the mode. It comes after the cells, since an outline
+// asks which of them are shown.
 void Design::writeOutcome() {
     const ComputeOutcome& outcome = session_.computation().outcome;
     problems_.pnlErr.Caption = outcome.problem.message;
     problems_.pnlErrTitle.Caption = outcome.problem.title;
     writePower();
+    outlineDispersion();
+    outlineLevels();
+    writeReason();
+}
+
+void Design::outlineDispersion() {
+    clearOutline(dispersionOutline);
+    const auto around = [&](const char* cell, const std::optional<LevelsAtFault>& levels) {
+        if (levels)
+            outline(dispersionOutline, indexedName(cell, levels->high), indexedName(cell, levels->low));
+    };
+    around("pnlICC", iccAtFault(session_));
+    around("pnlTauSq", tauSqAtFault(session_));
+}
+
+// A gate before the power leaves the outlines of the last problem, and so does a fault of the arithmetic.
+void Design::outlineLevels() {
+    const ComputeOutcome& outcome = session_.computation().outcome;
     const bool reached = outcome.obstacle == Obstacle::none || outcome.obstacle == Obstacle::data;
     if (!reached || !session_.faultWords().empty())
         return;
@@ -123,6 +144,21 @@ void Design::writeOutcome() {
         if (outcome.levelAtFault(level))
             outline(level + 1, indexedName("pnlLevel", level), last);
     }
+}
+
+// The card of the power leads to the outlines only where this problem has one.
+void Design::writeReason() {
+    screen_.pnlPowerReason.Caption = troubleSentence(session_);
+    screen_.pnlPowerTip.Caption = troubleText(session_);
+    if (study().result.xValid)
+        return;
+    const ComputeOutcome& outcome = session_.computation().outcome;
+    bool isOutlined = screen_.outlines(dispersionOutline).Visible;
+    for (int level = lowestLevel; level <= highestLevel; ++level) {
+        const bool isAtFault = outcome.covariatesAtFault(level) || outcome.levelAtFault(level);
+        isOutlined = isOutlined || (isAtFault && screen_.outlines(level + 1).Visible);
+    }
+    screen_.pnlPowerNote.Caption = isOutlined ? outlinedValuesNote : "";
 }
 
 void Design::writePower() {

@@ -129,6 +129,9 @@ private:
     void writeEffect();
     void writeDispersion();
     void writeOutcome();
+    void outlineDispersion();
+    void outlineLevels();
+    void writeReason();
     void writePower();
     void writeCost();
     void moveWindows(bool heldArrow);

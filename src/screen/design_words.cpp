@@ -43,7 +43,7 @@ std::string designSentence(const Study& s) {
 
 std::string powerNote(const Study& s) {
     if (!s.result.xValid)
-        return "Power is shown again as soon as the outlined values fit together.";
+        return "";
     if (!s.isTested())
         return "This effect has no test";
     const std::string required = shortestText(roundHalfToEven(s.ReqPower * 100)) + "%";

@@ -14,8 +14,12 @@ std::string designTitle(const Study& study);
 /// "Students within classes within schools. Schools are randomized."
 std::string designSentence(const Study& study);
 
-/// Whether the study's power reaches the required one, or why there is none to tell.
+/// Whether the study's power reaches the required one; empty without a power.
 std::string powerNote(const Study& study);
+
+/// What stands there without a power, where cells at fault are outlined.
+inline constexpr const char* outlinedValuesNote =
+    "Power is shown again as soon as the outlined values fit together.";
 
 /// The units of every level in the whole study, the top level first: "30 schools, 90 classes".
 std::string unitsNote(const Study& study);

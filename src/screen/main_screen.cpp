@@ -105,6 +105,8 @@ void addPanels(ControlRegistry& registry, const MainScreen& s) {
                                                            {"pnlPower", &s.pnlPower},
                                                            {"pnlPowerOuter", &s.pnlPowerOuter},
                                                            {"pnlPowerBar", &s.pnlPowerBar},
+                                                           {"pnlPowerReason", &s.pnlPowerReason},
+                                                           {"pnlPowerTip", &s.pnlPowerTip},
                                                            {"pnlPowerNote", &s.pnlPowerNote},
                                                            {"pnlPowerTick", &s.pnlPowerTick},
                                                            {"pnlMaxCost", &s.pnlMaxCost},

@@ -111,7 +111,9 @@ struct MainScreen {
     Figure pnlPower;      ///< power as digits, or a request for other data
     Panel pnlPowerOuter;  ///< frame of the power bar
     Panel pnlPowerBar;
-    Panel pnlPowerNote;  ///< whether the required power is reached
+    Panel pnlPowerReason;  ///< why there is no power, in one sentence
+    Panel pnlPowerTip;     ///< the same in full
+    Panel pnlPowerNote;    ///< whether the required power is reached, or when there will be one again
     bool powerIsReached = false;
     Panel pnlPowerTick;  ///< the required power on the bar: its text, and its place as the flood
     Figure pnlCost;

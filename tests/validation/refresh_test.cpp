@@ -1,6 +1,7 @@
 // What a change shows, which windows it moves, and that a trial leaves no trace.
 #include <regex>
 
+#include "screen/design_words.h"
 #include "support/counted_allocations.h"
 #include "validation/cell_counts.h"
 #include "validation/study_bench.h"
@@ -53,6 +54,25 @@ TEST(Refresh, TrialShowsNothingAndAllocatesNothing) {
 }
 
 TEST(Refresh, PowerLineAndWindows) { playScenarios("power_line.txt", "", "pnlPower"); }
+
+TEST(Refresh, ReasonLine) { playScenarios("reason_line.txt", "", "pnlPowerReason"); }
+
+TEST(Refresh, TheNoteLeadsToOutlinesOfThisProblemAlone) {
+    using Cells = std::vector<std::string>;
+    for (const auto& [played, around, leads] :
+         {std::tuple{"L=4 R=4 ICC_Metric=1 ICC(2)=0.6 ICC(4)=0.6",
+                     Cells{"pnlICC(2)", "pnlICC(3)", "pnlICC(4)"}, true},
+          {"L=3 R=1 DataType=2 BinaryType=3 Tau-sq_Metric=2 DRange(3)=3", Cells{"pnlDRange(3)"}, true},
+          {"ICC_Metric=1 MRange(1)=0", Cells{}, false},
+          {"Q(2)=9", Cells{}, true},
+          {"Q(2)=9 ; DataType=2 OR=1000000", Cells{}, false}}) {
+        StudyBench bench;
+        bench.play(played);
+        const MainScreen& screen = bench.design.screen();
+        EXPECT_EQ(screen.outlines(1).around, around) << played;
+        EXPECT_EQ(screen.pnlPowerNote.Caption == outlinedValuesNote, leads) << played;
+    }
+}
 
 TEST(Refresh, CostLine) { playScenarios("cost_line.txt", "", "pnlCost"); }
 
