@@ -37,7 +37,7 @@ void ResultCards::syncPower() {
         break;
     case FigureState::bar:
         power_->setContent(
-            FigureBar{shownText(power.name), shownText(power.number), screen.pnlPowerBar.Flood / 100,
+            FigureBar{shownText(power.name), shownText(power.barNumber), screen.pnlPowerBar.Flood / 100,
                       shownText(power.low), shownText(power.high),
                       FigureTick{screen.pnlPowerTick.Flood / 100, shownText(screen.pnlPowerTick.Caption)}});
         break;
@@ -53,8 +53,8 @@ void ResultCards::syncCost() {
     const lorvane::Figure& cost = screen.pnlCost;
     if (cost.state == FigureState::bar)
         cost_->setContent(FigureBar{shownText(cost.name),
-                                    shownText(cost.number),
-                                    screen.pnlCostBar.Flood / 100,
+                                    shownText(cost.barNumber),
+                                    screen.pnlCostTop.Flood / 100,
                                     shownText(cost.low),
                                     shownText(cost.high),
                                     {}});

@@ -2,27 +2,18 @@
 // one. Each product is rounded to a whole number, and the sum has 32 bits.
 #include "base/money.h"
 #include "engine/design_routines.h"
+#include "engine/level_costs.h"
 
 namespace lorvane {
 
 namespace {
 
-// The levels are walked from the top down: a blocked level has one kind of unit, a level from the
-// randomized one down has units in each arm, counted over all blocks.
 std::int32_t totalCost(const Study& s, int NumLevels, int RandomizedLevel) {
+    const PerLevel<LevelCost> costs = levelCosts(s, NumLevels, RandomizedLevel);
     MoneySum sum;
-    double blocks = 1;
-    for (int level = NumLevels; level > RandomizedLevel; --level) {
-        blocks *= s.txtNB(level);
-        sum.add(s.txtCostB(level) * blocks);
-    }
-    double treated = blocks;
-    double control = blocks;
-    for (int level = RandomizedLevel; level >= 1; --level) {
-        treated *= s.txtNT(level);
-        control *= s.txtNC(level);
-        sum.add(s.txtCostT(level) * treated);
-        sum.add(s.txtCostC(level) * control);
+    for (int level = NumLevels; level >= 1; --level) {
+        for (std::size_t kind = 0; kind < costs(level).kindCount; ++kind)
+            sum.add(costs(level).kinds[kind].units * costs(level).kinds[kind].each);
     }
     return sum.total();
 }

@@ -51,6 +51,9 @@ enum class LogitErrors {
 /// The limit that the span of a level's risks was shifted to.
 enum class Truncations { none = 0, atLowerLimit = 1, atUpperLimit = 2 };
 
+/// Top of the cost bar of a new study. While it stands the bar shows a top that follows the cost.
+inline constexpr double startMaxCost = 100;
+
 /// A span of values covers four standard deviations, two to each side of the middle.
 inline constexpr double spanOfOneSd = 4;
 
@@ -194,10 +197,10 @@ struct Study {
     double txtEvent2 = 0.5;  ///< event rate in the treated group that it implies
     double txtAlpha = 0.05;  ///< significance level of the test, both tails together
     Tails txtTails = Tails::two;
-    double txtMean = 0;     ///< mean of the scores; the ranges shown lie about it
-    double txtSD = 1;       ///< standard deviation of the scores of level 1
-    double MaxCost = 100;   ///< top of the cost bar; display only
-    double ReqPower = 0.8;  ///< power that the searches aim at
+    double txtMean = 0;             ///< mean of the scores; the ranges shown lie about it
+    double txtSD = 1;               ///< standard deviation of the scores of level 1
+    double MaxCost = startMaxCost;  ///< top of the cost bar; display only
+    double ReqPower = 0.8;          ///< power that the searches aim at
 
     PerLevel<std::string> txtName;
     IndexedArray<std::string, 1, 2> txtGroupName;  ///< 1 treated, 2 control

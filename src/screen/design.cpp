@@ -178,6 +178,7 @@ void Design::writePower() {
     }
     const double value = study().result.txtPower;
     power.number = fixedText(value, 4);
+    power.barNumber = fixedText(value * 100, 1) + "%";
     power.Caption = power.name + " = " + power.number;
     screen_.pnlPowerBar.Flood = SmallerOf(value * 100, fullBar);
 }
@@ -192,6 +193,7 @@ void Design::writeCost() {
     cost.state = asBar ? FigureState::bar : FigureState::digits;
     if (amount != 1)
         cost.number = costText(amount, settings().currency);
+    cost.barNumber = cost.number;
     cost.Caption = cost.name + " = " + cost.number;
     screen_.pnlCostBar.Flood = SmallerOf(amount / study().MaxCost * 100, fullBar);
 }

@@ -6,6 +6,7 @@
 #include "base/letter_case.h"
 #include "base/money.h"
 #include "base/number_text.h"
+#include "engine/level_costs.h"
 
 namespace lorvane {
 
@@ -51,26 +52,12 @@ std::string powerNote(const Study& s) {
                                            : "Does not reach the required power of " + required;
 }
 
-double unitsInStudy(const Study& s, int level) {
-    double blocks = 1;
-    for (int k = s.NumLevels; k > s.RandomizedLevel && k >= level; --k)
-        blocks *= s.txtNB(k);
-    if (s.isBlocked(level))
-        return blocks;
-    double treated = blocks;
-    double control = blocks;
-    for (int k = s.RandomizedLevel; k >= level; --k) {
-        treated *= s.txtNT(k);
-        control *= s.txtNC(k);
-    }
-    return treated + control;
-}
-
 std::string unitsNote(const Study& s) {
     constexpr double largestTold = 1e15;
+    const PerLevel<LevelCost> costs = levelCosts(s);
     std::string note;
     for (int level = s.NumLevels; level >= 1; --level) {
-        const double units = unitsInStudy(s, level);
+        const double units = costs(level).units();
         if (!(std::fabs(units) < largestTold))
             return "";
         note += (note.empty() ? "" : ", ") + groupedText(static_cast<std::int64_t>(units)) + " " +

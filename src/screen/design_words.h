@@ -24,9 +24,6 @@ inline constexpr const char* outlinedValuesNote =
 /// The units of every level in the whole study, the top level first: "30 schools, 90 classes".
 std::string unitsNote(const Study& study);
 
-/// Units of a level in the whole study, both arms.
-double unitsInStudy(const Study& study, int level);
-
 /// Names joined as in a sentence: "a", "a and b", "a, b and c".
 std::string joinedNames(const std::vector<std::string>& names);
 

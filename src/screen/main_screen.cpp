@@ -110,6 +110,7 @@ void addPanels(ControlRegistry& registry, const MainScreen& s) {
                                                            {"pnlPowerNote", &s.pnlPowerNote},
                                                            {"pnlPowerTick", &s.pnlPowerTick},
                                                            {"pnlMaxCost", &s.pnlMaxCost},
+                                                           {"pnlCostTop", &s.pnlCostTop},
                                                            {"pnlCost", &s.pnlCost},
                                                            {"pnlCostOuter", &s.pnlCostOuter},
                                                            {"pnlCostBar", &s.pnlCostBar},
@@ -159,6 +160,7 @@ MainScreen::MainScreen() {
     pnlCost.Caption = "Cost = n/a";
     pnlCost.number = "n/a";
     pnlPower.name = "Power";
+    pnlPower.high = "100%";
     pnlCost.name = "Cost";
     for (const Field& field : fieldBook()) {
         if (!field.cell.stem.empty())

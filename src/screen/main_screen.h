@@ -50,9 +50,10 @@ enum class FigureState {
 
 /// Power or cost in large figures: the caption is "Power = 0.7726" or a request.
 struct Figure : Panel {
-    std::string name;                   ///< "Power"
-    std::string number;                 ///< "0.7726"
-    std::string low = "0", high = "1";  ///< the ends of its bar
+    std::string name;             ///< "Power"
+    std::string number;           ///< "0.7726"
+    std::string low = "0", high;  ///< the ends of its bar
+    std::string barNumber;        ///< "77.3%", above the bar
     FigureState state = FigureState::digits;
 
     /// What stands before the number: "Power = ".
@@ -120,7 +121,8 @@ struct MainScreen {
     Panel pnlCostOuter;
     Panel pnlCostBar;
     Panel pnlCostNote;  ///< units in the whole study
-    Panel pnlMaxCost;   ///< the top of the cost bar
+    Panel pnlMaxCost;   ///< the top of the cost bar as it was set
+    Panel pnlCostTop;   ///< how far the cost fills the bar up to the top that is shown
 
     Panel pnldW, pnldT;          ///< the other form of d
     Panel lblOther, pnlOther;    ///< the one of the two that is shown: its heading, "d (total)", and its text

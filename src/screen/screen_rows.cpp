@@ -6,6 +6,7 @@
 #include "base/money.h"
 #include "base/number_text.h"
 #include "engine/effect_metrics.h"
+#include "screen/cost_shares.h"
 #include "screen/design_words.h"
 #include "session/field_words.h"
 
@@ -196,7 +197,10 @@ void writeOtherForm(const Study& s, MainScreen& screen) {
 
 void writeWords(const SessionState& state, MainScreen& screen) {
     const Study& s = state.study;
-    screen.pnlMaxCost.Caption = screen.pnlCost.high = amountText(s.MaxCost, state.settings.currency);
+    screen.pnlMaxCost.Caption = amountText(s.MaxCost, state.settings.currency);
+    const double top = topOfCostBar(s);
+    screen.pnlCost.high = amountText(top, state.settings.currency) + " maximum";
+    screen.pnlCostTop.Flood = std::min(s.result.txtCost / top * 100, 100.0);
     screen.pnlTitle.Caption = designTitle(s);
     screen.pnlSense.Caption = designSentence(s);
     screen.pnlPowerNote.Caption = powerNote(s);

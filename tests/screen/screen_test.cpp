@@ -2,6 +2,7 @@
 #include <cstdlib>
 
 #include "base/names.h"
+#include "screen/cost_shares.h"
 #include "screen/screen_bench.h"
 #include "session/currency.h"
 
@@ -39,6 +40,62 @@ TEST(Outlines, GoAroundWhatIsShown) {
         EXPECT_EQ(bench.design.screen().outlines(7).around, around) << from;
         EXPECT_EQ(bench.design.screen().outlines(7).Visible, !around.empty()) << from;
     }
+}
+
+TEST(CostShares, AddUpToTheCostOfEveryDesign) {
+    for (int design = 0; design < 9; ++design) {
+        const int levels = design < 2 ? 2 : design < 5 ? 3 : 4;
+        const int randomized = 1 + design - (design < 2 ? 0 : design < 5 ? 2 : 5);
+        StudyBench bench;
+        bench.play("L=" + std::to_string(levels) + " R=" + std::to_string(randomized) +
+                   " NT(1)=7 NC(1)=6 NT(2)=3 NC(2)=5 NT(3)=2 NC(3)=9 NT(4)=4 NC(4)=3 NB(2)=8 NB(3)=3 NB(4)=2"
+                   " CostT(1)=1.3 CostC(1)=2 CostT(2)=30 CostC(2)=7 CostT(3)=99 CostC(3)=80.7 CostT(4)=500"
+                   " CostC(4)=1 CostB(2)=11 CostB(3)=222 CostB(4)=3333");
+        double amount = 0, share = 0, percent = 0;
+        for (const CostShare& row : costShares(bench.session.state())) {
+            std::string digits = row.amount;
+            std::erase_if(digits, [](char c) { return c == ',' || c == '$'; });
+            amount += std::atof(digits.c_str());
+            percent += std::atof(row.percent.c_str());
+            share += row.share;
+        }
+        EXPECT_EQ(amount, bench.study.result.txtCost) << levels << randomized;
+        EXPECT_NEAR(share, 1, 1e-12);
+        EXPECT_EQ(percent, 100);
+    }
+}
+
+TEST(CostShares, TellUnitsAndUnitCosts) {
+    StudyBench bench;
+    const auto rows = [&](const char* played) {
+        bench.play(played);
+        std::string text;
+        for (const CostShare& row : costShares(bench.session.state()))
+            text += row.units + ": " + row.unitCosts + " = " + row.amount + " " + row.percent + "; ";
+        return text;
+    };
+    EXPECT_EQ(rows("L=3 R=2 NB(3)=3 NT(2)=5 NC(2)=4 NT(1)=10 NC(1)=10 CostB(3)=1000 CostT(2)=50 CostC(2)=40"
+                   " CostT(1)=2 CostC(1)=2"),
+              "3: 3 at $1,000 = $3,000 63%; 27: 15 at $50 and 12 at $40 = $1,230 26%; 270: 270 at $2 = $540 "
+              "11%; ");
+    EXPECT_EQ(rows("CostB(3)=0 CostT(2)=0 CostC(2)=0 CostT(1)=0 CostC(1)=0"),
+              "3: 3 at $0 =  ; 27: 27 at $0 =  ; 270: 270 at $0 =  ; ");
+}
+
+// The top that the user has set stays; until then the bar ends above the cost.
+TEST_F(Screen, TheCostBarEndsAboveTheCostUntilItsTopIsSet) {
+    for (const auto& [cost, top, flood] : {std::tuple{"30", "$500 maximum", "60"},
+                                           {"0", "$100 maximum", "0"},
+                                           {"9", "$100 maximum", "90"},
+                                           {"100000", "$2,000,000 maximum", "50"}}) {
+        load(std::string("Costmode=2 txtNT(2)=5 txtNC(2)=5 txtNT(1)=1 txtNC(1)=1 txtCostT(2)=") + cost +
+             " txtCostC(2)=" + cost + " txtCostT(1)=0 txtCostC(1)=0");
+        expect({{"pnlCost.High", top}, {"pnlCostTop.Flood", flood}, {"MaxCost", "100"}});
+    }
+    app.tool("Set maximum cost");
+    app.type("txtMaxCost", "4000000");
+    app.click("cmdSetMaxCost(0)");
+    expect({{"pnlCost.High", "$4,000,000 maximum"}, {"pnlCostTop.Flood", "25"}, {"MaxCost", "4000000"}});
 }
 
 /// A study from a file may hold an empty arm; an unusable ICC keeps the formula from meeting it.
