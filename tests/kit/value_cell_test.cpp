@@ -41,11 +41,13 @@ struct WatchedCell {
         QKeyEvent event(type, Qt::Key_Up, modifiers, {}, repeated);
         QCoreApplication::sendEvent(&cell, &event);
     }
-    /// The directions of all steps since the last look.
+    /// All steps since the last look, with their directions.
     QList<int> takeSteps() {
         QList<int> result;
-        while (!stepped.isEmpty())
-            result << stepped.takeFirst()[0].toInt();
+        while (!stepped.isEmpty()) {
+            const QVariantList step = stepped.takeFirst();
+            result << step[0].toInt() * step[1].toInt();
+        }
         return result;
     }
     qsizetype takeFinished() {
@@ -58,6 +60,9 @@ struct WatchedCell {
     QSignalSpy stepped{&cell, &ValueCell::stepped};
     QSignalSpy finished{&cell, &ValueCell::stepFinished};
     QSignalSpy activated{&cell, &ValueCell::activated};
+    QSignalSpy typed{&cell, &ValueCell::typed};
+    QSignalSpy linked{&cell, &ValueCell::linkToggled};
+    QSignalSpy clicked{&cell, &ValueCell::clicked};
     QSignalSpy menu{&cell, &ValueCell::contextMenuRequested};
 };
 
@@ -95,6 +100,19 @@ TEST_F(Cell, AHeldArrowRepeatsUntilReleased) {
     EXPECT_EQ(steps, Steps(steps.size(), -1));
     QTest::qWait(150);
     EXPECT_EQ(watched.takeSteps(), Steps{});
+}
+
+TEST_F(Cell, AHoldGoesFasterAfterASecond) {
+    WatchedCell watched(window);
+    watched.press(1);
+    QTest::qWait(900);
+    EXPECT_FALSE(watched.takeSteps().contains(10));
+    EXPECT_TRUE(QTest::qWaitFor([&] { return watched.takeSteps().contains(10); }, 1000));
+    watched.release();
+    watched.takeSteps();
+    watched.press(1);
+    watched.release();
+    EXPECT_EQ(watched.takeSteps(), Steps{1}) << "the next click is slow again";
 }
 
 TEST_F(Cell, WhateverTakesTheCellAwayEndsTheHold) {
@@ -147,6 +165,7 @@ TEST_F(Cell, KeysStepAndActivate) {
         {Kind::Choice, Qt::Key_Down, Qt::KeypadModifier, {-1}, 0},
         {Kind::Spin, Qt::Key_Up, Qt::ControlModifier, {}, 0},
         {Kind::Spin, Qt::Key_Down, Qt::ShiftModifier, {}, 0},
+        {Kind::Spin, Qt::Key_PageDown, {}, {-10}, 0},
         {Kind::Linked, Qt::Key_Up, {}, {}, 0},
         {Kind::Spin, Qt::Key_Return, {}, {}, 1},
         {Kind::Linked, Qt::Key_Enter, Qt::KeypadModifier, {}, 1},
@@ -157,6 +176,101 @@ TEST_F(Cell, KeysStepAndActivate) {
         EXPECT_EQ(watched.takeSteps(), expected.steps) << expected.key << ' ' << expected.modifiers;
         EXPECT_EQ(watched.activated.count(), expected.activated) << expected.key;
         EXPECT_EQ(watched.takeFinished(), expected.steps.size()) << expected.key;
+    }
+}
+
+TEST_F(Cell, KeysTypeLinkAndOpenTheMenu) {
+    struct Case {
+        Kind kind;
+        Qt::Key key;
+        Qt::KeyboardModifiers modifiers;
+        const char* typed;
+        int linked;
+        int menus;
+    };
+    const Case cases[] = {
+        {Kind::Spin, Qt::Key_7, Qt::KeypadModifier, "7", 0, 0},
+        {Kind::Spin, Qt::Key_Minus, {}, "-", 0, 0},
+        {Kind::Linked, Qt::Key_Period, {}, ".", 0, 0},
+        {Kind::Spin, Qt::Key_X, {}, "", 0, 0},
+        {Kind::Spin, Qt::Key_7, Qt::ControlModifier, "", 0, 0},
+        {Kind::Choice, Qt::Key_7, {}, "", 0, 0},
+        {Kind::ReadOnly, Qt::Key_7, {}, "", 0, 0},
+        {Kind::Linked, Qt::Key_L, {}, "", 1, 0},
+        {Kind::Spin, Qt::Key_L, {}, "", 1, 0},
+        {Kind::Choice, Qt::Key_Space, {}, "", 0, 1},
+        {Kind::Spin, Qt::Key_Space, {}, "", 0, 0},
+        {Kind::Spin, Qt::Key_F10, Qt::ShiftModifier, "", 0, 1},
+        {Kind::Linked, Qt::Key_Menu, {}, "", 0, 1},
+    };
+    for (const Case& expected : cases) {
+        WatchedCell watched(window, expected.kind);
+        watched.cell.setLinkWords(QStringLiteral("Unlink"));
+        QTest::keyClick(&watched.cell, expected.key, expected.modifiers);
+        const QString typed = watched.typed.isEmpty() ? QString() : watched.typed[0][0].toString();
+        EXPECT_EQ(typed.toStdString(), expected.typed) << expected.key;
+        EXPECT_EQ(watched.linked.count(), expected.linked) << expected.key;
+        EXPECT_EQ(watched.menu.count(), expected.menus) << expected.key;
+    }
+    WatchedCell alone(window);
+    QTest::keyClick(&alone.cell, Qt::Key_L);
+    EXPECT_EQ(alone.linked.count(), 0) << "a value without a twin";
+}
+
+TEST_F(Cell, TheLinkSignIsAButton) {
+    WatchedCell watched(window, Kind::Linked);
+    const QPoint sign(watched.cell.width() - 12, 14);
+    QTest::mouseClick(&watched.cell, Qt::LeftButton, {}, sign);
+    EXPECT_EQ(watched.linked.count(), 0) << "a sign without words only tells";
+    watched.cell.setLinkWords(QStringLiteral("Unlink the two groups"));
+    const auto moveTo = [&](QPoint place) {
+        QTest::mouseMove(window.windowHandle(), watched.cell.mapTo(&window, place));
+        settle();
+        return watched.cell.cursor().shape();
+    };
+    EXPECT_EQ(moveTo({20, 12}), Qt::ArrowCursor);
+    const QImage before = painted(watched.cell);
+    EXPECT_EQ(moveTo(sign), Qt::PointingHandCursor);
+    EXPECT_NE(painted(watched.cell), before) << "the plate";
+    QTest::mouseClick(&watched.cell, Qt::LeftButton, {}, sign);
+    speaker(watched.cell).actionInterface()->doAction(QAccessibleActionInterface::toggleAction());
+    EXPECT_EQ(watched.linked.count(), 2);
+    QTest::mouseDClick(&watched.cell, Qt::LeftButton, {}, sign);
+    EXPECT_EQ(watched.activated.count(), 0);
+}
+
+TEST_F(Cell, AClickTellsOfItselfUnlessASecondFollows) {
+    WatchedCell watched(window);
+    const int later = QApplication::doubleClickInterval() + 100;
+    QTest::mouseClick(&watched.cell, Qt::LeftButton, {}, {20, 12});
+    EXPECT_TRUE(QTest::qWaitFor([&] { return watched.clicked.count() == 1; }, later));
+    QTest::mouseClick(&watched.cell, Qt::LeftButton, {}, {20, 12});
+    QTest::mouseDClick(&watched.cell, Qt::LeftButton, {}, {20, 12});
+    watched.press(1);
+    watched.release();
+    QTest::mouseClick(&watched.cell, Qt::RightButton, {}, {20, 12});
+    QTest::qWait(later);
+    EXPECT_EQ(watched.clicked.count(), 1);
+    EXPECT_EQ(watched.activated.count(), 1);
+}
+
+TEST_F(Cell, LeftAndRightGoAlongTheRow) {
+    // Two over one another, a gap with what cannot be reached, one between the two in height.
+    std::vector<std::unique_ptr<ValueCell>> cells;
+    for (const auto& [kind, place] :
+         {std::pair(Kind::Spin, QRect(10, 10, 60, 24)), std::pair(Kind::Linked, QRect(10, 38, 60, 24)),
+          std::pair(Kind::FixedChoice, QRect(90, 24, 60, 24)), std::pair(Kind::Spin, QRect(170, 24, 60, 24)),
+          std::pair(Kind::Spin, QRect(250, 80, 60, 24))}) {
+        ValueCell& cell = *cells.emplace_back(std::make_unique<ValueCell>(kind, &window));
+        cell.setGeometry(place);
+        cell.show();
+    }
+    cells[1]->setFocus();
+    const std::pair<Qt::Key, std::size_t> steps[] = {
+        {Qt::Key_Right, 3}, {Qt::Key_Right, 3}, {Qt::Key_Left, 0}, {Qt::Key_Left, 0}};
+    for (const auto& [key, wanted] : steps) {
+        QTest::keyClick(window.focusWidget(), key);
+        EXPECT_TRUE(cells[wanted]->hasFocus()) << wanted;
     }
 }
 

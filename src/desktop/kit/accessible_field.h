@@ -8,7 +8,7 @@ namespace lorvane::desktop {
 
 /// Shows a widget to screen readers as a field whose text can be read, stepped and opened, but not edited in
 /// place. Field is the class of the widget. It must have accessibleRole(), text(), isChangeable(),
-/// hasProblem(), step() and activate().
+/// hasProblem(), step() and activate(); where its value can be linked, isLinkable() and toggleLink() too.
 template <typename Field>
 class FieldInterface : public QAccessibleWidget, public QAccessibleTextInterface {
 public:
@@ -37,6 +37,8 @@ public:
         QStringList names = {pressAction()};
         if (field()->isChangeable())
             names << increaseAction() << decreaseAction();
+        if (isLinkable())
+            names << toggleAction();
         return names + QAccessibleWidget::actionNames();
     }
 
@@ -47,6 +49,8 @@ public:
             field()->step(1);
         else if (name == decreaseAction())
             field()->step(-1);
+        else if (name == toggleAction())
+            toggleLink();
         else
             QAccessibleWidget::doAction(name);
     }
@@ -70,6 +74,16 @@ public:
     }
 
 private:
+    bool isLinkable() const {
+        if constexpr (requires(Field & field) { field.isLinkable(); })
+            return field()->isLinkable();
+        return false;
+    }
+    void toggleLink() {
+        if constexpr (requires(Field & field) { field.toggleLink(); })
+            field()->toggleLink();
+    }
+
     Field* field() const { return static_cast<Field*>(widget()); }
 };
 

@@ -1,20 +1,27 @@
 // Painting and input of a cell. Every change of state repaints once, and only when something changed.
 #include "desktop/kit/value_cell.h"
 
+#include <algorithm>
 #include <array>
 #include <utility>
 
+#include <QApplication>
 #include <QContextMenuEvent>
+#include <QHelpEvent>
+#include <QLocale>
 #include <QMouseEvent>
 #include <QPainter>
 #include <QTimerEvent>
+#include <QToolTip>
 
 #include "desktop/kit/accessible_field.h"
 #include "desktop/kit/icons.h"
+#include "desktop/kit/neighbour.h"
 #include "desktop/kit/number_text.h"
 #include "desktop/kit/painting.h"
 #include "desktop/kit/text_style.h"
 #include "desktop/kit/theme.h"
+#include "desktop/kit/zoom.h"
 
 namespace lorvane::desktop {
 
@@ -42,18 +49,36 @@ const Traits& traitsOf(ValueCell::Kind kind) { return KindTraits[static_cast<std
 constexpr double SignWidth = 24;  ///< the arrows or the link sign, right of the text
 constexpr double WordInset = 9;
 constexpr double LinkSize = 14;
+constexpr double LinkPlate = 20;
 constexpr int FirstRepeat = 400;  ///< milliseconds
 constexpr int NextRepeats = 60;
+constexpr int FastAfter = 1000;
+constexpr int FastSteps = 10;
 constexpr int WheelNotch = 120;
 
-const std::pair<int, int> StepKeys[] = {{Qt::Key_Up, 1}, {Qt::Key_Down, -1}};
+struct StepKey {
+    int key;
+    int direction;
+    int steps;
+};
+constexpr StepKey StepKeys[] = {
+    {Qt::Key_Up, 1, 1}, {Qt::Key_Down, -1, 1}, {Qt::Key_PageUp, 1, 10}, {Qt::Key_PageDown, -1, 10}};
 
-/// The direction of a key; 0 for one that does not step.
-int directionOf(const QKeyEvent& event) {
-    for (const auto& [key, direction] : StepKeys)
-        if (event.key() == key)
-            return direction;
-    return 0;
+/// The row of a key; null for one that does not step.
+const StepKey* stepKeyOf(const QKeyEvent& event) {
+    for (const StepKey& row : StepKeys)
+        if (event.key() == row.key)
+            return &row;
+    return nullptr;
+}
+
+/// Whether a number can begin with what a key has typed.
+bool beginsNumber(const QString& typed) {
+    if (typed.isEmpty())
+        return false;
+    const QLocale locale;
+    return typed[0].isDigit() || typed == QLatin1String(".") || typed == QLatin1String("-") ||
+           typed == locale.decimalPoint() || typed == locale.negativeSign();
 }
 
 /// Sets a member and tells whether that changed it.
@@ -105,12 +130,19 @@ void ValueCell::setLarge(bool large) {
 
 bool ValueCell::isChangeable() const { return traitsOf(kind_).field; }
 
+void ValueCell::setLinkWords(const QString& words) { linkWords_ = words; }
+
+void ValueCell::toggleLink() {
+    if (isLinkable() && isEnabled())
+        emit linkToggled();
+}
+
 QAccessible::Role ValueCell::accessibleRole() const { return traitsOf(kind_).role; }
 
 void ValueCell::step(int direction) {
     if (!isChangeable() || !isEnabled())
         return;
-    emit stepped(direction);
+    emit stepped(direction, 1);
     emit stepFinished();
 }
 
@@ -131,18 +163,45 @@ int ValueCell::arrowAt(const QPointF& point) const {
     return point.y() < height() / 2.0 ? 1 : -1;
 }
 
+bool ValueCell::isOnLink(const QPointF& point) const {
+    const QRectF bounds = figureRect(*this);
+    const QPointF at = figurePoint(*this, point);
+    return traitsOf(kind_).link && isLinkable() && isEnabled() && bounds.contains(at) &&
+           at.x() >= bounds.width() - SignWidth;
+}
+
 void ValueCell::setArrowUnderPointer(int arrow) {
     if (replaced(arrowUnderPointer_, arrow))
         update();
 }
 
-void ValueCell::beginHold(int direction) {
+void ValueCell::setPointer(const QPointF& point) {
+    setArrowUnderPointer(arrowAt(point));
+    if (!replaced(linkUnderPointer_, isOnLink(point)))
+        return;
+    if (linkUnderPointer_)
+        setCursor(Qt::PointingHandCursor);
+    else
+        unsetCursor();
+    update();
+}
+
+void ValueCell::beginHold(int direction, int steps) {
     held_ = direction;
-    emit stepped(direction);
+    heldSteps_ = steps;
+    sinceHeld_.start();
+    sendSteps();
+}
+
+/// What is held for long goes on faster; the owner stops at the limits.
+void ValueCell::sendSteps() {
+    const bool isFast = sinceHeld_.elapsed() >= FastAfter;
+    emit stepped(held_, isFast ? std::max(heldSteps_, FastSteps) : heldSteps_);
 }
 
 void ValueCell::endHold() {
     repeat_.stop();
+    click_.stop();
     if (std::exchange(held_, 0) != 0)
         emit stepFinished();
 }
@@ -158,13 +217,25 @@ bool ValueCell::pushArrow(const QMouseEvent& event) {
 }
 
 void ValueCell::timerEvent(QTimerEvent* event) {
+    if (event->timerId() == click_.timerId()) {
+        click_.stop();
+        emit clicked();
+    }
     if (event->timerId() != repeat_.timerId())
         return QWidget::timerEvent(event);
     repeat_.start(NextRepeats, this);
-    emit stepped(held_);
+    sendSteps();
 }
 
-void ValueCell::mousePressEvent(QMouseEvent* event) { pushArrow(*event); }
+/// What a click opens may move the cells, so it waits until a second click can no longer follow.
+void ValueCell::mousePressEvent(QMouseEvent* event) {
+    if (pushArrow(*event) || event->button() != Qt::LeftButton)
+        return;
+    if (isOnLink(event->position()))
+        toggleLink();
+    else
+        click_.start(QApplication::doubleClickInterval(), this);
+}
 
 void ValueCell::mouseReleaseEvent(QMouseEvent* event) {
     if (event->button() == Qt::LeftButton && repeat_.isActive())
@@ -172,20 +243,31 @@ void ValueCell::mouseReleaseEvent(QMouseEvent* event) {
 }
 
 void ValueCell::mouseDoubleClickEvent(QMouseEvent* event) {
-    if (!pushArrow(*event) && event->button() == Qt::LeftButton)
+    click_.stop();
+    if (!pushArrow(*event) && event->button() == Qt::LeftButton && !isOnLink(event->position()))
         emit activated();
 }
 
-void ValueCell::mouseMoveEvent(QMouseEvent* event) { setArrowUnderPointer(arrowAt(event->position())); }
+void ValueCell::mouseMoveEvent(QMouseEvent* event) { setPointer(event->position()); }
 
 void ValueCell::enterEvent(QEnterEvent* event) {
-    arrowUnderPointer_ = arrowAt(event->position());
+    setPointer(event->position());
     update();
 }
 
 void ValueCell::leaveEvent(QEvent*) {
-    arrowUnderPointer_ = 0;
+    setPointer({-1, -1});
     update();
+}
+
+bool ValueCell::event(QEvent* event) {
+    if (event->type() != QEvent::ToolTip)
+        return QWidget::event(event);
+    const auto* asked = static_cast<QHelpEvent*>(event);
+    if (!isOnLink(asked->pos()))
+        return QWidget::event(event);
+    QToolTip::showText(asked->globalPos(), linkWords_, this);
+    return true;
 }
 
 void ValueCell::wheelEvent(QWheelEvent* event) {
@@ -199,19 +281,59 @@ void ValueCell::wheelEvent(QWheelEvent* event) {
     event->accept();
 }
 
-void ValueCell::keyPressEvent(QKeyEvent* event) {
-    const bool modified = event->modifiers() & ~Qt::KeypadModifier;
-    const int direction = modified ? 0 : directionOf(*event);
-    if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter)
+void ValueCell::openMenuBelow() { emit contextMenuRequested(mapToGlobal(QPoint(0, height()))); }
+
+/// The keys of a cell whatever its kind; false for any other.
+bool ValueCell::pressKey(const QKeyEvent& event) {
+    switch (event.key()) {
+    case Qt::Key_Return:
+    case Qt::Key_Enter:
         emit activated();
-    else if (direction != 0 && isChangeable())
-        beginHold(direction);
+        return true;
+    case Qt::Key_Left:
+    case Qt::Key_Right:
+        focusNeighbour(*this, event.key() == Qt::Key_Left ? -1 : 1);
+        return true;
+    case Qt::Key_Menu:
+        openMenuBelow();
+        return true;
+    case Qt::Key_Space:
+        if (traitsOf(kind_).word && isChangeable())
+            openMenuBelow();
+        return true;
+    default:
+        return false;
+    }
+}
+
+bool ValueCell::typeKey(const QKeyEvent& event) {
+    const bool isNumber = traitsOf(kind_).role == QAccessible::SpinBox;
+    if (isNumber && beginsNumber(event.text()))
+        emit typed(event.text());
+    else if (event.key() == Qt::Key_L && isLinkable())
+        toggleLink();
     else
-        QWidget::keyPressEvent(event);
+        return false;
+    return true;
+}
+
+void ValueCell::keyPressEvent(QKeyEvent* event) {
+    if (event->key() == Qt::Key_F10 && event->modifiers() == Qt::ShiftModifier)
+        return openMenuBelow();
+    const bool modified = event->modifiers() & ~Qt::KeypadModifier;
+    const StepKey* step = modified ? nullptr : stepKeyOf(*event);
+    if (step == nullptr || !isChangeable()) {
+        if (modified || !(pressKey(*event) || typeKey(*event)))
+            QWidget::keyPressEvent(event);
+    } else if (event->isAutoRepeat() && held_ == step->direction) {
+        sendSteps();
+    } else {
+        beginHold(step->direction, step->steps);
+    }
 }
 
 void ValueCell::keyReleaseEvent(QKeyEvent* event) {
-    if (directionOf(*event) == 0)
+    if (stepKeyOf(*event) == nullptr)
         return QWidget::keyReleaseEvent(event);
     if (!event->isAutoRepeat())
         endHold();
@@ -228,8 +350,9 @@ void ValueCell::focusOutEvent(QFocusEvent*) {
 }
 
 void ValueCell::contextMenuEvent(QContextMenuEvent* event) {
-    const bool byMouse = event->reason() == QContextMenuEvent::Mouse;
-    emit contextMenuRequested(byMouse ? event->globalPos() : mapToGlobal(QPoint(0, height())));
+    if (event->reason() != QContextMenuEvent::Mouse)
+        return openMenuBelow();
+    emit contextMenuRequested(event->globalPos());
 }
 
 void ValueCell::changeEvent(QEvent* event) {
@@ -304,6 +427,16 @@ void ValueCell::paintArrow(QPainter& painter, int direction) const {
     painter.drawPolyline(points, 3);
 }
 
+void ValueCell::paintLink(QPainter& painter) const {
+    const QPointF centre(width() - SignWidth / 2, height() / 2.0);
+    const auto around = [&](double size) {
+        return QRectF(centre.x() - size / 2, centre.y() - size / 2, size, size);
+    };
+    if (linkUnderPointer_)
+        fillPlate(painter, around(LinkPlate), 4, colour(Role::FieldHover));
+    drawIcon(painter, Icon::Link, around(LinkSize), colour(linkUnderPointer_ ? Role::Text : Role::Quiet));
+}
+
 void ValueCell::paintEvent(QPaintEvent*) {
     QPainter painter(this);
     paintPlate(painter);
@@ -311,10 +444,8 @@ void ValueCell::paintEvent(QPaintEvent*) {
     if (isChangeable())
         for (int direction : {1, -1})
             paintArrow(painter, direction);
-    const double left = width() - (SignWidth + LinkSize) / 2;
     if (traitsOf(kind_).link)
-        drawIcon(painter, Icon::Link, QRectF(left, (height() - LinkSize) / 2, LinkSize, LinkSize),
-                 colour(Role::Quiet));
+        paintLink(painter);
 }
 
 }  // namespace lorvane::desktop

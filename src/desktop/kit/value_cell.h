@@ -4,6 +4,7 @@
 
 #include <QAccessible>
 #include <QBasicTimer>
+#include <QElapsedTimer>
 #include <QString>
 #include <QWidget>
 
@@ -50,8 +51,14 @@ public:
     void setLarge(bool large);
     bool isLarge() const { return large_; }
 
-    /// Whether it takes steps: by its arrows, by Up and Down, and by the wheel with Ctrl. Spin and Choice do.
+    /// Whether it takes steps: by its arrows, by the keys Up, Down, PageUp and PageDown, and by the wheel
+    /// with Ctrl. Spin and Choice do.
     bool isChangeable() const;
+
+    /// Whether the value has a twin that it can be linked to, and what the link does at the moment, as the
+    /// tip of the sign. Empty: it has none, and neither sign nor key asks for it.
+    void setLinkWords(const QString& words);
+    bool isLinkable() const { return !linkWords_.isEmpty(); }
 
     /// What the cell is to screen readers, by its kind.
     QAccessible::Role accessibleRole() const;
@@ -63,23 +70,35 @@ public:
     /// Does what a double click does: sends activated, unless the cell is disabled.
     void activate();
 
+    /// Does what a click on the link sign does: sends linkToggled, where there is a link to toggle.
+    void toggleLink();
+
     QSize sizeHint() const override;
     QSize minimumSizeHint() const override;
 
 signals:
-    /// The user asks for one step up (1) or down (-1). Sent again and again while an arrow or a key is held.
-    void stepped(int direction);
+    /// The user asks for steps up (1) or down (-1). Sent again and again while an arrow or a key is held, and
+    /// after a second of that with ten steps at a time.
+    void stepped(int direction, int steps);
     /// Follows the last of one or more stepped: the arrow or key is released, or the notch of the wheel is
     /// over. Also sent when the cell loses focus, is hidden or is disabled while one is held.
     void stepFinished();
     /// The user asks to open the value: double click, Enter or Return. Sent whatever the kind.
     void activated();
-    /// Right click, the Menu key or Shift+F10. The place is where a menu belongs, on the screen.
+    /// The user types over the number: a digit, a sign or a point.
+    void typed(const QString& text);
+    /// The user asks to link or unlink the value: a click on the sign, or the key L.
+    void linkToggled();
+    /// A click on the value that no double click followed.
+    void clicked();
+    /// Right click, the Menu key or Shift+F10, and Space on a choice. The place is where a menu belongs, on
+    /// the screen.
     void contextMenuRequested(const QPoint& global);
     /// The cell has got the focus.
     void focused();
 
 protected:
+    bool event(QEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
     void mousePressEvent(QMouseEvent* event) override;
     void mouseReleaseEvent(QMouseEvent* event) override;
@@ -100,10 +119,16 @@ protected:
 private:
     /// The arrow at a point: 1, -1, or 0 for none.
     int arrowAt(const QPointF& point) const;
+    bool isOnLink(const QPointF& point) const;
     void setArrowUnderPointer(int arrow);
-    void beginHold(int direction);
+    void setPointer(const QPointF& point);
+    void beginHold(int direction, int steps = 1);
+    void sendSteps();
     void endHold();
     bool pushArrow(const QMouseEvent& event);
+    bool pressKey(const QKeyEvent& event);
+    bool typeKey(const QKeyEvent& event);
+    void openMenuBelow();
 
     bool isLit() const;
     bool needsLine() const;
@@ -112,15 +137,21 @@ private:
     void paintPlate(QPainter& painter) const;
     void paintText(QPainter& painter) const;
     void paintArrow(QPainter& painter, int direction) const;
+    void paintLink(QPainter& painter) const;
 
     Kind kind_;
     Problem problem_ = Problem::None;
     bool large_ = false;
     QString text_;
+    QString linkWords_;
     int arrowUnderPointer_ = 0;
+    bool linkUnderPointer_ = false;
     int held_ = 0;
+    int heldSteps_ = 1;
+    QElapsedTimer sinceHeld_;
     int wheelRest_ = 0;
     QBasicTimer repeat_;
+    QBasicTimer click_;
 };
 
 }  // namespace lorvane::desktop
