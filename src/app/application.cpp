@@ -197,6 +197,19 @@ void Application::openValue(const std::string& field, const std::string& firstTe
     });
 }
 
+void Application::focus(FieldRef field) {
+    const std::optional<FieldRef> before = design_.focus();
+    if (!before || before->field != field.field || before->index != field.index)
+        design_.tellStatus("");
+    design_.setFocus(field);
+    details_.tellOf(field);
+    announce();
+}
+
+void Application::toggleLink(FieldRef field) {
+    handle([&] { lorvane::toggleLink(session_, field); });
+}
+
 void Application::setNumber(const std::string& name, double value) {
     const EventRegistry::Number* number = events_.number(name);
     if (number == nullptr)

@@ -114,6 +114,13 @@ public:
     /// typing its first character on the cell does: a number opens with the text in place of its value.
     void openValue(const std::string& field, const std::string& firstText = {});
 
+    /// The cell of a field has got the focus: the details tell of it and commands act on it. What the status
+    /// line tells stays until another cell has it.
+    void focus(FieldRef field);
+
+    /// What a click on the link sign of a field does.
+    void toggleLink(FieldRef field);
+
     /// A number of a window by its name, "frmOptimal.txtNumReps(1)", within its limits.
     void setNumber(const std::string& name, double value);
     bool hasNumber(const std::string& name) const { return events_.number(name) != nullptr; }

@@ -3,6 +3,7 @@
 
 #include "base/names.h"
 #include "desktop/menus.h"
+#include "session/field_words.h"
 
 namespace lorvane::desktop {
 
@@ -46,24 +47,34 @@ void CellBinding::sync() {
         return;
     widget_->setKind(kindOf(field_, model_.state));
     widget_->setText(shownText(model_.number));
+    widget_->setLinkWords(linkWords());
+    if (widget_->window()->focusWidget() == widget_)
+        widget_->setAccessibleDescription(desk_.hintOf(field_));
     const QString words = shownText(model_.words);
     if (widget_->accessibleName() != words)
         widget_->setAccessibleName(words);
 }
 
+QString CellBinding::linkWords() const {
+    if (field_->isLinked == nullptr)
+        return {};
+    return shownText(lorvane::linkWords(desk_.study(), field_)) + QStringLiteral("  L");
+}
+
 void CellBinding::connectEvents(Menus& menus) {
     const std::string spin = nameOf(field_->spin, field_);
-    QObject::connect(widget_, &ValueCell::stepped, &desk_,
-                     [this, spin](int direction) { desk_.spin(spin, direction, ArrowHold::tick); });
+    QObject::connect(widget_, &ValueCell::stepped, &desk_, [this, spin](int direction, int steps) {
+        desk_.spin(spin, direction, ArrowHold::tick, steps);
+    });
     QObject::connect(widget_, &ValueCell::stepFinished, &desk_, [this] { desk_.spinReleased(); });
     QObject::connect(widget_, &ValueCell::activated, &desk_, [this] { desk_.openValue(field_.name()); });
+    QObject::connect(widget_, &ValueCell::linkToggled, &desk_, [this] { desk_.toggleLink(field_); });
+    QObject::connect(widget_, &ValueCell::clicked, &desk_, [this] { desk_.click(panel_); });
     QObject::connect(widget_, &ValueCell::contextMenuRequested, &desk_,
                      [&menus, menu = menuOf(field_)](const QPoint& place) { menus.popup(menu, place); });
     QObject::connect(widget_, &ValueCell::focused, &desk_, [this] {
-        const QString hint = desk_.hintOf(field_);
-        widget_->setAccessibleDescription(hint);
-        emit desk_.hinted(hint);
-        desk_.click(panel_);
+        widget_->setAccessibleDescription(desk_.hintOf(field_));
+        desk_.focus(field_);
     });
 }
 

@@ -27,6 +27,7 @@ public:
     const std::string& panel() const { return panel_; }
 
 private:
+    QString linkWords() const;
     void connectEvents(Menus& menus);
 
     Desk& desk_;

@@ -43,8 +43,8 @@ void Desk::close(const std::string& window) {
     act([&] { application_.close(window); });
 }
 
-void Desk::spin(const std::string& control, int direction, ArrowHold hold) {
-    act([&] { application_.spin(control, direction, hold); });
+void Desk::spin(const std::string& control, int direction, ArrowHold hold, int times) {
+    act([&] { application_.spin(control, direction, hold, times); });
 }
 
 void Desk::spinReleased() {
@@ -57,6 +57,14 @@ void Desk::setNumber(const std::string& name, double value) {
 
 void Desk::openValue(const std::string& field, const std::string& firstText) {
     act([&] { application_.openValue(field, firstText); });
+}
+
+void Desk::focus(FieldRef field) {
+    act([&] { application_.focus(field); });
+}
+
+void Desk::toggleLink(FieldRef field) {
+    act([&] { application_.toggleLink(field); });
 }
 
 void Desk::select(const std::string& grid, const std::vector<std::size_t>& rows) {

@@ -35,7 +35,7 @@ public:
 
     /// Arrows by their name, a step up (1) or down (-1). The release of a held arrow brings up what its ticks
     /// left out.
-    void spin(const std::string& control, int direction, ArrowHold hold = ArrowHold::click);
+    void spin(const std::string& control, int direction, ArrowHold hold = ArrowHold::click, int times = 1);
     void spinReleased();
 
     /// Opens the value of a field for typing, with a first text where that was typed on its cell already.
@@ -43,6 +43,10 @@ public:
 
     /// Writes a number of a window within its limits.
     void setNumber(const std::string& name, double value);
+
+    /// A cell has got the focus; its two arms are linked or let part.
+    void focus(FieldRef field);
+    void toggleLink(FieldRef field);
 
     /// Selects rows of a table; they count from 1, below the heads.
     void select(const std::string& grid, const std::vector<std::size_t>& rows);
@@ -64,8 +68,6 @@ public:
 signals:
     /// All models are right again; windows copy what has changed.
     void shown();
-    /// What the cell with the focus is and which keys change it.
-    void hinted(const QString& hint);
 
 private:
     template <typename Event>

@@ -138,6 +138,12 @@ void EffectStrip::sync() {
     alpha_->setText(shownText(screen.pnlAlphaTails.Caption));
 }
 
+ValueCell* EffectStrip::firstCell() const {
+    const auto shown = std::find_if(cells_.begin(), cells_.end(),
+                                    [](const auto& entry) { return !entry.second.box->isHidden(); });
+    return shown == cells_.end() ? nullptr : shown->first->widget();
+}
+
 ValueCell* EffectStrip::cell(const std::string& panel) const {
     for (const auto& [cell, field] : cells_) {
         if (cell->panel() == panel)

@@ -29,6 +29,9 @@ public:
     /// The cell of a panel's name; null when it is not on the strip.
     ValueCell* cell(const std::string& panel) const;
 
+    /// The first of the cells that are shown.
+    ValueCell* firstCell() const;
+
 private:
     /// A caption over a widget, shown and hidden together.
     struct Field {

@@ -1,6 +1,7 @@
 // The main window.
 #include "desktop/main_window.h"
 
+#include <QApplication>
 #include <QCloseEvent>
 #include <QDragEnterEvent>
 #include <QDropEvent>
@@ -79,7 +80,7 @@ MainWindow::MainWindow(Desk& desk) : desk_(desk), menus_(new Menus(desk, this)) 
     setAcceptDrops(true);
     resize(1280, 800);
     connect(&desk_, &Desk::shown, this, &MainWindow::sync);
-    connect(&desk_, &Desk::hinted, hint_, &QLabel::setText);
+    connect(qApp, &QApplication::focusChanged, this, &MainWindow::syncStatus);
     sync();
 }
 
@@ -159,17 +160,34 @@ void MainWindow::sync() {
     saved_->setText(shownText(desk_.design().savedWords()));
     syncStatus();
     chooseSize();
+    focusFirstValue();
     if (desk_.design().isClosed())
         QTimer::singleShot(0, this, &QWidget::close);
 }
 
-// What the program tells of a file stands in the place of the hint until the next event.
+// What the program tells of a file stands in the place of the hint: what has the focus ring, and its keys.
 void MainWindow::syncStatus() {
     const QString status = shownText(desk_.design().screen().pnlStatus.Caption);
-    if (status == status_)
+    const QWidget* focus = focusWidget();
+    if (!status.isEmpty())
+        hint_->setText(status);
+    else if (focus != nullptr)
+        hint_->setText(focus->accessibleDescription().isEmpty() ? focus->toolTip()
+                                                                : focus->accessibleDescription());
+}
+
+// The keyboard begins each study at its first value. The widgets know by then what they show.
+void MainWindow::focusFirstValue() {
+    if (studyNumber_ == desk_.design().studyNumber())
         return;
-    status_ = status;
-    hint_->setText(status);
+    studyNumber_ = desk_.design().studyNumber();
+    QMetaObject::invokeMethod(
+        this,
+        [this] {
+            if (ValueCell* first = strip_->firstCell())
+                first->setFocus(Qt::OtherFocusReason);
+        },
+        Qt::QueuedConnection);
 }
 
 // The rows get smaller as soon as they do not fit otherwise; smaller still, strip and table scroll.

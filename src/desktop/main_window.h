@@ -46,6 +46,7 @@ private:
     QWidget* makeContent();
     void addTitle(QVBoxLayout* column);
     void syncStatus();
+    void focusFirstValue();
     void chooseSize();
 
     Desk& desk_;
@@ -54,7 +55,7 @@ private:
     QLabel* sense_ = nullptr;
     QLabel* hint_ = nullptr;
     QLabel* saved_ = nullptr;
-    QString status_;
+    int studyNumber_ = -1;
     QScrollArea* scroll_ = nullptr;
     EffectStrip* strip_ = nullptr;
     LevelTable* table_ = nullptr;

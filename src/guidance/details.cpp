@@ -120,9 +120,25 @@ void Details::GetDetails(DetailItem item, int row) {
     refresh();
 }
 
+void Details::tellOf(FieldRef field) { GetDetails(itemOf(field->cell.column), field.index); }
+
+void Details::open() { design_.SynchForms(WindowId::frmDetails, WindowAction::open); }
+
 void Details::openColumn(std::string_view column) {
     GetDetails(itemOf(column), 0);
-    design_.SynchForms(WindowId::frmDetails, WindowAction::open);
+    open();
+}
+
+void Details::openField(FieldRef field) {
+    tellOf(field);
+    open();
+}
+
+// A click opens the window where there is something to tell.
+void Details::openBy(DetailItem item, int row) {
+    GetDetails(item, row);
+    if (textOf(design_.study(), item, row))
+        open();
 }
 
 void Details::toggle() {
@@ -148,7 +164,7 @@ void Details::registerEvents(EventRegistry& events) {
     events.onClick("frmDetails.Command1",
                    [this] { design_.SynchForms(WindowId::frmDetails, WindowAction::withdrawForGood); });
     const auto onClick = [&](std::string control, DetailItem item, int row) {
-        events.onClick(std::move(control), [this, item, row] { GetDetails(item, row); });
+        events.onClick(std::move(control), [this, item, row] { openBy(item, row); });
     };
     for (const ColumnItem& column : columnItems)
         onClick(column.column, column.item, 0);

@@ -38,8 +38,13 @@ public:
     /// leaves the window as it was.
     void GetDetails(DetailItem item, int row);
 
-    /// Opens the window with the details of a column by its key, "colICC"; opens or closes it.
+    /// The details of a field, whether the window is open or not.
+    void tellOf(FieldRef field);
+
+    /// Opens the window with the details of a column by its key, "colICC", or of a field; opens or closes it.
     void openColumn(std::string_view column);
+    void openField(FieldRef field);
+    void open();
     void toggle();
 
     void follow(const Changed&) override { refresh(); }
@@ -58,6 +63,7 @@ public:
     int currentTab() const { return row_; }
 
 private:
+    void openBy(DetailItem item, int row);
     void refresh();
     void rest();
     void fill();

@@ -65,9 +65,15 @@ void Design::forgetModels() {
 void Design::show(const Changed& changed) {
     if (changed.otherStudy)
         forgetModels();
+    studyNumber_ += changed.reach == Reach::anew;
     writeModels();
     if (changed.reach == Reach::anew || changed.reach == Reach::study)
         moveWindows(changed.heldArrow);
+}
+
+std::optional<FieldRef> Design::focus() const {
+    const bool shown = focus_ && screen_.cell(focus_->field->cell.stem, focus_->index).Visible;
+    return shown ? focus_ : std::nullopt;
 }
 
 void Design::writeModels() {

@@ -64,6 +64,13 @@ public:
     /// Shows the diagnostic panel.
     void showDiagnostics() { screen_.pnlAI.Visible = true; }
 
+    /// The cell that had the focus last; nothing before the first, or where the study no longer shows it.
+    void setFocus(FieldRef field) { focus_ = field; }
+    std::optional<FieldRef> focus() const;
+
+    /// Tells one study from the next: a new one, one from a file.
+    int studyNumber() const noexcept { return studyNumber_; }
+
     /// Sets digits or bar for power and cost.
     void DisplayPowerMode(DisplayModes mode);
     void DisplayCostMode(DisplayModes mode);
@@ -148,6 +155,8 @@ private:
     CellCountsPanel countsPanel_;
     Grid spreadICC_;
     Grid spreadTauSq_;
+    std::optional<FieldRef> focus_;
+    int studyNumber_ = 0;
     bool closed_ = false;
 };
 

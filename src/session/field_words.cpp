@@ -60,6 +60,10 @@ std::string fieldHint(const SessionState& state, FieldRef field) {
            ". Enter opens it for typing.";
 }
 
+std::string linkWords(const Study& s, FieldRef field) {
+    return field->isLinked(s, field.index) ? "Unlink the two groups" : "Link the two groups";
+}
+
 std::string stepWords(const Study& s, FieldRef field) {
     constexpr std::string_view arm = "{arm}";
     std::string_view pattern = field->words.empty() ? field->stem : field->words;

@@ -15,6 +15,9 @@ std::string fieldWords(const Study& study, FieldRef field);
 /// typing."
 std::string fieldHint(const SessionState& state, FieldRef field);
 
+/// What toggling the link of its two arms does: "Unlink the two groups". The field must have a twin.
+std::string linkWords(const Study& study, FieldRef field);
+
 /// The words inside a sentence, without the arms where they are linked: "number of schools".
 std::string stepWords(const Study& study, FieldRef field);
 

@@ -3,7 +3,6 @@
 
 #include <algorithm>
 
-#include "session/field_book.h"
 #include "session/field_words.h"
 
 namespace lorvane {
@@ -117,6 +116,16 @@ void linkCosts(Session& session, int level, bool linked) {
         if (linked)
             study.txtCostC(level) = study.txtCostT(level);
     });
+}
+
+void toggleLink(Session& session, FieldRef field) {
+    if (field->isLinked == nullptr)
+        return;
+    const bool linked = !field->isLinked(session.study(), field.index);
+    if (field->step == StepSource::sizeOfLevel)
+        linkSizes(session, field.index, linked);
+    else
+        linkCosts(session, field.index, linked);
 }
 
 void pasteSizes(Session& session, const PerLevel<double>& sizes) {

@@ -2,6 +2,7 @@
 // dispersion, links. On the record alone, and as steps of the session.
 #pragma once
 
+#include "session/field_book.h"
 #include "session/session.h"
 
 namespace lorvane {
@@ -55,6 +56,9 @@ void enterEffectAs(Session& session, TauSqMetrics metric);
 /// Keeps both arms of a level at the same number or cost, that of the treated arm, or lets them part.
 void linkSizes(Session& session, int level, bool linked);
 void linkCosts(Session& session, int level, bool linked);
+
+/// Links the two arms of a field, or lets them part; nothing for a field without a twin.
+void toggleLink(Session& session, FieldRef field);
 
 /// Writes sizes that a search found into all levels of the study, the same in both arms.
 void pasteSizes(Session& session, const PerLevel<double>& sizes);
