@@ -59,6 +59,25 @@ TEST_F(WizardParts, ThePlotShowsEveryTrialAndTellsOfTheNearest) {
                     << i << " of " << count;
         }
     EXPECT_EQ(paintsAfter(plot, [&] { plot.setContent(trials(31, 30)); }), 0) << "as before";
+    inBothThemes([&] {
+        const auto dot = [&] { return painted(plot).pixelColor(plot.placeOf(7).toPoint()); };
+        TrialPlotContent content = trials(31, 30);
+        plot.setContent(content);
+        const QColor unmarked = dot();
+        content.shown = 7;
+        content.shownLabel = QStringLiteral("shown");
+        plot.setContent(content);
+        EXPECT_GT(pixels(painted(plot), dot()), 2 * 50) << "at its place and in the head";
+        EXPECT_NE(dot(), unmarked);
+    });
+    QSignalSpy picked(&plot, &TrialPlot::picked);
+    const auto clickAt = [&](const QPoint& at) {
+        QTest::mouseClick(window.windowHandle(), Qt::LeftButton, {}, at);
+    };
+    clickAt(plot.placeOf(7).toPoint() + QPoint(1, 4));
+    clickAt(QPoint(100, 15));
+    ASSERT_EQ(picked.count(), 1) << "a click on the head picks none";
+    EXPECT_EQ(picked[0][0], 7);
     EXPECT_EQ(spoken(plot, QAccessible::Description), "lowest: Schools 47, Cost");
     const QPoint place = plot.placeOf(3).toPoint() + QPoint(2, 3);
     EXPECT_EQ(paintsAfter(plot, [&] { QTest::mouseMove(window.windowHandle(), place); }), 1);

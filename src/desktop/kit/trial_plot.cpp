@@ -21,12 +21,13 @@ namespace lorvane::desktop {
 namespace {
 
 constexpr double Padding = 16;
-constexpr double TitleMiddle = 28;
-constexpr double Top = 60;
+constexpr double TitleMiddle = 20;
+constexpr double Top = 45;
 constexpr double Bottom = 45;  ///< from the lowest line to the edge of the card
-constexpr double LeastLeft = 67;
+constexpr double LeastLeft = 60;
 constexpr double Right = 23;
 constexpr double MarkGap = 9;
+constexpr double LeastStep = 14;
 constexpr double Inset = 8;  ///< between the ends of the lines and the first and last trial
 constexpr double SizesLine = 12;
 constexpr double LabelLine = 28;
@@ -36,16 +37,20 @@ constexpr double RingSize = 10;
 constexpr double RingLine = 1.7;
 constexpr double WayLine = 1.25;
 constexpr float WayShare = 0.45F;
-constexpr double BestAside = 9;
-constexpr double BestBelow = 18;
-constexpr double BestRoom = 0.15;  ///< of the range of costs, below the cheapest
-constexpr double BestAbove = 10;
+constexpr double ShownSize = 10;
+constexpr double LegendRight = 13;
+constexpr double LegendSign = 10;  ///< from the middle of a mark to its words
+constexpr double LegendGap = 16;   ///< from the middle of a mark to the words before it
+constexpr double BestRoom = 0.05;  ///< of the range of costs, below the cheapest
 
 QColor way() {
     QColor faint = colour(Role::Treated);
     faint.setAlphaF(WayShare);
     return faint;
 }
+
+/// The colour of the selected row, whose trial it is. On a dark ground that would hardly be seen.
+QColor shownColour() { return colour(Theme::current().isDark() ? Role::Accent : Role::SelectedRow); }
 
 /// Text with its middle at a point.
 void drawMiddle(QPainter& painter, const QPointF& middle, const QString& text) {
@@ -150,6 +155,10 @@ int TrialPlot::nearest(const QPointF& place) const {
     return found;
 }
 
+int TrialPlot::pointAt(const QPointF& place) const {
+    return field().adjusted(-Inset, -Inset, Inset, Inset).contains(place) ? nearest(place) : -1;
+}
+
 // Pointer --------------------------------------------------------------------------------------------------
 
 void TrialPlot::setPointed(int point) {
@@ -160,23 +169,30 @@ void TrialPlot::setPointed(int point) {
 }
 
 void TrialPlot::mouseMoveEvent(QMouseEvent* event) {
-    const bool within = field().adjusted(-Inset, -Inset, Inset, Inset).contains(event->position());
-    setPointed(within ? nearest(event->position()) : -1);
+    setPointed(pointAt(event->position()));
     if (pointed_ < 0)
         return QToolTip::hideText();
     QToolTip::showText(event->globalPosition().toPoint(),
                        content_.points[pointed_].words.join(QLatin1Char('\n')), this);
 }
 
+void TrialPlot::mousePressEvent(QMouseEvent* event) {
+    const int point = pointAt(event->position());
+    if (event->button() == Qt::LeftButton && point >= 0)
+        emit picked(point);
+}
+
 void TrialPlot::leaveEvent(QEvent*) { setPointed(-1); }
 
 // Painting -------------------------------------------------------------------------------------------------
 
+/// Where the lines would be too close for their costs there are only the lowest and the highest.
 void TrialPlot::paintCosts(QPainter& painter) const {
     const QRectF area = field();
     painter.setFont(textFont(TextStyle::Mark));
     painter.setPen(colour(Role::SecondText));
-    for (int line = 0; line <= costs_.steps; ++line) {
+    const bool low = area.height() / costs_.steps < LeastStep;
+    for (int line = 0; line <= costs_.steps; line += low ? costs_.steps : 1) {
         const double y = std::round(down(costs_.low + line * costs_.step));
         painter.fillRect(QRectF(area.left(), y, area.width(), 1), colour(Role::Line));
         drawNumber(painter, QRectF(0, y - 9.5, area.left() - MarkGap, 20), Qt::AlignRight, costText(line));
@@ -188,7 +204,11 @@ void TrialPlot::paintSizes(QPainter& painter) const {
     const double step = wholeStep(highSize_ - lowSize_);
     for (double mark = std::ceil(lowSize_ / step) * step; mark <= highSize_; mark += step)
         drawMiddle(painter, {across(mark), area.bottom() + SizesLine}, QString::number(mark));
-    drawMiddle(painter, {area.center().x(), area.bottom() + LabelLine}, content_.sizeLabel);
+    const double room = width() - 2 * Padding;
+    const QString label = QFontMetricsF(painter.font()).elidedText(content_.sizeLabel, Qt::ElideRight, room);
+    const double half = numberWidth(painter.font(), label) / 2;
+    const double middle = std::min(area.center().x(), width() - Padding - half);
+    drawMiddle(painter, {middle, area.bottom() + LabelLine}, label);
 }
 
 void TrialPlot::paintTrials(QPainter& painter) const {
@@ -201,37 +221,53 @@ void TrialPlot::paintTrials(QPainter& painter) const {
         drawDot(painter, placeOf(i), i == pointed_ ? PointedSize : DotSize, colour(Role::Treated));
 }
 
-/// The words stand at the right of the ring and below it. Without room they stand at its left, or above it.
-void TrialPlot::paintBest(QPainter& painter) const {
-    const QPointF place = placeOf(content_.best);
+void TrialPlot::paintMark(QPainter& painter, const QPointF& place, bool best) const {
+    if (!best)
+        return drawDot(painter, place, ShownSize, shownColour());
+    painter.setRenderHint(QPainter::Antialiasing);
     painter.setPen(QPen(colour(Role::Treated), RingLine));
     painter.setBrush(colour(Role::Card));
     painter.drawEllipse(place, RingSize / 2, RingSize / 2);
-    QFont strong = textFont(TextStyle::CaptionStrong);
-    strong.setWeight(QFont::DemiBold);
-    painter.setFont(strong);
-    painter.setPen(colour(Role::Text));
-    const double width = QFontMetricsF(painter.font()).horizontalAdvance(content_.bestLabel);
-    const bool right = place.x() + BestAside + width <= field().right() + Right;
-    const bool below = place.y() + BestBelow <= field().bottom();
-    painter.drawText(QPointF(right ? place.x() + BestAside : place.x() - BestAside - width,
-                             place.y() + (below ? BestBelow : -BestAbove)),
-                     content_.bestLabel);
+}
+
+/// The marks with their words from the right end, the title before them.
+void TrialPlot::paintHead(QPainter& painter) const {
+    double right = width() - LegendRight;
+    const QFontMetricsF marks(textFont(TextStyle::Mark));
+    const auto addMark = [&](const QString& words, bool best) {
+        painter.setFont(textFont(TextStyle::Mark));
+        painter.setPen(colour(Role::SecondText));
+        right -= marks.horizontalAdvance(words);
+        const QRectF line(0, TitleMiddle - 10, width(), 20);
+        painter.drawText(QPointF(right, centredBaseline(painter.font(), line)), words);
+        right -= LegendSign;
+        paintMark(painter, QPointF(right, TitleMiddle), best);
+        right -= LegendGap;
+    };
+    if (content_.shown >= 0)
+        addMark(content_.shownLabel, false);
+    if (!content_.points.isEmpty())
+        addMark(content_.bestLabel, true);
+    const QFont font = textFont(TextStyle::CaptionStrong);
+    painter.setFont(font);
+    painter.setPen(colour(Role::SecondText));
+    const QRectF titleLine(Padding, TitleMiddle - 10, right - Padding, 20);
+    painter.drawText(QPointF(Padding, centredBaseline(font, titleLine)),
+                     QFontMetricsF(font).elidedText(fullTitle(), Qt::ElideRight, titleLine.width()));
 }
 
 void TrialPlot::paintEvent(QPaintEvent*) {
     QPainter painter(this);
     paintCard(painter, QRectF(rect()), CardTone::Plain);
-    painter.setFont(textFont(TextStyle::CaptionStrong));
-    painter.setPen(colour(Role::SecondText));
-    const QRectF titleLine(Padding, TitleMiddle - 10, width() - 2 * Padding, 20);
-    painter.drawText(QPointF(Padding, centredBaseline(painter.font(), titleLine)), fullTitle());
+    paintHead(painter);
     if (content_.points.isEmpty())
         return;
     paintCosts(painter);
     paintSizes(painter);
     paintTrials(painter);
-    paintBest(painter);
+    paintMark(painter, placeOf(content_.best), true);
+    if (content_.shown >= 0)
+        paintMark(painter, placeOf(content_.shown), false);
 }
 
 }  // namespace lorvane::desktop

@@ -1,5 +1,6 @@
-// The drawing of trials: the cost of each above a size, a line that joins them in their order, and a ring at
-// the cheapest. All texts are given, and the owner says which trial is the cheapest.
+// The drawing of trials: the cost of each above a size, a line that joins them in their order, a ring at the
+// cheapest and a dot at the one that is shown, both told in the head. All texts are given, and the owner says
+// which trials these are.
 #pragma once
 
 #include <QList>
@@ -22,13 +23,15 @@ struct TrialPoint {
 struct TrialPlotContent {
     QString title;      ///< the plot adds "(thousands)" or "(millions)" where costs are written in these
     QString sizeLabel;  ///< below the sizes
-    QString bestLabel;  ///< beside the ring
+    QString bestLabel;  ///< what the ring marks
     QList<TrialPoint> points;
-    int best = 0;  ///< number of the cheapest in points, from 0; must be one of them unless there are none
+    int best = 0;    ///< number of the cheapest in points, from 0; must be one of them unless there are none
+    int shown = -1;  ///< number of the one with the dot; below 0 none has it
+    QString shownLabel = {};  ///< what the dot marks
     bool operator==(const TrialPlotContent&) const = default;
 };
 
-/// A card. The trial next to the pointer is drawn larger and has a tool tip.
+/// A card. The trial next to the pointer is drawn larger and has a tool tip, and a click picks it.
 class TrialPlot : public PaintedText {
     Q_OBJECT
 
@@ -41,11 +44,16 @@ public:
     /// The middle of the dot of a trial, in the widget's coordinates. The trial must be one of the points.
     QPointF placeOf(int point) const;
 
-    QSize sizeHint() const override { return {337, 248}; }
+    QSize sizeHint() const override { return {337, 222}; }
+
+signals:
+    /// The user clicks next to a trial, by its number.
+    void picked(int point);
 
 protected:
     void paintEvent(QPaintEvent* event) override;
     void mouseMoveEvent(QMouseEvent* event) override;
+    void mousePressEvent(QMouseEvent* event) override;
     void leaveEvent(QEvent* event) override;
 
 private:
@@ -58,13 +66,15 @@ private:
     QString costText(int line) const;
     QString fullTitle() const;
     int nearest(const QPointF& place) const;
+    int pointAt(const QPointF& place) const;
     void setPointed(int point);
     void measure();
 
     void paintCosts(QPainter& painter) const;
     void paintSizes(QPainter& painter) const;
     void paintTrials(QPainter& painter) const;
-    void paintBest(QPainter& painter) const;
+    void paintHead(QPainter& painter) const;
+    void paintMark(QPainter& painter, const QPointF& place, bool best) const;
 
     TrialPlotContent content_;
     RoundScale costs_;
