@@ -112,6 +112,16 @@ TEST_F(WizardParts, TheTableMarksTheCheapestAndSharesItsWidth) {
     table.sortByColumn(1, Qt::AscendingOrder);
     table.bringIntoView(2);
     EXPECT_TRUE(tinted(9)) << "the mark goes with its row";
+    QSignalSpy selected(&table, &RecordTable::selectionChangedByUser);
+    card.setShown(5);
+    EXPECT_EQ(table.selectedRows(), QList<int>{5});
+    EXPECT_TRUE(tinted(9)) << "the cheapest keeps its tint";
+    card.setShown(-1);
+    EXPECT_TRUE(table.selectedRows().isEmpty());
+    EXPECT_EQ(selected.count(), 0);
+    table.setFocus();
+    QTest::keyClick(window.windowHandle(), Qt::Key_Up);
+    EXPECT_EQ(table.selectedRows(), QList<int>{3}) << "the keys go on from the cheapest";
     card.setTrials({"A very long name of a level in the plural", "Cost"}, rows, 2);
     EXPECT_EQ(table.horizontalHeader()->length(), table.viewport()->width()) << "long heads are cut";
 }

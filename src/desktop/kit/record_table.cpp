@@ -187,6 +187,11 @@ void RecordTable::setSelectedRows(const QList<int>& rows) {
         selectionModel()->setCurrentIndex(indexOf(selected.first()), QItemSelectionModel::NoUpdate);
 }
 
+void RecordTable::setCurrentRow(int row) {
+    if (const QModelIndex index = indexOf(row); index.isValid())
+        selectionModel()->setCurrentIndex(index, QItemSelectionModel::NoUpdate);
+}
+
 void RecordTable::setMarkedRow(int row) {
     if (row == markedRow_)
         return;

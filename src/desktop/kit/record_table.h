@@ -45,6 +45,9 @@ public:
     /// Selects these rows and no others, without a signal. Numbers without a row are left out.
     void setSelectedRows(const QList<int>& rows);
 
+    /// Where the keys go on from; nothing is selected by it. Nothing when there is no such row.
+    void setCurrentRow(int row);
+
     /// Sets one row off from the others by a tint and stronger text, whatever is selected; a number below 0
     /// sets off none.
     void setMarkedRow(int row);

@@ -4,6 +4,7 @@
 #include <algorithm>
 #include <cmath>
 #include <numeric>
+#include <utility>
 
 #include <QFontMetricsF>
 #include <QHeaderView>
@@ -17,7 +18,9 @@ namespace lorvane::desktop {
 
 namespace {
 
-constexpr RecordRoom Room{30, 33, 7};
+constexpr RecordRoom Room{TrialTable::rowHeight, 35, 7};
+/// Within the round corners of the card.
+constexpr QMargins Edges{2, 3, 2, 4};
 /// Longer heads are cut, and even shorter ones where the table would be too wide.
 constexpr double WidestHead = 72;
 constexpr double NarrowHead = 44;
@@ -43,9 +46,9 @@ std::vector<int> widthsOf(const RecordModel& records, double widestHead) {
 
 TrialTable::TrialTable(QWidget* parent) : Card(CardTone::Plain, parent), table_(new RecordTable(this, Room)) {
     auto* box = new QVBoxLayout(this);
-    // Within the round corners of the card.
-    box->setContentsMargins(2, 5, 2, 5);
+    box->setContentsMargins(Edges);
     box->addWidget(table_);
+    table_->setSelectionMode(QAbstractItemView::SingleSelection);
     table_->horizontalHeader()->setMinimumSectionSize(0);
     table_->setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOn);
 }
@@ -58,9 +61,25 @@ void TrialTable::setTrials(const QStringList& heads, const std::vector<QStringLi
     table_->setColumns(columns);
     table_->setRows(rows);
     table_->setMarkedRow(marked);
+    marked_ = marked;
     fitColumns();
-    if (anew)
-        table_->bringIntoView(marked);
+    if (!anew)
+        return;
+    table_->setCurrentRow(marked);
+    table_->bringIntoView(marked);
+}
+
+void TrialTable::setShown(int row) {
+    table_->setSelectedRows(row < 0 ? QList<int>() : QList<int>{row});
+    if (row == std::exchange(shown_, row))
+        return;
+    const int looked = row < 0 ? marked_ : row;
+    table_->setCurrentRow(looked);
+    table_->bringIntoView(looked);
+}
+
+int TrialTable::heightOf(int rows) {
+    return Edges.top() + Room.headHeight + rows * Room.rowHeight + Edges.bottom();
 }
 
 /// Spare width is shared alike.
@@ -84,6 +103,7 @@ void TrialTable::resizeEvent(QResizeEvent* event) {
     Card::resizeEvent(event);
     layout()->activate();
     fitColumns();
+    table_->bringIntoView(shown_ < 0 ? marked_ : shown_);
 }
 
 }  // namespace lorvane::desktop

@@ -1,4 +1,5 @@
-// The table of trials on its card: columns as wide as their numbers, one row marked. Knows texts only.
+// The table of trials on its card: columns as wide as their numbers, one row marked, one selected at most.
+// Knows texts only.
 #pragma once
 
 #include "desktop/kit/card.h"
@@ -17,6 +18,13 @@ public:
     /// than before, the table scrolls to the marked one.
     void setTrials(const QStringList& heads, const std::vector<QStringList>& rows, int marked);
 
+    /// Selects a row, and scrolls to it; below 0 none is, and the keys start from the marked one.
+    void setShown(int row);
+
+    /// The height of a row, and of the card with so many of them to be seen.
+    static constexpr int rowHeight = 30;
+    static int heightOf(int rows);
+
     /// The table on the card, for its selection and signals. The card owns it.
     RecordTable* table() const { return table_; }
 
@@ -27,6 +35,8 @@ private:
     void fitColumns();
 
     RecordTable* table_;
+    int marked_ = -1;
+    int shown_ = -1;
 };
 
 }  // namespace lorvane::desktop
