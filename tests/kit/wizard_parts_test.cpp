@@ -154,6 +154,21 @@ TEST_F(WizardParts, TheBandSaysWhatItShowsAndIsAsHighAsItsText) {
     }
 }
 
+TEST_F(WizardParts, TheBandOffersAWayBackBesideItsNote) {
+    ResultBand band(&window);
+    band.resize(390, 40);
+    band.show();
+    QSignalSpy back(&band, &ResultBand::backRequested);
+    auto& button = *band.findChild<PushButton*>();
+    band.setContent(BandFigure{"Cost = ", "$5", QStringLiteral("a note of words ").repeated(4), "Cheapest"});
+    ASSERT_TRUE(button.isVisible());
+    EXPECT_TRUE(band.rect().contains(button.geometry()));
+    QTest::mouseClick(window.windowHandle(), Qt::LeftButton, {}, button.geometry().center());
+    EXPECT_EQ(back.count(), 1);
+    band.setContent(BandFigure{"Cost = ", "$5", "a note"});
+    EXPECT_FALSE(button.isVisible());
+}
+
 class Notes : public KitBench {
 protected:
     void SetUp() override {

@@ -11,6 +11,7 @@
 #include "desktop/kit/card.h"
 #include "desktop/kit/icons.h"
 #include "desktop/kit/number_text.h"
+#include "desktop/kit/push_button.h"
 #include "desktop/kit/text_style.h"
 #include "desktop/kit/theme.h"
 
@@ -21,8 +22,12 @@ namespace {
 constexpr double Inset = 16;
 constexpr double Padding = 13;
 constexpr double FigureInset = 18;
-constexpr double FigureHeight = 54;
-constexpr double NoteGap = 22;
+constexpr double FigureHeight = 52;
+constexpr double NoteGap = 20;
+constexpr double NotePadding = 8;
+constexpr int BackInset = 12;
+constexpr int BackHeight = 32;
+constexpr int BackSign = 16;
 constexpr double SignSize = 16;
 constexpr double AfterSign = 24;
 constexpr double LineGap = 4;
@@ -47,8 +52,12 @@ Spoken spoken(const BandProblem& band) { return {band.title, band.text}; }
 
 }  // namespace
 
-ResultBand::ResultBand(QWidget* parent) : PaintedText(parent) {
+ResultBand::ResultBand(QWidget* parent) : PaintedText(parent), back_(plainButton(QString(), this)) {
     setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
+    back_->setIcon(icon(Icon::Undo));
+    back_->setIconSize(QSize(BackSign, BackSign));
+    back_->hide();
+    connect(back_, &PushButton::clicked, this, &ResultBand::backRequested);
     fit();
 }
 
@@ -59,8 +68,20 @@ void ResultBand::setContent(const BandContent& content) {
     const Spoken words = std::visit([](const auto& band) { return spoken(band); }, content_);
     setAccessibleName(words.name);
     setAccessibleDescription(words.description);
+    placeBack();
     fit();
     update();
+}
+
+void ResultBand::placeBack() {
+    const auto* figure = std::get_if<BandFigure>(&content_);
+    back_->setVisible(figure != nullptr && !figure->back.isEmpty());
+    if (back_->isHidden())
+        return;
+    back_->setText(figure->back);
+    back_->ensurePolished();
+    const int wide = back_->sizeHint().width();
+    back_->setGeometry(width() - BackInset - wide, (height() - BackHeight) / 2, wide, BackHeight);
 }
 
 void ResultBand::fit() {
@@ -71,6 +92,7 @@ void ResultBand::fit() {
 void ResultBand::resizeEvent(QResizeEvent* event) {
     if (event->size().width() != event->oldSize().width())
         fit();
+    placeBack();
 }
 
 // A text at rest -------------------------------------------------------------------------------------------
@@ -91,12 +113,13 @@ QRectF ResultBand::noteArea(const BandFigure& band) const {
     const double left = FigureInset + NoteGap +
                         QFontMetricsF(textFont(TextStyle::ResultWords)).horizontalAdvance(band.words) +
                         numberWidth(textFont(TextStyle::Result), band.number);
-    return QRectF(rect()).adjusted(left, 0, -Inset, 0);
+    const double right = back_->isHidden() ? Inset : width() - back_->x() + Inset;
+    return QRectF(rect()).adjusted(left, 0, -right, 0);
 }
 
 double ResultBand::heightOf(const BandFigure& band) const {
     const double note = wrappedHeight(TextStyle::Body, noteArea(band).width(), band.note);
-    return std::max(FigureHeight, note + 2 * Padding);
+    return std::max(FigureHeight, note + 2 * NotePadding);
 }
 
 void ResultBand::paint(QPainter& painter, const BandFigure& band) const {

@@ -10,6 +10,8 @@
 
 namespace lorvane::desktop {
 
+class PushButton;
+
 /// A quiet text, which wraps.
 struct BandText {
     QString text;
@@ -17,11 +19,12 @@ struct BandText {
 };
 
 /// A result: words such as "Cost = " in light type, the number after them, and a note at their right, which
-/// wraps.
+/// wraps. A way back from it is a button at the right end; without its words there is none.
 struct BandFigure {
     QString words;
     QString number;
     QString note;
+    QString back = {};
     bool operator==(const BandFigure&) const = default;
 };
 
@@ -46,6 +49,10 @@ public:
     void setContent(const BandContent& content);
     const BandContent& content() const { return content_; }
 
+signals:
+    /// The user presses the button of a figure.
+    void backRequested();
+
 protected:
     void paintEvent(QPaintEvent* event) override;
     void resizeEvent(QResizeEvent* event) override;
@@ -59,8 +66,10 @@ private:
     void paint(QPainter& painter, const BandProblem& problem) const;
     QRectF noteArea(const BandFigure& figure) const;
     void fit();
+    void placeBack();
 
     BandContent content_;
+    PushButton* back_;
 };
 
 }  // namespace lorvane::desktop
