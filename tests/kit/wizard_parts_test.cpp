@@ -8,6 +8,7 @@
 #include <tuple>
 
 #include "desktop/kit/notes_overlay.h"
+#include "desktop/kit/offer_card.h"
 #include "desktop/kit/push_button.h"
 #include "desktop/kit/result_band.h"
 #include "desktop/kit/theme.h"
@@ -166,6 +167,25 @@ TEST_F(WizardParts, TheBandOffersAWayBackBesideItsNote) {
     QTest::mouseClick(window.windowHandle(), Qt::LeftButton, {}, button.geometry().center());
     EXPECT_EQ(back.count(), 1);
     band.setContent(BandFigure{"Cost = ", "$5", "a note"});
+    EXPECT_FALSE(button.isVisible());
+}
+
+TEST_F(WizardParts, AnOfferIsCutAndTakenByItsButton) {
+    OfferCard card(&window);
+    card.resize(380, card.sizeHint().height());
+    card.show();
+    QSignalSpy taken(&card, &OfferCard::taken);
+    card.setOffer("Short", "Take it");
+    EXPECT_EQ(card.toolTip(), QString());
+    const QString words = QStringLiteral("A long offer ").repeated(9);
+    card.setOffer(words, "Take it");
+    EXPECT_EQ(card.toolTip(), words);
+    EXPECT_EQ(spoken(card), words.toStdString());
+    auto& button = *card.findChild<PushButton*>();
+    EXPECT_TRUE(card.rect().contains(button.geometry()));
+    QTest::mouseClick(window.windowHandle(), Qt::LeftButton, {}, button.geometry().center());
+    EXPECT_EQ(taken.count(), 1);
+    card.setOffer(words, QString());
     EXPECT_FALSE(button.isVisible());
 }
 

@@ -45,6 +45,7 @@ enum class Icon {
     More,
     Nest,
     New,
+    Note,
     Open,
     Optimal,
     Plus,
