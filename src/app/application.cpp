@@ -151,10 +151,15 @@ void Application::select(const std::string& grid, const std::vector<std::size_t>
     if (table == nullptr)
         throw UseProblem("There is no table " + inQuotes(grid) + " in which rows can be selected.");
     const std::set<std::size_t> chosen(rows.begin(), rows.end());
+    if (table->rows.size() < 2 && !chosen.empty())
+        throw UseProblem("There are no rows in " + grid + " at the moment.");
     if (chosen.contains(0) || (!chosen.empty() && *chosen.rbegin() >= table->rows.size()))
         throw UseProblem("The rows of " + grid + " go from 1 to " + std::to_string(table->rows.size() - 1) +
                          ".");
-    handle([&] { table->selected.assign(chosen.begin(), chosen.end()); });
+    handle([&] {
+        table->selected.assign(chosen.begin(), chosen.end());
+        events_.selected(grid);
+    });
 }
 
 void Application::close(const std::string& window) {

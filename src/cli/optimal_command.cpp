@@ -85,7 +85,7 @@ Answer search(const OptimalRequest& request, Session& session) {
         return answer;
     }
     const Currency& currency = session.settings().currency;
-    answer.cost = optimalCostText(answer.result, currency);
+    answer.cost = optimalCostText(answer.result.cheapest().cost, currency);
     for (const std::string& note : optimalNotes(session.study(), answer.result, options, currency))
         answer.notes += (answer.notes.empty() ? "" : "\n\n") + note;
     return answer;

@@ -332,7 +332,7 @@ void OptimalView::syncTrials() {
     trials_->setVisible(result != nullptr);
     if (result == nullptr)
         return;
-    const std::vector<Grid::Row>& table = model().vsTrials().rows;
+    const std::vector<Grid::Row>& table = model().outcome()->vsTrials().rows;
     const QStringList heads = textsOf(table.front());
     TrialPlotContent content{captionOf(model().lblPlot()),
                              captionOf(model().lblPlotSize()),

@@ -50,6 +50,12 @@ public:
 
     void addGrid(std::string name, Grid& grid) { grids_.emplace(std::move(name), &grid); }
 
+    /// Runs after rows of a table were selected that more than the table itself depends on.
+    void onSelect(std::string grid, Handler handler) {
+        enter(selections_, std::move(grid), std::move(handler));
+    }
+    void selected(std::string_view grid) const { run(selections_, grid); }
+
     /// Each runs the handler of a name; false when there is none.
     bool click(std::string_view control) const { return run(clicks_, control) || pick(control); }
     bool close(std::string_view window) const { return run(closes_, window); }
@@ -108,6 +114,7 @@ private:
     std::unordered_map<std::string, std::function<void(int, int)>> picks_;
     Handlers clicks_;
     Handlers typed_;
+    Handlers selections_;
     Handlers closes_;
     std::unordered_map<std::string, std::function<void(int)>> spins_;
     std::unordered_map<std::string, Number> numbers_;

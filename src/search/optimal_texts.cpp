@@ -198,15 +198,22 @@ std::vector<std::string> optimalNotes(const Study& s, const OptimalResult& resul
         notes.push_back("It may be possible to lower costs by removing some covariates.");
     if (result.level1Raised)
         notes.push_back(raisedLevel1Note(s));
-    if (result.nearby)
-        notes.push_back(nearbyNote(s, *result.nearby, currency));
+    if (const auto other = otherDesign(s, result, currency))
+        notes.push_back(other->words);
     if (std::string note = truncationNote(s); !note.empty())
         notes.push_back(std::move(note));
     return notes;
 }
 
-std::string optimalCostText(const OptimalResult& result, const Currency& currency) {
-    const std::int32_t cost = result.cheapest().cost;
+std::optional<OtherDesign> otherDesign(const Study& s, const OptimalResult& result,
+                                       const Currency& currency) {
+    if (!result.nearby)
+        return std::nullopt;
+    const Trial& nearby = *result.nearby;
+    return OtherDesign{nearby.sizes, nearby.cost, nearby.power, nearbyNote(s, nearby, currency)};
+}
+
+std::string optimalCostText(std::int32_t cost, const Currency& currency) {
     return cost < 1 ? "n/a" : ReFormatCurrency(cost, currency);
 }
 

@@ -1,6 +1,8 @@
 // What the wizard of the optimal design tells: why it cannot run, and the notes of a finished run.
 #pragma once
 
+#include <cstdint>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -38,7 +40,11 @@ OptimalFailure optimalFailure(const Study& study, const OptimalResult& result,
 std::vector<std::string> optimalNotes(const Study& study, const OptimalResult& result,
                                       const OptimalOptions& options, const Currency& currency);
 
-/// The cost of the cheapest trial, "$115,600".
-std::string optimalCostText(const OptimalResult& result, const Currency& currency);
+/// The design beside the trials of a finished run, with the words of its note; nothing where there is none.
+std::optional<OtherDesign> otherDesign(const Study& study, const OptimalResult& result,
+                                       const Currency& currency);
+
+/// The cost of a design, "$115,600".
+std::string optimalCostText(std::int32_t cost, const Currency& currency);
 
 }  // namespace lorvane

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <cstdint>
+#include <string>
 
 #include "engine/per_level.h"
 
@@ -27,6 +28,14 @@ struct Trial {
     std::int32_t cost = 0;
     double power = 0;
     bool valid = false;
+};
+
+/// A design beside the trials of a search that costs less than all of them.
+struct OtherDesign {
+    LevelSizes sizes;
+    std::int32_t cost = 0;
+    double power = 0;
+    std::string words;  ///< the sentence that tells of it
 };
 
 }  // namespace lorvane

@@ -8,6 +8,7 @@
 #include "base/names.h"
 #include "base/number_text.h"
 #include "base/while_set.h"
+#include "search/optimal_marks.h"
 #include "search/optimal_texts.h"
 #include "session/field_words.h"
 #include "session/spin_step.h"
@@ -19,27 +20,8 @@ namespace {
 
 constexpr const char* setOptions = "Set options above, then click <Compute>";
 constexpr const char* numbersAreShown = "Numbers are shown here. Click <Paste> to copy to the main screen.";
+constexpr const char* pasteCheapest = "Paste";
 constexpr const char* pasted = "Click <Reset> to modify options or <Close> to close this panel";
-constexpr int resetButton = 1, computeButton = 2, pasteButton = 3, closeButton = 4;
-constexpr double smallestSize = 1;
-constexpr double largestSize = 1000000;
-constexpr int powerDecimals = 5;
-constexpr int shownPowerDecimals = 4;
-
-// Number of the outline and the cells of every field that a reason marks, from the lowest level that has it.
-struct MarkedField {
-    std::string_view field;
-    int outline;
-    int lowestLevel;
-    bool blockedOnly;
-};
-constexpr MarkedField markedFields[] = {{"pnlModel", 2, 1, false},
-                                        {"pnlICC", 3, 2, false},
-                                        {"pnlTauSq", 4, 2, true},
-                                        {"pnlCostT", 5, 1, false},
-                                        {"pnlQ", 6, 1, false}};
-constexpr const char* effectField = "pnlEffectSize";
-constexpr int effectOutline = 7;
 
 std::string percentText(double power) { return shortestText(roundHalfToEven(power * 100 * 100) / 100) + "%"; }
 
@@ -64,21 +46,6 @@ OptimalWindow::State stateAfter(OptimalEnding ending) {
     return OptimalWindow::State::message;
 }
 
-void mark(Design& design, const ReadinessProblem& problem) {
-    const Study& s = design.study();
-    for (const char* field : problem.fields) {
-        if (std::string_view(field) == effectField)
-            design.outline(effectOutline, effectField, effectField);
-        for (const MarkedField& marked : markedFields) {
-            if (marked.field != field)
-                continue;
-            const int lowest = marked.blockedOnly ? s.RandomizedLevel + 1 : marked.lowestLevel;
-            design.outline(marked.outline, indexedName(field, s.NumLevels),
-                           indexedName(problem.fields.back(), lowest));
-        }
-    }
-}
-
 // Adds a dot to the running text at every look of the search.
 class Dots final : public Progress {
 public:
@@ -98,96 +65,12 @@ private:
 OptimalWindow::OptimalWindow(Design& design, Progress& progress) : design_(design), progress_(progress) {
     pnlAdjustOuter_.Visible = false;
     pnlAdjustInnerTitle_.Caption = "Notes";
-    for (const auto& [button, caption] : {std::pair{resetButton, "Reset"},
-                                          {computeButton, "Compute"},
-                                          {pasteButton, "Paste"},
-                                          {closeButton, "Close"}})
+    for (const auto& [button, caption] :
+         {std::pair{resetButton, "Reset"}, {computeButton, "Compute"}, {closeButton, "Close"}})
         cmdOpt_(button).Caption = caption;
+    hideOffers();
     writeHeads();
     DisplayOptimalOptions();
-}
-
-void OptimalWindow::registerNames(ControlRegistry& registry) const {
-    const std::pair<const char*, const Panel*> panels[] = {{"pnlFindPower", &pnlFindPower_},
-                                                           {"pnlOptimalTitle", &pnlOptimalTitle_},
-                                                           {"pnlOptimalInner", &pnlOptimalInner_},
-                                                           {"pnlOptimalCost", &pnlOptimalCost_},
-                                                           {"pnlOptimalNote", &pnlOptimalNote_},
-                                                           {"pnlAdjustOuter", &pnlAdjustOuter_},
-                                                           {"pnlAdjustInner", &pnlAdjustInner_},
-                                                           {"pnlAdjustInnerTitle", &pnlAdjustInnerTitle_},
-                                                           {"pnlProblem", &pnlProblem_},
-                                                           {"pnlCostWords", &pnlCostWords_},
-                                                           {"pnlCostNumber", &pnlCostNumber_},
-                                                           {"lblLevel", &lblLevel_},
-                                                           {"lblGroup(1)", &lblGroup_(1)},
-                                                           {"lblGroup(2)", &lblGroup_(2)},
-                                                           {"lblPlot", &lblPlot_},
-                                                           {"lblPlotSize", &lblPlotSize_},
-                                                           {"lblPlotBest", &lblPlotBest_}};
-    for (const auto& [name, panel] : panels)
-        registry.add(std::string("frmOptimal.") + name, *panel);
-    registry.add("frmOptimal.State", [this]() -> ControlValue { return static_cast<double>(state_); });
-    for (int button = resetButton; button <= closeButton; ++button)
-        registry.add(indexedName("frmOptimal.cmdOpt", button), cmdOpt_(button));
-    for (int level = lowestLevel; level <= highestLevel; ++level) {
-        const LevelRow& row = rows_(level);
-        const auto named = [&](const char* stem) {
-            return indexedName(std::string("frmOptimal.") + stem, level);
-        };
-        registry.add(named("optPanelName"), row.optPanelName);
-        registry.add(named("pnlRole"), row.pnlRole);
-        registry.add(named("pnlSearched"), row.pnlSearched);
-        registry.add(named("OptimalpnlNT"), row.OptimalpnlNT);
-        registry.add(named("OptimalpnlNC"), row.OptimalpnlNC);
-        registry.add(named("OptimalpnlNB"), row.OptimalpnlNB);
-        if (level > highestFreeLevel)
-            continue;
-        registry.add(named("optAuto"), row.optAuto);
-        registry.add(named("optManual"), row.optManual);
-        registry.add(named("txtNumReps"), &row.txtNumReps);
-        registry.add(named("txtNumReps") + ".Text", &row.size.Text);
-        registry.add(named("txtNumReps") + ".Visible", &row.size.Visible);
-        registry.add(named("OptimalspnNT") + ".Visible", &row.OptimalspnNT);
-        registry.add(named("OptimalspnNC") + ".Visible", &row.OptimalspnNC);
-        registry.add(named("OptimalspnNB") + ".Visible", &row.OptimalspnNB);
-    }
-    registry.addGrid("vsA", vsA_);
-    registry.addGrid("frmOptimal.vsTrials", vsTrials_);
-}
-
-void OptimalWindow::registerEvents(EventRegistry& events) {
-    for (int level = lowestLevel; level <= highestFreeLevel; ++level)
-        registerRow(events, level);
-    registerButtons(events);
-}
-
-void OptimalWindow::registerRow(EventRegistry& events, int level) {
-    const auto named = [&](const char* stem) {
-        return indexedName(std::string("frmOptimal.") + stem, level);
-    };
-    events.onClick(named("optAuto"), [this, level] { choose(level, false); });
-    events.onClick(named("optManual"), [this, level] { choose(level, true); });
-    for (const char* stem : {"OptimalspnNT", "OptimalspnNC", "OptimalspnNB"})
-        events.onSpin(named(stem), [this, level](int direction) { spin(level, direction); });
-    events.addNumber(named("txtNumReps"),
-                     {smallestSize, largestSize, [this, level](double size) { writeNumber(level, size); }});
-}
-
-// A button that is not shown does nothing.
-void OptimalWindow::registerButtons(EventRegistry& events) {
-    const auto onButton = [&](int button, void (OptimalWindow::*press)()) {
-        events.onClick(indexedName("frmOptimal.cmdOpt", button), [this, button, press] {
-            if (isOpen() && cmdOpt_(button).Visible)
-                (this->*press)();
-        });
-    };
-    onButton(resetButton, &OptimalWindow::ReDisplayOptimal);
-    onButton(pasteButton, &OptimalWindow::paste);
-    onButton(closeButton, &OptimalWindow::close);
-    events.onClick(indexedName("frmOptimal.cmdOpt", computeButton), [this] { pressCompute(); });
-    events.onClose("frmOptimal", [this] { close(); });
-    events.onClick("frmOptimal.cmdAdjustClose", [this] { pnlAdjustOuter_.Visible = false; });
 }
 
 bool OptimalWindow::isOpen() const { return design_.isOpen(WindowId::frmOptimal); }
@@ -273,18 +156,24 @@ void OptimalWindow::ReDisplayOptimal() {
     for (int level = lowestLevel; level <= highestLevel; ++level)
         writeRow(level);
     forgetResult();
-    clearProblems();
+    clearMarks(design_);
     say(State::message, "", setOptions);
     showButtons(true, true, false, true);
     primary_ = computeButton;
 }
 
 void OptimalWindow::forgetResult() {
-    for (Panel* panel : {&pnlOptimalCost_, &pnlCostNumber_, &pnlOptimalNote_})
+    for (Panel* panel : {&pnlOptimalCost_, &pnlCostNumber_, &pnlOptimalNote_, &pnlOther_})
         panel->Caption.clear();
+    outcome_.forget();
     pnlAdjustOuter_.Visible = false;
-    vsA_.rows.clear();
-    vsTrials_.rows.clear();
+    hideOffers();
+}
+
+void OptimalWindow::hideOffers() {
+    cmdOpt_(pasteButton).Caption = pasteCheapest;
+    pnlOther_.Visible = cmdOther_.Visible = cmdCheapest_.Visible = cmdNotes_.Visible = false;
+    lblPlotShown_.Visible = false;
 }
 
 void OptimalWindow::writeRow(int level) {
@@ -319,15 +208,6 @@ void OptimalWindow::writeCells(int level, const std::string& arms, const std::st
     row.OptimalpnlNB.Caption = block;
     row.OptimalpnlNT.Visible = row.OptimalpnlNC.Visible = row.Visible && !blocked;
     row.OptimalpnlNB.Visible = row.Visible && blocked;
-}
-
-// The computation marks its own problems under the same numbers.
-void OptimalWindow::clearProblems() {
-    for (const MarkedField& marked : markedFields) {
-        if (splitName(design_.screen().outlines(marked.outline).from).stem == marked.field)
-            design_.clearOutline(marked.outline);
-    }
-    design_.clearOutline(effectOutline);
 }
 
 void OptimalWindow::showButtons(bool reset, bool compute, bool paste, bool close) {
@@ -401,9 +281,9 @@ void OptimalWindow::ComputeOptimalDesign() {
         rows_(level).optAuto.Enabled = rows_(level).optManual.Enabled = !isManual(level);
     Dots dots(pnlOptimalInner_.Caption, progress_);
     Session& session = design_.session();
-    result_ = searchOptimalDesign(session.trial(), options, dots);
-    session.keepSearchOutcome(result_.flags);
-    if (result_.aTrialFailed)
+    OptimalResult result = searchOptimalDesign(session.trial(), options, dots);
+    session.keepSearchOutcome(result.flags);
+    if (result.aTrialFailed)
         design_.ask(wizardTitle,
                     "The program has encountered a problem in trying to find the optimal design.");
     // The refresh takes some of the flags back that tell why the search cannot run.
@@ -411,24 +291,20 @@ void OptimalWindow::ComputeOptimalDesign() {
     session.refresh();
     for (int level = lowestLevel; level <= highestLevel; ++level)
         writeRow(level);
-    show(options, problems);
-}
-
-void OptimalWindow::show(const OptimalOptions& options, const std::vector<ReadinessProblem>& problems) {
-    if (result_.ending == OptimalEnding::found)
-        showFound(options);
+    if (result.ending == OptimalEnding::found)
+        showFound(std::move(result), options);
     else
-        showNone(problems);
+        showNone(result, problems);
 }
 
-void OptimalWindow::showNone(const std::vector<ReadinessProblem>& problems) {
-    if (result_.ending == OptimalEnding::notReady) {
+void OptimalWindow::showNone(const OptimalResult& result, const std::vector<ReadinessProblem>& problems) {
+    if (result.ending == OptimalEnding::notReady) {
         for (const ReadinessProblem& problem : problems)
-            mark(design_, problem);
+            markProblem(design_, problem);
     }
-    const OptimalFailure failure = optimalFailure(design_.study(), result_, problems);
-    say(stateAfter(result_.ending), failure.title, failure.text);
-    if (result_.ending == OptimalEnding::noSolution) {
+    const OptimalFailure failure = optimalFailure(design_.study(), result, problems);
+    say(stateAfter(result.ending), failure.title, failure.text);
+    if (result.ending == OptimalEnding::noSolution) {
         pnlOptimalCost_.Caption = "Solution not found. ";
         pnlProblem_.Caption = trimmed(pnlOptimalCost_.Caption);
     }
@@ -436,27 +312,54 @@ void OptimalWindow::showNone(const std::vector<ReadinessProblem>& problems) {
     primary_ = computeButton;
 }
 
-void OptimalWindow::showFound(const OptimalOptions& options) {
-    const Currency& currency = design_.settings().currency;
-    const std::vector<std::string> notes = optimalNotes(design_.study(), result_, options, currency);
-    showSizes();
-    showTrials();
-    showTable();
-    pnlCostNumber_.Caption = optimalCostText(result_, currency);
+void OptimalWindow::showFound(OptimalResult result, const OptimalOptions& options) {
+    const Study& s = design_.study();
+    outcome_.take(std::move(result), s, options, design_.settings().currency);
+    const std::string units = inSentence(outcome_.vsTrials().rows.front().front());
+    lblPlotSize_.Caption = "Number of " + units + (s.isBlocked(s.NumLevels) ? "" : " per group");
+    if (outcome_.other())
+        pnlOther_.Caption = outcome_.other()->words;
+    const std::size_t notes = outcome_.notes().size();
+    cmdNotes_.Caption = "Notes (" + std::to_string(notes) + ")";
+    pnlAdjustInner_.Caption = joined(outcome_.notes(), "\n\n");
+    pnlAdjustOuter_.Visible = notes > 0;
+    showDesign();
+}
+
+// What is looked at is on offer, and the way to the other ones.
+void OptimalWindow::showDesign() {
+    const bool cheapest = outcome_.showsCheapest();
+    pnlCostNumber_.Caption = outcome_.costText();
     pnlOptimalCost_.Caption = pnlCostWords_.Caption + pnlCostNumber_.Caption;
-    pnlOptimalNote_.Caption = numbersAreShown;
-    std::vector<std::string> paragraphs = {pnlOptimalCost_.Caption, numbersAreShown};
-    paragraphs.insert(paragraphs.end(), notes.begin(), notes.end());
-    say(stateAfter(result_.ending), "", joined(paragraphs, "\n"));
-    pnlAdjustInner_.Caption = joined(notes, "\n\n");
-    pnlAdjustOuter_.Visible = !notes.empty();
+    pnlOptimalNote_.Caption = cheapest ? numbersAreShown : outcome_.words();
+    cmdCheapest_.Visible = !cheapest;
+    pnlOther_.Visible = outcome_.other().has_value();
+    cmdOther_.Visible = pnlOther_.Visible && !outcome_.showsOther();
+    cmdNotes_.Visible = !outcome_.notes().empty();
+    lblPlotShown_.Visible = !cheapest && !outcome_.showsOther();
+    std::vector<std::string> paragraphs = {pnlOptimalCost_.Caption, pnlOptimalNote_.Caption};
+    paragraphs.insert(paragraphs.end(), outcome_.notes().begin(), outcome_.notes().end());
+    showSizes();
+    say(State::result, "", joined(paragraphs, "\n"));
     showButtons(true, true, true, true);
-    primary_ = pasteButton;
+    Button& paste = cmdOpt_(pasteButton);
+    paste.Caption = cheapest                ? pasteCheapest
+                    : outcome_.showsOther() ? "Paste this design"
+                                            : "Paste this trial";
+    paste.Enabled = outcome_.shown().valid;
+    primary_ = paste.Enabled ? pasteButton : closeButton;
+}
+
+void OptimalWindow::lookAt(void (OptimalOutcome::*design)()) {
+    if (!hasResult())
+        return;
+    (outcome_.*design)();
+    showDesign();
 }
 
 // A size that was found is where one set by hand starts from.
 void OptimalWindow::showSizes() {
-    const LevelSizes& sizes = result_.cheapest().sizes;
+    const LevelSizes sizes = outcome_.shown().sizes;
     for (int level = lowestLevel; level <= design_.study().NumLevels; ++level) {
         const std::string size = shortestText(sizes(level));
         writeCells(level, size, size);
@@ -465,51 +368,15 @@ void OptimalWindow::showSizes() {
     }
 }
 
-void OptimalWindow::showTrials() {
-    const Study& s = design_.study();
-    vsA_.rows = {{""}};
-    for (int level = s.NumLevels; level >= lowestLevel; --level)
-        vsA_.rows.push_back({"Level " + std::to_string(level)});
-    vsA_.rows.push_back({"Cost"});
-    vsA_.rows.push_back({"Power"});
-    for (std::size_t i = 0; i < result_.trials.size(); ++i) {
-        const Trial& trial = result_.trials[i];
-        auto row = vsA_.rows.begin();
-        row++->push_back(std::to_string(i + 1));
-        for (int level = s.NumLevels; level >= lowestLevel; --level)
-            row++->push_back(shortestText(trial.sizes(level)));
-        row++->push_back(std::to_string(trial.cost));
-        row++->push_back(fixedText(trial.power, powerDecimals));
-    }
-}
-
-// The trials for people to read, in a table and in words beside their plot.
-void OptimalWindow::showTable() {
-    const Study& s = design_.study();
-    Grid::Row heads;
-    for (int level = s.NumLevels; level >= lowestLevel; --level)
-        heads.emplace_back(trimmed(s.txtName(level)));
-    const std::string units = inSentence(heads.front());
-    lblPlotSize_.Caption = "Number of " + units + (s.isBlocked(s.NumLevels) ? "" : " per group");
-    heads.insert(heads.end(), {"Cost", "Power"});
-    vsTrials_.rows = {std::move(heads)};
-    for (const Trial& trial : result_.trials) {
-        Grid::Row& row = vsTrials_.rows.emplace_back();
-        for (int level = s.NumLevels; level >= lowestLevel; --level)
-            row.push_back(shortestText(trial.sizes(level)));
-        row.push_back(groupedText(trial.cost));
-        row.push_back(fixedText(trial.power, shownPowerDecimals));
-    }
-}
-
 void OptimalWindow::paste() {
     if (!hasResult())
         return;
     const WhileSet running(running_);
-    pasteSizes(design_.session(), result_.cheapest().sizes);
+    pasteSizes(design_.session(), outcome_.shown().sizes);
     say(State::result, "", pasted);
     pnlOptimalNote_.Caption = pasted;
     showButtons(true, false, false, true);
+    cmdCheapest_.Visible = cmdOther_.Visible = false;
     primary_ = closeButton;
 }
 

@@ -12,6 +12,7 @@
 #include "platform/progress.h"
 #include "screen/design.h"
 #include "screen/part.h"
+#include "search/optimal_outcome.h"
 #include "search/optimal_search.h"
 #include "search/optimal_texts.h"
 
@@ -67,7 +68,7 @@ public:
     /// The power that a run must reach when it is not the study's own.
     void requirePower(double power) { requiredPower_ = power; }
 
-    /// Writes the sizes found into the study; nothing without a result.
+    /// Writes the sizes of the design that is looked at into the study; nothing without a result.
     void paste();
 
     State state() const noexcept { return state_; }
@@ -88,28 +89,35 @@ public:
     const Panel& pnlAdjustOuter() const { return pnlAdjustOuter_; }  ///< visible: notes lie over the wizard
     const Panel& pnlAdjustInnerTitle() const { return pnlAdjustInnerTitle_; }
     const Panel& pnlAdjustInner() const { return pnlAdjustInner_; }  ///< paragraphs parted by empty lines
-    const Grid& vsA() const {
-        return vsA_;
-    }  ///< a row a level and one each for cost and power; a column a trial
-
-    /// The trials as they are read: the heads, then a row a trial with its sizes, cost and power.
-    const Grid& vsTrials() const { return vsTrials_; }
-    /// Title of the plot of the trials, what it has across, and the word at the cheapest one.
+    /// Title of the plot of the trials, what it has across, and the words for the marks of the cheapest one
+    /// and of the one that is looked at.
     const Panel& lblPlot() const { return lblPlot_; }
     const Panel& lblPlotSize() const { return lblPlotSize_; }
     const Panel& lblPlotBest() const { return lblPlotBest_; }
+    const Panel& lblPlotShown() const { return lblPlotShown_; }
+    const Button& cmdCheapest() const { return cmdCheapest_; }  ///< back to the cheapest trial
+    const Panel& pnlOther() const { return pnlOther_; }         ///< the design beside the trials in words
+    const Button& cmdOther() const { return cmdOther_; }        ///< looks at that design
+    const Button& cmdNotes() const { return cmdNotes_; }        ///< opens the notes again; has their number
 
-    /// The trials of the last run while their result is on display; null otherwise.
-    const OptimalResult* result() const { return hasResult() ? &result_ : nullptr; }
+    /// What the last run found, and its trials, while the result is on display; null otherwise.
+    const OptimalOutcome* outcome() const { return hasResult() ? &outcome_ : nullptr; }
+    const OptimalResult* result() const { return hasResult() ? &outcome_.result() : nullptr; }
     bool isRunning() const noexcept { return running_; }
 
 private:
+    static constexpr int resetButton = 1, computeButton = 2, pasteButton = 3, closeButton = 4;
+    static constexpr double smallestSize = 1;
+    static constexpr double largestSize = 1000000;
+
     bool isOpen() const;
     bool canBeSeen() const;
     bool hasResult() const { return state_ == State::result; }
     bool isManual(int level) const { return rows_(level).optManual.Value; }
+    void registerRowNames(ControlRegistry& registry, int level) const;
     void registerRow(EventRegistry& events, int level);
     void registerButtons(EventRegistry& events);
+    void registerOffers(EventRegistry& events);
     void pressCompute();
     void close();
     void choose(int level, bool manual);
@@ -117,19 +125,18 @@ private:
     void writeNumber(int level, double size);
     void writeHeads();
     void forgetResult();
+    void hideOffers();
     void writeRow(int level);
     void setSize(int level, double size);
     void writeCells(int level, const std::string& arms, const std::string& block);
-    void clearProblems();
     void showButtons(bool reset, bool compute, bool paste, bool close);
     OptimalOptions options() const;
     double requiredPower() const;
-    void show(const OptimalOptions& options, const std::vector<ReadinessProblem>& problems);
-    void showNone(const std::vector<ReadinessProblem>& problems);
-    void showFound(const OptimalOptions& options);
+    void showNone(const OptimalResult& result, const std::vector<ReadinessProblem>& problems);
+    void showFound(OptimalResult result, const OptimalOptions& options);
+    void lookAt(void (OptimalOutcome::*design)());
+    void showDesign();
     void showSizes();
-    void showTrials();
-    void showTable();
     void say(State state, std::string title, std::string text);
 
     Design& design_;
@@ -140,11 +147,11 @@ private:
     Panel pnlAdjustOuter_, pnlAdjustInnerTitle_, pnlAdjustInner_;
     Panel lblLevel_{"Level"};
     IndexedArray<Panel, 1, 2> lblGroup_;
-    Panel lblPlot_{"Cost of each trial"}, lblPlotSize_, lblPlotBest_{"lowest cost"};
+    Panel lblPlot_{"Cost of each trial"}, lblPlotSize_, lblPlotBest_{"cheapest"}, lblPlotShown_{"shown"};
+    Panel pnlOther_;
     IndexedArray<Button, 1, 4> cmdOpt_;
-    Grid vsA_;
-    Grid vsTrials_;
-    OptimalResult result_;
+    Button cmdCheapest_{"Cheapest"}, cmdOther_{"Show this design"}, cmdNotes_;
+    OptimalOutcome outcome_;
     std::optional<double> requiredPower_;
     State state_ = State::message;
     int primary_ = 2;

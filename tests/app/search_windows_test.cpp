@@ -1,6 +1,7 @@
 // The panel of the smallest effect and the wizard of the optimal design, as a script presses their buttons.
 #include "app_bench.h"
 #include "base/names.h"
+#include "base/number_text.h"
 
 namespace lorvane {
 namespace {
@@ -128,6 +129,71 @@ TEST_F(SearchWindows, ComputeSearchesAnewAfterASuccess) {
     const Trial byHand = found();
     EXPECT_EQ(byHand.sizes(1), 40);
     EXPECT_GT(byHand.cost, first.cost);
+}
+
+// A study of any design that the search can take.
+Values searchable(int levels, int randomized, DataTypes dataType) {
+    Values values = {{"NumLevels", 1.0 * levels},
+                     {"RandomizedLevel", 1.0 * randomized},
+                     {"DataType", 1.0 * static_cast<int>(dataType)},
+                     {"ICC Metric", 1.0},
+                     {"txtd", 0.3},
+                     {"txtOR", 2.2},
+                     {"PowerOption", 1.0},
+                     {"IterationsForOptimal", 5.0}};
+    constexpr double costs[] = {4, 90, 400, 1500};
+    for (int level = 1; level <= levels; ++level) {
+        const std::pair<const char*, double> fields[] = {{"txtNT", 12},
+                                                         {"txtNC", 12},
+                                                         {"txtNB", 12},
+                                                         {"txtTauSq", 0.02},
+                                                         {"txtICC", level > 1 ? 0.07 : 0}};
+        for (const auto& [stem, value] : fields)
+            values.push_back({indexedName(stem, level), value});
+        for (const char* stem : {"txtCostT", "txtCostC", "txtCostB"})
+            values.push_back({indexedName(stem, level), costs[level - 1]});
+    }
+    return values;
+}
+
+TEST_F(SearchWindows, WhatIsPastedHasThePowerAndTheCostThatWereTold) {
+    const std::function<void()> looks[] = {[] {}, [&] { app.select("frmOptimal.vsTrials", {6}); },
+                                           [&] { app.click("frmOptimal.cmdOther"); }};
+    const OptimalWindow& wizard = app.optimalWindow();
+    int others = 0;
+    for (int i = 0; i < 36; ++i) {
+        SCOPED_TRACE(i);
+        const int levels = 2 + i % 3, randomized = 1 + i / 3 % levels;
+        app.load(searchable(levels, randomized, i < 24 ? DataTypes::means : DataTypes::binary));
+        for (int level = 1; level <= randomized && i % 2 == 1; ++level) {
+            app.tool("Unlink N for Level " + std::to_string(level));
+            app.set(Values{{indexedName("txtNC", level), 15.0}});
+        }
+        app.tool("gfrmOptimal");
+        if (i % 4 == 3)
+            app.click("frmOptimal.optManual(1)");
+        for (const auto& look : looks) {
+            app.click("frmOptimal.cmdOpt(2)");
+            ASSERT_NE(wizard.outcome(), nullptr);
+            look();
+            const Trial told = wizard.outcome()->shown();
+            others += wizard.outcome()->showsOther();
+            const std::string cost = text("frmOptimal.pnlOptimalCost.Caption");
+            const std::string size = wizard.row(1).OptimalpnlNT.Caption;
+            const Study before = study();
+            app.click("frmOptimal.cmdOpt(3)");
+            EXPECT_TRUE(study().result.xValid);
+            EXPECT_EQ(study().result.txtPower, told.power);
+            EXPECT_GE(told.power, before.ReqPower);
+            EXPECT_EQ(study().result.txtCost, told.cost);
+            EXPECT_EQ(text("pnlCost.Caption"), cost);
+            EXPECT_EQ(shortestText(study().txtNC(1)), size);
+            app.tool("Undo");
+            EXPECT_EQ(study().txtNC(1), before.txtNC(1)) << "one step";
+            EXPECT_EQ(study().result.txtPower, before.result.txtPower);
+        }
+    }
+    EXPECT_GT(others, 5);
 }
 
 }  // namespace
