@@ -1,27 +1,27 @@
-// The optimal design wizard: a row a level, the message or the cost, the trials, the buttons, the notes.
+// The optimal design wizard: the levels, the message or the cost, the design beside the trials, the trials,
+// the buttons, the notes.
 #pragma once
 
 #include <map>
-#include <vector>
+#include <optional>
 
 #include "desktop/panel_view.h"
 
 class QLabel;
-class QRadioButton;
 
 namespace lorvane::desktop {
 
-class EntryCell;
-class LevelName;
 class Menus;
 class NotesOverlay;
-class NumberLabel;
+class OfferCard;
+class OptimalLevels;
 class PushButton;
 class ResultBand;
 class TrialPlot;
 class TrialTable;
 
-/// "frmOptimal". Escape closes the notes first, then the wizard.
+/// "frmOptimal". Escape closes the notes first, then the wizard. With trials the window has any height in
+/// which three to ten of them are seen.
 class OptimalView final : public PanelView {
     Q_OBJECT
 
@@ -35,50 +35,37 @@ protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
-    struct Row {
-        int level;
-        QWidget* line;
-        LevelName* name;
-        QLabel* searched;
-        QRadioButton* automatic;
-        QRadioButton* manual;
-        EntryCell* size;
-        NumberLabel* treated;
-        NumberLabel* control;
-        NumberLabel* block;
-    };
-
-    QWidget* makeCard();
-    QWidget* makeHeads();
-    QWidget* makeRow(int level);
     QWidget* makeTrials();
     QWidget* makeButtons();
-    QRadioButton* makeOption(const char* stem, int level);
-    EntryCell* makeSize(int level);
-    NumberLabel* makeCell(int level, int width);
+    PushButton* makeButton(const std::string& control);
 
-    void syncRow(const Row& row);
-    void syncSize(const Row& row);
     void syncBand();
+    void showTrials(const OptimalOutcome& outcome);
     void syncTrials();
     void syncButtons();
     void syncNotes();
+    void keepFocus();
+    void fitHeight(int trials);
+    void keepOnScreen();
 
     const OptimalWindow& model() const;
-    void press(int button);
-    void closeNotes();
+    PushButton* primary() const;
+    void press(const std::string& control);
+    void select(int trial);
     void leave();
 
-    Menus& menus_;
     QLabel* title_;
-    NumberLabel* heads_[2];
-    std::vector<Row> rows_;
+    OptimalLevels* levels_;
     ResultBand* band_;
+    OfferCard* other_;
     QWidget* trials_;
     TrialPlot* plot_;
     TrialTable* table_;
     std::map<int, PushButton*> buttons_;
+    PushButton* openNotes_;
     NotesOverlay* notes_;
+    std::optional<int> chosenHeight_;  ///< of the trials, by the user
+    int givenHeight_ = 0;              ///< of the trials as they came
     int primary_ = 0;
     bool wasOpen_ = false;
 };

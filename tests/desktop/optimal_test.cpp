@@ -1,10 +1,12 @@
 // The optimal design wizard as a person uses it.
 #include <QHeaderView>
 #include <QRadioButton>
+#include <QScreen>
 
 #include "base/number_text.h"
 #include "desktop/kit/entry_cell.h"
 #include "desktop/kit/notes_overlay.h"
+#include "desktop/kit/offer_card.h"
 #include "desktop/kit/push_button.h"
 #include "desktop/kit/result_band.h"
 #include "desktop/kit/trial_plot.h"
@@ -75,6 +77,95 @@ TEST_F(Wizard, RunsAndPastesByTheKeyboardAlone) {
     EXPECT_FALSE(isShown("frmOptimal")) << "after Paste comes Close";
 }
 
+TEST_F(Wizard, ShowsTheTrialThatIsChosenByKeysAndPointer) {
+    key(Qt::Key_Return);
+    key(Qt::Key_Escape);
+    RecordTable& table = *part<TrialTable>().table();
+    const int best = static_cast<int>(model().result()->best);
+    const auto shown = [&] {
+        const auto& band = std::get<BandFigure>(part<ResultBand>().content());
+        EXPECT_EQ(band.number, QString::fromStdString(model().pnlCostNumber().Caption));
+        EXPECT_EQ(band.back.isEmpty(), model().outcome()->showsCheapest());
+        return model().outcome()->shownTrial().value_or(99);
+    };
+    QStringList stops;
+    for (int i = 0; i < 9; ++i, key(Qt::Key_Tab))
+        stops << panel("frmOptimal").focusWidget()->objectName().section(QLatin1Char('.'), 1);
+    EXPECT_EQ(stops.join(QLatin1Char(' ')).toStdString(),
+              "cmdOpt(3) cmdOpt(4) optAuto(2) optAuto(1)   cmdOpt(1) cmdNotes cmdOpt(2)")
+        << "the two without a name are the other design's button and the table";
+    table.setFocus();
+    key(Qt::Key_Down);
+    key(Qt::Key_Down);
+    EXPECT_EQ(shown(), best + 2);
+    EXPECT_EQ(part<PushButton>("frmOptimal.cmdOpt(3)").text(), "Paste this trial");
+    DesktopBench::click(part<TrialPlot>(),
+                        part<TrialPlot>().mapTo(table.window(), part<TrialPlot>().placeOf(7).toPoint()));
+    EXPECT_EQ(shown(), 7U);
+    EXPECT_EQ(table.selectedRows(), QList<int>{7});
+    table.bringIntoView(best);
+    const QRect row = table.visualRect(table.model()->index(best, 1));
+    DesktopBench::click(*table.viewport(), table.viewport()->mapTo(table.window(), row.center()));
+    EXPECT_EQ(shown(), best);
+    EXPECT_TRUE(table.selectedRows().isEmpty()) << "the cheapest has its tint";
+    key(Qt::Key_Down);
+    EXPECT_EQ(shown(), best + 1);
+    const LevelSizes sizes = model().outcome()->shown().sizes;
+    key(Qt::Key_Return);
+    for (const int level : {1, 2, 3})
+        EXPECT_EQ(study().txtNT(level), sizes(level)) << level;
+}
+
+TEST_F(Wizard, NotesAndTheDesignBesideTheTrialsComeBack) {
+    key(Qt::Key_Return);
+    ASSERT_TRUE(model().outcome()->other());
+    key(Qt::Key_Escape);
+    EXPECT_TRUE(part<PushButton>("frmOptimal.cmdOpt(3)").hasFocus());
+    part<PushButton>("frmOptimal.cmdNotes").setFocus();
+    key(Qt::Key_Return);
+    ASSERT_TRUE(part<NotesOverlay>().isVisible());
+    for (int stops = 0; stops < 2; ++stops)
+        key(Qt::Key_Tab);
+    key(Qt::Key_Return);
+    EXPECT_FALSE(part<NotesOverlay>().isVisible()) << "the button of the note shows its design";
+    EXPECT_TRUE(model().outcome()->showsOther());
+    part<ResultBand>().findChild<PushButton*>()->click();
+    EXPECT_TRUE(model().outcome()->showsCheapest());
+    part<OfferCard>().findChild<PushButton*>()->click();
+    EXPECT_TRUE(model().outcome()->showsOther());
+}
+
+// The trials take what height there is, three to ten of them.
+TEST_F(Wizard, FitsTheScreenInEveryStudy) {
+    QWidget& wizard = panel("frmOptimal");
+    for (const int levels : {2, 3, 4}) {
+        set({{"NumLevels", 1.0 * levels},
+             {"txtICC(4)", 0.05},
+             {"txtCostT(3)", 300.0},
+             {"txtCostC(3)", 300.0},
+             {"txtCostT(4)", 900.0},
+             {"txtCostC(4)", 900.0},
+             {"txtName(2)", std::string(80, 'W')}});
+        desk.click("frmOptimal.cmdOpt(2)");
+        settle();
+        ASSERT_NE(model().result(), nullptr);
+        EXPECT_EQ(wizard.width(), 800);
+        EXPECT_LE(wizard.height(), 650);
+        EXPECT_TRUE(wizard.screen()->availableGeometry().contains(wizard.frameGeometry()));
+        EXPECT_GE(part<TrialTable>().table()->viewport()->height(), 3 * TrialTable::rowHeight);
+    }
+    wizard.resize(800, 2000);
+    settle();
+    const int high = part<TrialTable>().height();
+    EXPECT_EQ(high, TrialTable::heightOf(10));
+    desk.click("frmOptimal.cmdOpt(2)");
+    settle();
+    EXPECT_EQ(part<TrialTable>().height(), high) << "as the user had it";
+    desk.click("frmOptimal.cmdOpt(1)");
+    settle();
+    EXPECT_EQ(wizard.minimumHeight(), wizard.maximumHeight()) << "without trials as high as its content";
+}
+
 TEST_F(Wizard, OptionsArrowsAndTypedSizesReachTheProgram) {
     EXPECT_FALSE(students().isVisible());
     click("frmOptimal.optManual(1)");
@@ -129,6 +220,7 @@ TEST_F(Wizard, ALongSearchIsWatchedAndStopped) {
     EXPECT_EQ(study().result.txtPower, power);
     ASSERT_TRUE(isShown("frmOptimal"));
     progress.pause = 0;
+    whenRedrawn = [] {};
     key(Qt::Key_Return);
     EXPECT_NE(model().result(), nullptr) << "and can be started again";
 }

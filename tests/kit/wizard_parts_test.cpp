@@ -197,14 +197,15 @@ protected:
         field.setGeometry(10, 10, 100, 30);
         field.show();
         field.setFocus();
-        notes.setNotes(QStringLiteral("Notes"), QStringLiteral("First.\n\nSecond."));
+        notes.setNotes(QStringLiteral("Notes"), {{"First."}, {"Second."}});
         QObject::connect(&notes, &NotesOverlay::closeRequested, &notes, &QWidget::hide);
     }
     void open() {
         notes.show();
         settle();
     }
-    PushButton& button() { return *notes.findChild<PushButton*>(); }
+    /// The one that closes.
+    PushButton& button() { return *notes.findChildren<PushButton*>().last(); }
 
     QLineEdit field{&window};
     NotesOverlay notes{&window};
@@ -238,11 +239,17 @@ TEST_F(Notes, LieOverAllAndFitIntoTheWindow) {
     const auto closing = [&] { return QRect(button().mapTo(&window, QPoint()), button().size()); };
     const int few = closing().top();
     for (const int count : {4, 40}) {
-        notes.setNotes("Notes", QStringLiteral("A note that is longer.\n\n").repeated(count));
+        notes.setNotes("Notes", QList<Note>(count, {"A note that is longer."}));
         settle();
         EXPECT_GT(closing().top(), few) << count;
         EXPECT_TRUE(window.rect().contains(closing())) << count;
     }
+    notes.setNotes("Notes", {{"A note."}, {"Another one.", "Do it"}});
+    QSignalSpy pressed(&notes, &NotesOverlay::pressed);
+    for (const Qt::Key key : {Qt::Key_Tab, Qt::Key_Tab, Qt::Key_Return})
+        QTest::keyClick(window.windowHandle(), key);
+    ASSERT_EQ(pressed.count(), 1) << "the button of a note comes after the sign";
+    EXPECT_EQ(pressed[0][0], 1);
     window.resize(640, 320);
     settle();
     EXPECT_EQ(notes.geometry(), window.rect());

@@ -29,7 +29,8 @@ constexpr int SignSize = 36;
 constexpr int SpaceAround = 20;  ///< between the sheet and the ends of what it covers
 constexpr double SheetRadius = 10;
 constexpr float VeilShare = 0.72F;
-constexpr int ParagraphGap = 8;
+constexpr int LineGap = 8;    ///< above and below the line between two notes
+constexpr int ButtonGap = 8;  ///< between a note and its button
 
 constexpr QRgb Shadow = qRgb(10, 16, 40);
 constexpr double ShadowShare = 0.32;
@@ -96,11 +97,20 @@ QLabel* paragraph(const QString& text, QWidget* parent) {
     return label;
 }
 
+/// A line between two notes.
+class NoteLine : public QWidget {
+public:
+    using QWidget::QWidget;
+
+protected:
+    void paintEvent(QPaintEvent*) override { QPainter(this).fillRect(rect(), colour(Role::Line)); }
+};
+
 }  // namespace
 
 NotesOverlay::NotesOverlay(QWidget* covered)
     : QWidget(covered), title_(new QLabel), text_(new QWidget), scroll_(new QScrollArea),
-      button_(plainButton(tr("Close notes"))), sign_(nullptr), sheet_(makeSheet()) {
+      button_(primaryButton(tr("Close notes"))), sign_(nullptr), sheet_(makeSheet()) {
     hide();
     setAttribute(Qt::WA_NoSystemBackground);
     covered->installEventFilter(this);
@@ -140,26 +150,44 @@ QWidget* NotesOverlay::makeSheet() {
     return sheet;
 }
 
-void NotesOverlay::setNotes(const QString& title, const QString& text) {
+void NotesOverlay::setNotes(const QString& title, const QList<Note>& notes) {
     title_->setText(title);
     setAccessibleName(title);
-    setText(text);
+    if (notes == shown_)
+        return;
+    shown_ = notes;
+    for (QWidget* old : text_->findChildren<QWidget*>(Qt::FindDirectChildrenOnly)) {
+        old->setParent(nullptr);
+        old->deleteLater();  // it may be the button that brought the other notes
+    }
+    int bottom = 0;
+    for (int number = 0; number < notes.size(); ++number)
+        bottom = addNote(notes[number], number, bottom);
+    text_->setFixedHeight(bottom);
     if (isVisible())
         arrange();
 }
 
-void NotesOverlay::setText(const QString& text) {
-    if (text == shown_)
-        return;
-    shown_ = text;
-    qDeleteAll(text_->findChildren<QLabel*>());
-    int top = 0;
-    for (const QString& words : text.split(QStringLiteral("\n\n"), Qt::SkipEmptyParts)) {
-        QLabel* label = paragraph(words.trimmed(), text_);
-        label->move(0, top);
-        top += label->height() + ParagraphGap;
+/// Puts a note below what there is, and tells where it ends.
+int NotesOverlay::addNote(const Note& note, int number, int top) {
+    if (number > 0) {
+        auto* line = new NoteLine(text_);
+        line->setGeometry(0, top + LineGap, TextWidth, 1);
+        line->show();
+        top += LineGap + 1 + LineGap;
     }
-    text_->setFixedHeight(std::max(0, top - ParagraphGap));
+    QLabel* label = paragraph(note.text.trimmed(), text_);
+    label->move(0, top);
+    top += label->height();
+    if (note.button.isEmpty())
+        return top;
+    PushButton* button = plainButton(note.button, text_);
+    button->setAccessibleDescription(note.text);
+    connect(button, &PushButton::clicked, this, [this, number] { emit pressed(number); });
+    button->move(0, top + ButtonGap);
+    button->adjustSize();
+    button->show();
+    return top + ButtonGap + button->height();
 }
 
 void NotesOverlay::setButton(const QString& words) { button_->setText(words); }
@@ -183,8 +211,19 @@ void NotesOverlay::keepFocus(QWidget* now) {
         button_->setFocus();
 }
 
-bool NotesOverlay::focusNextPrevChild(bool) {
-    QWidget* other = button_->hasFocus() ? sign_ : button_;
+/// Where the keyboard goes from one to the next: the buttons of notes, the one that closes, the sign.
+QList<QWidget*> NotesOverlay::stops() const {
+    QList<QWidget*> stops;
+    for (PushButton* button : text_->findChildren<PushButton*>())
+        stops << button;
+    return stops << button_ << sign_;
+}
+
+bool NotesOverlay::focusNextPrevChild(bool next) {
+    const QList<QWidget*> all = stops();
+    const qsizetype now = all.indexOf(QApplication::focusWidget());
+    QWidget* other = all[(now + (next ? 1 : -1) + all.size()) % all.size()];
+    scroll_->ensureWidgetVisible(other);
     other->setFocus(Qt::TabFocusReason);
     return true;
 }
@@ -201,7 +240,12 @@ bool NotesOverlay::event(QEvent* event) {
 
 void NotesOverlay::keyPressEvent(QKeyEvent* event) {
     const int keys[] = {Qt::Key_Escape, Qt::Key_Return, Qt::Key_Enter};
-    if (std::find(std::begin(keys), std::end(keys), event->key()) != std::end(keys))
+    if (std::find(std::begin(keys), std::end(keys), event->key()) == std::end(keys))
+        return;
+    auto* button = qobject_cast<PushButton*>(QApplication::focusWidget());
+    if (event->key() != Qt::Key_Escape && button != nullptr && text_->isAncestorOf(button))
+        button->click();
+    else
         emit closeRequested();
 }
 

@@ -2,7 +2,9 @@
 // nothing of what the notes say.
 #pragma once
 
+#include <QList>
 #include <QPointer>
+#include <QString>
 #include <QWidget>
 
 class QLabel;
@@ -11,6 +13,13 @@ class QScrollArea;
 namespace lorvane::desktop {
 
 class PushButton;
+
+/// One note: plain text, and the words of a button below it; without these there is none.
+struct Note {
+    QString text;
+    QString button = {};
+    bool operator==(const Note&) const = default;
+};
 
 /// Lies over its parent, hidden at first; the owner shows and hides it. While it is shown the keyboard stays
 /// on the sheet. When it is hidden the keyboard goes back to where it was.
@@ -22,15 +31,17 @@ public:
     explicit NotesOverlay(QWidget* covered);
     ~NotesOverlay() override;
 
-    /// The title and the text, plain, whose empty lines part paragraphs. Longer notes than fit scroll.
-    void setNotes(const QString& title, const QString& text);
+    /// The title and the notes, with lines between them. More than fit scroll.
+    void setNotes(const QString& title, const QList<Note>& notes);
     /// The words of the button that closes; "Close notes" at first.
     void setButton(const QString& words);
 
 signals:
-    /// The user asks to close the notes, by the button, the close sign, Escape or Enter. They stay open until
-    /// the owner hides them.
+    /// The user asks to close the notes, by the button, the close sign, Escape, or Enter elsewhere than on
+    /// the button of a note. They stay open until the owner hides them.
     void closeRequested();
+    /// The user presses the button of a note, by its number.
+    void pressed(int note);
 
 protected:
     bool event(QEvent* event) override;
@@ -44,13 +55,14 @@ protected:
 
 private:
     QWidget* makeSheet();
-    void setText(const QString& text);
+    int addNote(const Note& note, int number, int top);
+    QList<QWidget*> stops() const;
     void arrange();
     void keepFocus(QWidget* now);
 
     QLabel* title_;
     QWidget* text_;  ///< the paragraphs
-    QString shown_;
+    QList<Note> shown_;
     QScrollArea* scroll_;
     PushButton* button_;
     QWidget* sign_;
