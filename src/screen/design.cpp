@@ -211,6 +211,11 @@ void Design::SynchForms(WindowId window, WindowAction action) {
         windows_.SynchForms(window, action);
 }
 
+bool Design::problemIsDrawn(WindowId window) const {
+    const bool saysMore = screen_.pnlPowerTip.Caption != screen_.pnlPowerReason.Caption;
+    return isOpen(window) && (saysMore || windows_.isAskedFor(window));
+}
+
 void Design::closeUnfit() {
     const auto closeIf = [&](bool close, WindowId window) {
         if (close)

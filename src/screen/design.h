@@ -90,6 +90,10 @@ public:
     void SynchForms(WindowId window, WindowAction action);
     bool isOpen(WindowId window) const { return windows_.state(window) == WindowStates::open; }
 
+    /// Whether a window of a problem is worth its place: it says more than the card of the power does, or it
+    /// was asked for.
+    bool problemIsDrawn(WindowId window) const;
+
     /// Puts all windows back into earlier states.
     void putBack(const WindowRegistry& windows) { windows_ = windows; }
 

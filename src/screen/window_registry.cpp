@@ -72,11 +72,14 @@ WindowRegistry::WindowRegistry() { states_(static_cast<int>(WindowId::Design)) =
 void WindowRegistry::SynchForms(WindowId window, WindowAction action) {
     WindowStates& state = states_(static_cast<int>(window));
     state = stateAfter(state, action);
+    if (state == WindowStates::notLoaded || state == WindowStates::withdrawnForGood)
+        isAskedFor_(static_cast<int>(window)) = false;
 }
 
 void WindowRegistry::ask(WindowId window) {
     SynchForms(window, WindowAction::open);
     ++asked_(static_cast<int>(window));
+    isAskedFor_(static_cast<int>(window)) = true;
 }
 
 }  // namespace lorvane

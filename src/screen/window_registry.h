@@ -47,11 +47,15 @@ public:
     /// How often it was asked for.
     int asked(WindowId window) const { return asked_(static_cast<int>(window)); }
 
+    /// Whether a person has asked for it since it was last closed.
+    bool isAskedFor(WindowId window) const { return isAskedFor_(static_cast<int>(window)); }
+
     WindowStates state(WindowId window) const { return states_(static_cast<int>(window)); }
 
 private:
     IndexedArray<WindowStates, 1, lastWindowId> states_;
     IndexedArray<int, 1, lastWindowId> asked_;
+    IndexedArray<bool, 1, lastWindowId> isAskedFor_;
 };
 
 }  // namespace lorvane

@@ -52,7 +52,7 @@ TEST_F(Floating, TheExitQuestionStandsAloneAndDecides) {
     tool("gfrmDetails");
     tool("gfrmDisplayICC");
     dock("frmDetails").setFloating(true);
-    dock("frmDetails").move(77, 55);
+    dock("frmDetails").move(2077, 55);
     settle();
     int asked = 0;
     messages.beforeShowing = [&] {
@@ -65,7 +65,7 @@ TEST_F(Floating, TheExitQuestionStandsAloneAndDecides) {
     closeByFrame(window);
     EXPECT_TRUE(window.isVisible());
     EXPECT_TRUE(isShown("frmDetails"));
-    EXPECT_EQ(dock("frmDetails").pos(), QPoint(77, 55));
+    EXPECT_EQ(dock("frmDetails").pos(), QPoint(2077, 55));
     window.activateWindow();
     settle();
     for (const Answer answer : {Answer::Cancel, Answer::OK}) {
