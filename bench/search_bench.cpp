@@ -1,11 +1,12 @@
 // Time of the search for the cheapest design on all nine designs, means and binary, with the runs of the
-// computation that it took; and of a search whose top level ends in the millions.
+// computation that it took; of a search whose top level ends in the millions; and of the curve of power.
 #include <benchmark/benchmark.h>
 
 #include <string>
 
 #include "engine/design_routines.h"
 #include "search/optimal_search.h"
+#include "search/power_curve.h"
 #include "support/test_library.h"
 #include "support/usual_study.h"
 
@@ -45,6 +46,22 @@ void optimal(benchmark::State& state, int levels, int randomized, DataTypes data
         state.SkipWithError("nothing was found");
 }
 
+// A whole curve.
+void powerCurve(benchmark::State& state, int levels, int randomized, DataTypes dataType) {
+    NumericDistributionLibrary library;
+    const SteadyClock clock;
+    Session session(library, {}, clock);
+    session.edit({"", Reach::anew},
+                 [&](SessionState& changed) { fill(changed.study, levels, randomized, dataType); });
+    PowerCurveRun run;
+    for (auto _ : state) {
+        run.begin(session);
+        while (run.goOn(8)) {
+        }
+    }
+    state.counters["points"] = run.curve() == nullptr ? 0 : static_cast<double>(run.curve()->points.size());
+}
+
 // A tiny effect needs a top level of millions.
 void optimalInTheMillions(benchmark::State& state) {
     Bench bench(2, 2, DataTypes::means);
@@ -65,10 +82,12 @@ void registerAll() {
         for (int randomized = 1; randomized <= levels; ++randomized) {
             const std::string name(routinesOf(levels, randomized).name);
             for (const auto& [suffix, type] :
-                 {std::pair{"Means", DataTypes::means}, {"Binary", DataTypes::binary}})
-                benchmark::RegisterBenchmark(("optimal/" + name + suffix).c_str(), optimal, levels,
-                                             randomized, type)
-                    ->Unit(benchmark::kMillisecond);
+                 {std::pair{"Means", DataTypes::means}, {"Binary", DataTypes::binary}}) {
+                for (const auto& [what, run] : {std::pair{"optimal/", &optimal}, {"curve/", &powerCurve}})
+                    benchmark::RegisterBenchmark((what + name + suffix).c_str(), run, levels, randomized,
+                                                 type)
+                        ->Unit(benchmark::kMillisecond);
+            }
         }
     }
     benchmark::RegisterBenchmark("optimal/millions", optimalInTheMillions)->Unit(benchmark::kMillisecond);

@@ -37,6 +37,8 @@ void Session::compute() {
 }
 
 void Session::tell(const Changed& changed) {
+    if (changed.reach == Reach::anew || changed.reach == Reach::study)
+        ++computations_;
     for (const auto& follower : followers_)
         follower(changed);
 }

@@ -65,6 +65,10 @@ public:
     const Computation& computation() const noexcept { return now_.computation; }
     const std::string& faultWords() const noexcept { return now_.faultWords; }
 
+    /// Counts the computations of the study, also those that undo brought back: while it stands, what was
+    /// worked out for the study holds.
+    std::size_t computations() const noexcept { return computations_; }
+
     /// The currency of the system's regional settings.
     const Currency& systemCurrency() const noexcept { return systemCurrency_; }
 
@@ -171,6 +175,7 @@ private:
     std::string run_;  ///< arrows of the last step; empty when a click on them would be a step of its own
     Clock::Time lastClick_;
     std::size_t lastRevision_ = 0;
+    std::size_t computations_ = 0;
     std::size_t savedRevision_ = 0;
     std::string currentFile_;
     std::uint64_t fileContent_ = 0;
