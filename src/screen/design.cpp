@@ -30,8 +30,7 @@ constexpr WindowId graphFormsBack[] = {frmXVar, frmLVar, xPlot, frmTable, frmTip
 
 constexpr double fullBar = 100;
 
-// Outline 1 goes around the dispersion at fault. Outlines 2 to 6 belong to the levels: that of level i is i
-// + 1.
+// Outline 1 goes around the dispersion at fault; 2 to 6 belong to the levels, i + 1 to level i.
 constexpr int dispersionOutline = 1;
 constexpr int firstLevelOutline = 2;
 constexpr int lastLevelOutline = 6;

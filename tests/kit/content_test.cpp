@@ -21,6 +21,7 @@
 #include "desktop/kit/text_field.h"
 #include "desktop/kit/theme.h"
 #include "desktop/kit/tool_panel.h"
+#include "desktop/kit/zoom.h"
 #include "kit_bench.h"
 
 namespace lorvane::desktop {
@@ -109,6 +110,41 @@ TEST_F(Content, ALongFigureStaysOnItsCard) {
     const QImage image = painted(card);
     const QRect margin(card.width() - 20, 10, 18, card.height() - 20);
     EXPECT_EQ(pixels(image.copy(margin), colour(Role::Card)), margin.width() * margin.height());
+}
+
+TEST_F(Content, TheQuietLineOfAProblemGoesFirst) {
+    FigureCard card(&window);
+    const QString reason =
+        QStringLiteral("It is not possible for these values to fit together, whatever the others are.");
+    const auto look = [&](int height, const char* note) {
+        card.resize(420, height);
+        card.setContent(FigureTrouble{"Please modify data", reason, note, "All of it."});
+        return painted(card);
+    };
+    EXPECT_EQ(look(88, "It comes back."), look(88, ""));
+    EXPECT_NE(look(140, "It comes back."), look(140, ""));
+    look(88, "It comes back.");
+    EXPECT_EQ(card.toolTip(), QLatin1String("All of it.\n\nIt comes back."));
+}
+
+TEST_F(Content, ATallCardShowsWhatIsBelow) {
+    FigureCard card(&window);
+    auto* below = new QWidget;
+    card.setBelow(below);
+    card.show();
+    for (const double zoom : {1.0, 1.25}) {
+        setZoom(window, zoom);
+        for (const QSize short_ : {QSize(420, 259), QSize(419, 260)}) {
+            card.resize(short_ * zoom);
+            EXPECT_TRUE(below->isHidden()) << zoom;
+        }
+        card.resize(QSize(420, 260) * zoom);
+        EXPECT_FALSE(below->isHidden()) << zoom;
+        EXPECT_TRUE(card.rect().contains(below->geometry()));
+        card.setContent(FigureTrouble{"Please modify data", {}, {}, {}});
+        EXPECT_TRUE(below->isHidden()) << "in a problem";
+        card.setContent(Figure{});
+    }
 }
 
 TEST_F(Content, CountingMovesNothing) {

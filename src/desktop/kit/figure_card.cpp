@@ -1,12 +1,14 @@
-// Painting of a result about the middle of its card. Distances are from that middle to base lines and edges.
+// Painting of a result about the middle of its card, or near the top of a tall one. Distances are from that
+// middle to base lines and edges, in the figures of 100 %.
 #include "desktop/kit/figure_card.h"
 
 #include <algorithm>
 #include <cmath>
 
+#include <QEvent>
 #include <QFontMetricsF>
 #include <QPainter>
-#include <QPainterPath>
+#include <QTextLayout>
 
 #include "desktop/kit/card.h"
 #include "desktop/kit/icons.h"
@@ -14,6 +16,7 @@
 #include "desktop/kit/painting.h"
 #include "desktop/kit/text_style.h"
 #include "desktop/kit/theme.h"
+#include "desktop/kit/zoom.h"
 
 namespace lorvane::desktop {
 
@@ -26,8 +29,29 @@ constexpr double NoteLine = 33.5;
 constexpr double CheckSize = 16;
 constexpr double NoteAfterCheck = 22;
 
-constexpr double MessageLine = 0;
-constexpr double TroubleNoteLine = 28;
+constexpr double UsualFigure = 40;
+constexpr double LargeFigure = 44;  ///< where the card is zoomed
+constexpr double SmallFigure = 30;
+constexpr double HeightForUsual = 88;  ///< below, the figure is small
+
+constexpr double TallHeight = 260;
+constexpr double TallWidth = 420;
+constexpr double TallMiddle = 53;  ///< of the figure in a tall card, from its top
+constexpr double BelowTop = 49;    ///< from there to the widget below
+constexpr double BelowBottom = 12;
+constexpr double BelowMargin = Margin - FigureCard::RingRoom;
+
+constexpr double MessageSize = 26;
+constexpr double CompactMessageSize = 22;
+constexpr double HeightForMessage = 120;  ///< below, the message is compact
+constexpr double ReasonWidth = 450;
+constexpr int ReasonLines = 2;
+constexpr double ReasonHeight = 17;  ///< of a line
+constexpr double NoteSize = 12.5;
+constexpr double NoteHeight = 17;
+constexpr double MessageGap = 8;
+constexpr double NoteGap = 7;
+constexpr double LeastMargin = 6;  ///< above and below the texts of a problem
 
 constexpr double BarTop = -4;
 constexpr double BarHeight = 16;
@@ -45,7 +69,22 @@ QString spoken(const FigureTrouble& trouble) { return trouble.message; }
 
 QString spokenNote(const Figure& figure) { return figure.note; }
 QString spokenNote(const FigureBar& bar) { return bar.tick ? bar.tick->text : bar.highText; }
-QString spokenNote(const FigureTrouble& trouble) { return trouble.note; }
+QString spokenNote(const FigureTrouble& trouble) {
+    return trouble.note.isEmpty() ? trouble.reason : trouble.reason + QLatin1Char(' ') + trouble.note;
+}
+
+QString tipOf(const FigureContent& content) {
+    const auto* trouble = std::get_if<FigureTrouble>(&content);
+    if (trouble == nullptr || trouble->note.isEmpty())
+        return trouble == nullptr ? QString() : trouble->tip;
+    return trouble->tip + QStringLiteral("\n\n") + trouble->note;
+}
+
+QFont sized(TextStyle style, double pixels) {
+    QFont font = textFont(style);
+    font.setPointSizeF(pixels * 0.75);
+    return font;
+}
 
 void setPen(QPainter& painter, TextStyle style, Role role) {
     painter.setFont(textFont(style));
@@ -56,20 +95,39 @@ void drawElided(QPainter& painter, const QPointF& baseline, const QString& text,
     painter.drawText(baseline, QFontMetricsF(painter.font()).elidedText(text, Qt::ElideRight, width));
 }
 
-void drawCentred(QPainter& painter, const QRectF& area, double baseline, const QString& text) {
-    const QFontMetricsF metrics(painter.font());
-    const double width = std::min(metrics.horizontalAdvance(text), area.width());
-    drawElided(painter, QPointF(area.center().x() - width / 2, baseline), text, area.width());
+/// The text in lines of a width; what does not fit into the last one is cut.
+QStringList linesOf(const QString& text, const QFont& font, double width) {
+    QTextLayout layout(text, font);
+    layout.beginLayout();
+    QStringList lines;
+    for (QTextLine line = layout.createLine(); line.isValid(); line = layout.createLine()) {
+        line.setLineWidth(width);
+        const bool isLast = lines.size() == ReasonLines - 1;
+        const QString rest = text.mid(line.textStart(), isLast ? -1 : line.textLength());
+        lines.append(QFontMetricsF(font).elidedText(rest.trimmed(), Qt::ElideRight, width));
+        if (isLast)
+            break;
+    }
+    layout.endLayout();
+    return lines;
+}
+
+/// One line in the middle of an area that begins at a height; gives the height below it.
+double drawLine(QPainter& painter, const QRectF& area, double top, double height, const QString& text) {
+    const QRectF line(area.left(), top, area.width(), height);
+    painter.drawText(line, Qt::AlignHCenter | Qt::AlignVCenter | Qt::TextDontClip,
+                     QFontMetricsF(painter.font()).elidedText(text, Qt::ElideRight, area.width()));
+    return line.bottom();
 }
 
 /// The two fonts of a figure, both smaller by the same share when the line would not fit.
 struct FigureFonts {
-    QFont words = textFont(TextStyle::FigureWords);
-    QFont number = textFont(TextStyle::Figure);
+    QFont words;
+    QFont number;
 };
 
-FigureFonts fittedFonts(const Figure& figure, double width) {
-    FigureFonts fonts;
+FigureFonts fittedFonts(const Figure& figure, double pixels, double width) {
+    FigureFonts fonts{sized(TextStyle::FigureWords, pixels), sized(TextStyle::Figure, pixels)};
     const double wanted =
         QFontMetricsF(fonts.words).horizontalAdvance(figure.words) + numberWidth(fonts.number, figure.number);
     if (wanted <= width || width <= 0)
@@ -78,17 +136,6 @@ FigureFonts fittedFonts(const Figure& figure, double width) {
     fonts.words.setPointSizeF(size);
     fonts.number.setPointSizeF(size);
     return fonts;
-}
-
-void paintTrack(QPainter& painter, const QRectF& track, double share) {
-    QPainterPath shape;
-    shape.addRoundedRect(track, BarRadius, BarRadius);
-    painter.setRenderHint(QPainter::Antialiasing);
-    painter.fillPath(shape, colour(Role::Field));
-    QPainterPath filled;
-    filled.addRect(
-        QRectF(track.topLeft(), QSizeF(track.width() * std::clamp(share, 0.0, 1.0), track.height())));
-    painter.fillPath(shape.intersected(filled), colour(Role::BarFill));
 }
 
 void paintTick(QPainter& painter, const QRectF& track, double x) {
@@ -115,19 +162,71 @@ void FigureCard::setContent(const FigureContent& content) {
             setAccessibleDescription(spokenNote(shown));
         },
         content_);
+    setToolTip(tipOf(content_));
+    placeBelow();
     update();
 }
 
-QSize FigureCard::sizeHint() const { return {400, 140}; }
+void FigureCard::setBelow(QWidget* below) {
+    below_ = below;
+    below->setParent(this);
+    below->hide();
+    placeBelow();
+}
 
-QSize FigureCard::minimumSizeHint() const { return {240, 88}; }
+bool FigureCard::isTall() const {
+    const QSizeF size = figureRect(*this).size();
+    return size.height() >= TallHeight && size.width() >= TallWidth &&
+           !std::holds_alternative<FigureTrouble>(content_);
+}
 
-QRectF FigureCard::inner() const { return QRectF(rect()).adjusted(Margin, 0, -Margin, 0); }
+void FigureCard::placeBelow() {
+    if (below_ == nullptr)
+        return;
+    const QRectF area =
+        figureRect(*this).adjusted(BelowMargin, middle() + BelowTop, -BelowMargin, -BelowBottom);
+    const double zoom = zoomOf(*this);
+    if (isTall())
+        below_->setGeometry(QRectF(area.topLeft() * zoom, area.size() * zoom).toRect());
+    if (below_->isHidden() != isTall())
+        return;
+    below_->setVisible(isTall());
+    if (isTall())
+        emit belowShown();
+}
+
+QSize FigureCard::sizeHint() const { return {zoomed(*this, 400), zoomed(*this, 140)}; }
+
+QSize FigureCard::minimumSizeHint() const { return {zoomed(*this, 240), zoomed(*this, 80)}; }
+
+QRectF FigureCard::inner() const { return figureRect(*this).adjusted(Margin, 0, -Margin, 0); }
+
+double FigureCard::figureSize() const {
+    if (zoomOf(*this) > 1)
+        return LargeFigure;
+    return height() < HeightForUsual ? SmallFigure : UsualFigure;
+}
+
+// A large figure reaches higher.
+double FigureCard::middle() const {
+    return isTall() ? TallMiddle + std::max(0.0, figureSize() - UsualFigure) : inner().center().y();
+}
+
+bool FigureCard::event(QEvent* event) {
+    if (event->type() == QEvent::StyleChange)
+        placeBelow();
+    return PaintedText::event(event);
+}
+
+void FigureCard::resizeEvent(QResizeEvent* event) {
+    PaintedText::resizeEvent(event);
+    placeBelow();
+}
 
 void FigureCard::paint(QPainter& painter, const Figure& figure) const {
     const QRectF area = inner();
-    const double middle = area.center().y();
-    const FigureFonts fonts = fittedFonts(figure, area.width());
+    const double middle = this->middle();
+    const FigureFonts fonts = fittedFonts(figure, figureSize(), area.width());
     painter.setFont(fonts.words);
     painter.setPen(colour(Role::SecondText));
     painter.drawText(QPointF(area.left(), middle + FigureLine), figure.words);
@@ -146,13 +245,13 @@ void FigureCard::paint(QPainter& painter, const Figure& figure) const {
 
 void FigureCard::paint(QPainter& painter, const FigureBar& bar) const {
     const QRectF area = inner();
-    const double middle = std::round(area.center().y());
+    const double middle = std::round(this->middle());
     const QRectF track(area.left(), middle + BarTop, area.width(), BarHeight);
     setPen(painter, TextStyle::LevelName, Role::Text);
     painter.drawText(QPointF(area.left(), middle + HeadLine), bar.name);
     drawNumber(painter, QPointF(area.right() - numberWidth(painter.font(), bar.value), middle + HeadLine),
                bar.value);
-    paintTrack(painter, track, bar.share);
+    drawBar(painter, track, BarRadius, bar.share, colour(Role::Field), colour(Role::BarFill));
     if (bar.tick)
         paintTick(painter, track, std::round(track.left() + track.width() * bar.tick->share));
     paintBarTexts(painter, bar, track);
@@ -177,17 +276,35 @@ void FigureCard::paintBarTexts(QPainter& painter, const FigureBar& bar, const QR
 
 void FigureCard::paint(QPainter& painter, const FigureTrouble& trouble) const {
     const QRectF area = inner();
-    const double middle = area.center().y();
-    setPen(painter, TextStyle::Message, Role::ProblemText);
-    drawCentred(painter, area, middle + MessageLine, trouble.message);
-    setPen(painter, TextStyle::Body, Role::SecondText);
-    drawCentred(painter, area, middle + TroubleNoteLine, trouble.note);
+    const QFont reasonFont = textFont(TextStyle::Value);
+    const QStringList lines = linesOf(trouble.reason, reasonFont, std::min(ReasonWidth, area.width()));
+    const double messageSize = area.height() < HeightForMessage ? CompactMessageSize : MessageSize;
+    const double messageHeight = messageSize * 1.2;
+    double height =
+        messageHeight + (lines.isEmpty() ? 0 : MessageGap) + ReasonHeight * static_cast<double>(lines.size());
+    const double noted = height + NoteGap + NoteHeight;
+    const bool showsNote = !trouble.note.isEmpty() && noted <= area.height() - 2 * LeastMargin;
+    if (showsNote)
+        height = noted;
+
+    painter.setFont(sized(TextStyle::Message, messageSize));
+    painter.setPen(colour(Role::ProblemText));
+    double top = area.center().y() - height / 2;
+    top = drawLine(painter, area, top, messageHeight, trouble.message) + MessageGap;
+    painter.setFont(reasonFont);
+    painter.setPen(colour(Role::Text));
+    for (const QString& line : lines)
+        top = drawLine(painter, area, top, ReasonHeight, line);
+    painter.setFont(sized(TextStyle::Body, NoteSize));
+    painter.setPen(colour(Role::SecondText));
+    if (showsNote)
+        drawLine(painter, area, top + NoteGap, NoteHeight, trouble.note);
 }
 
 void FigureCard::paintEvent(QPaintEvent*) {
-    QPainter painter(this);
+    ZoomedPainter painter(*this);
     const bool trouble = std::holds_alternative<FigureTrouble>(content_);
-    paintCard(painter, QRectF(rect()), trouble ? CardTone::Problem : CardTone::Plain);
+    paintCard(painter, figureRect(*this), trouble ? CardTone::Problem : CardTone::Plain);
     std::visit([&](const auto& shown) { paint(painter, shown); }, content_);
 }
 

@@ -38,32 +38,51 @@ struct FigureBar {
     bool operator==(const FigureBar&) const = default;
 };
 
-/// A message in the place of the figure, and a quiet line below.
+/// A message in the place of the figure, the reason below it in two lines at most, and a quiet line. The
+/// quiet line goes first where the height does not do.
 struct FigureTrouble {
     QString message;
-    QString note;
+    QString reason;
+    QString note = {};
+    QString tip = {};  ///< the reason in full, with advice
     bool operator==(const FigureTrouble&) const = default;
 };
 
 /// What a card shows: one of the three.
 using FigureContent = std::variant<Figure, FigureBar, FigureTrouble>;
 
-/// The card takes the tone of its content. A figure that is too long for its width gets smaller type.
+/// The card takes the tone of its content. A figure that is too long for its width gets smaller type. A tall
+/// card has room for a widget below the figure or the bar.
 class FigureCard : public PaintedText {
     Q_OBJECT
 
 public:
+    /// How far the widget below stands out of the texts of the card on both sides, for the ring of its focus.
+    static constexpr double RingRoom = 8;
+
     explicit FigureCard(QWidget* parent = nullptr);
 
     /// The content, an empty figure at first. Equal content repaints nothing.
     void setContent(const FigureContent& content);
     const FigureContent& content() const { return content_; }
 
+    /// Puts a widget into the lower part of the card, which is shown while the card is tall. Only once.
+    void setBelow(QWidget* below);
+
+    /// From 260 high and 420 wide, unless it tells of a problem.
+    bool isTall() const;
+
     QSize sizeHint() const override;
     QSize minimumSizeHint() const override;
 
+signals:
+    /// The widget below has come into sight.
+    void belowShown();
+
 protected:
+    bool event(QEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
 
 private:
     void paint(QPainter& painter, const Figure& figure) const;
@@ -71,8 +90,12 @@ private:
     void paint(QPainter& painter, const FigureTrouble& trouble) const;
     void paintBarTexts(QPainter& painter, const FigureBar& bar, const QRectF& track) const;
     QRectF inner() const;
+    double middle() const;
+    double figureSize() const;
+    void placeBelow();
 
     FigureContent content_;
+    QWidget* below_ = nullptr;
 };
 
 }  // namespace lorvane::desktop

@@ -2,7 +2,9 @@
 #include "desktop/kit/painting.h"
 
 #include <QPainter>
+#include <QPainterPath>
 #include <QPen>
+#include <algorithm>
 
 namespace lorvane::desktop {
 
@@ -32,6 +34,18 @@ void drawDot(QPainter& painter, const QPointF& centre, double diameter, const QC
     painter.setPen(Qt::NoPen);
     painter.setBrush(fill);
     painter.drawEllipse(centre, diameter / 2, diameter / 2);
+}
+
+void drawBar(QPainter& painter, const QRectF& track, double radius, double share, const QColor& ground,
+             const QColor& fill) {
+    QPainterPath shape;
+    shape.addRoundedRect(track, radius, radius);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.fillPath(shape, ground);
+    QPainterPath filled;
+    const double length = track.width() * std::clamp(share, 0.0, 1.0);
+    filled.addRect(QRectF(track.topLeft(), QSizeF(length, track.height())));
+    painter.fillPath(shape.intersected(filled), fill);
 }
 
 }  // namespace lorvane::desktop

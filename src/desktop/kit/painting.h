@@ -26,4 +26,8 @@ void drawPlate(QPainter& painter, const QRectF& bounds, double radius, const QCo
 /// A filled dot.
 void drawDot(QPainter& painter, const QPointF& centre, double diameter, const QColor& fill);
 
+/// A bar with round corners that is filled to a share of its length, 0 to 1.
+void drawBar(QPainter& painter, const QRectF& track, double radius, double share, const QColor& ground,
+             const QColor& fill);
+
 }  // namespace lorvane::desktop
