@@ -215,6 +215,10 @@ void Application::toggleLink(FieldRef field) {
     handle([&] { lorvane::toggleLink(session_, field); });
 }
 
+void Application::enterValue(FieldRef field, double value) {
+    handle([&] { lorvane::enterValue(session_, field, value); });
+}
+
 void Application::setNumber(const std::string& name, double value) {
     const EventRegistry::Number* number = events_.number(name);
     if (number == nullptr)

@@ -121,6 +121,9 @@ public:
     /// What a click on the link sign of a field does.
     void toggleLink(FieldRef field);
 
+    /// A number for a field, as its value dialog writes it; it must lie within the field's limits.
+    void enterValue(FieldRef field, double value);
+
     /// A number of a window by its name, "frmOptimal.txtNumReps(1)", within its limits.
     void setNumber(const std::string& name, double value);
     bool hasNumber(const std::string& name) const { return events_.number(name) != nullptr; }

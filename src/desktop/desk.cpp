@@ -67,6 +67,10 @@ void Desk::toggleLink(FieldRef field) {
     act([&] { application_.toggleLink(field); });
 }
 
+void Desk::enterValue(FieldRef field, double value) {
+    act([&] { application_.enterValue(field, value); });
+}
+
 void Desk::select(const std::string& grid, const std::vector<std::size_t>& rows) {
     act([&] { application_.select(grid, rows); });
 }

@@ -41,7 +41,8 @@ public:
     /// Opens the value of a field for typing, with a first text where that was typed on its cell already.
     void openValue(const std::string& field, const std::string& firstText = {});
 
-    /// Writes a number of a window within its limits.
+    /// Writes a number for a field, and one of a window within its limits.
+    void enterValue(FieldRef field, double value);
     void setNumber(const std::string& name, double value);
 
     /// A cell has got the focus; its two arms are linked or let part.

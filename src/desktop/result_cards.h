@@ -1,15 +1,20 @@
 // Power and cost side by side. Copies what the models tell and decides nothing.
 #pragma once
 
+#include <QTimer>
 #include <QWidget>
 
 #include "desktop/desk.h"
+#include "search/power_curve.h"
 
 namespace lorvane::desktop {
 
+class CurvePlot;
 class FigureCard;
+class ShareRows;
 
-/// The two cards of the answer, of equal width.
+/// The two cards of the answer, of equal width. While they are tall, the curve of power and the shares of the
+/// cost stand below the figures. The curve is computed in the pauses of the event loop.
 class ResultCards : public QWidget {
     Q_OBJECT
 
@@ -22,10 +27,19 @@ public:
 private:
     void syncPower();
     void syncCost();
+    void syncBelow();
+    void goOnWithCurve();
+    void syncCurve();
 
     Desk& desk_;
     FigureCard* power_ = nullptr;
     FigureCard* cost_ = nullptr;
+    CurvePlot* plot_ = nullptr;
+    ShareRows* shares_ = nullptr;
+    PowerCurveRun run_;
+    QTimer pauses_;             ///< runs while something of the curve is left to compute
+    bool isBegun_ = false;      ///< the run has the study as it stood at computed_
+    std::size_t computed_ = 0;  ///< computations of the session at the last look
 };
 
 }  // namespace lorvane::desktop
