@@ -9,6 +9,7 @@
 
 #include "desktop/kit/arm_label.h"
 #include "desktop/kit/figure_card.h"
+#include "desktop/kit/fitted_line.h"
 #include "desktop/kit/level_name.h"
 #include "desktop/kit/level_rail.h"
 #include "desktop/kit/menu_button.h"
@@ -22,6 +23,7 @@
 #include "desktop/kit/theme.h"
 #include "desktop/kit/tool_panel.h"
 #include "desktop/kit/zoom.h"
+#include "desktop/kit/wrapped_label.h"
 #include "kit_bench.h"
 
 namespace lorvane::desktop {
@@ -229,6 +231,52 @@ TEST_F(Content, ASpanPlotIsAsHighAsItsRows) {
     EXPECT_NE(painted(plot), before) << "scores look different";
     plot.setContent(rows, {1, 1, {}, 1, {}});
     EXPECT_GT(pixels(painted(plot)), 0) << "a scale without length is no trouble";
+}
+
+TEST_F(Content, NamesOfASpanPlotGiveWayFirst) {
+    SpanPlot plot(&window);
+    const QString name = QStringLiteral("Schools of the city");
+    SpanRow wide{name, -5, 0.99, false, QStringLiteral("-5.00"), QStringLiteral("0.99")};
+    SpanRow early{QStringLiteral("Town"), 0, 0.01, false, QStringLiteral("0.00"), QStringLiteral("0.01")};
+    plot.setContent({wide, early}, scale());
+    for (const int width : {324, 364, 444}) {
+        plot.resize(width, plot.sizeHint().height());
+        const QImage image = painted(plot);
+        EXPECT_TRUE(plot.shownLabel(wide).endsWith(QChar(0x2026))) << width;
+        EXPECT_GE(plot.shownLabel(wide).size(), 4) << "the value stands on the bar";
+        EXPECT_EQ(plot.shownLabel(early), early.label) << width;
+        EXPECT_EQ(pixels(image.copy(width - 1, 0, 1, image.height())), 0) << "nothing is cut off";
+    }
+    wide.label = QStringLiteral("Towns");
+    EXPECT_EQ(plot.shownLabel(wide), wide.label);
+}
+
+// The height that a text needs at its width, in a window of that height and in one that gives it too little.
+TEST_F(Content, WrappedLinesTakeAnyWidthAndKeepTheirHeight) {
+    ToolPanel panel(QStringLiteral("Problem"), &window);
+    auto* label = new WrappedLabel;
+    auto* figure = new FittedLine({.words = TextStyle::FigureWords, .number = TextStyle::Figure});
+    panel.content()->addWidget(label);
+    panel.content()->addWidget(figure);
+    panel.show();
+    figure->setText(QStringLiteral("Odds ratio = "), QStringLiteral("1.234"));
+    int last = 0;
+    for (const int count : {1, 4, 12}) {
+        label->setText(QStringLiteral("<b>These</b> groups are too few. ").repeated(count));
+        settle();
+        EXPECT_EQ(label->height(), label->heightForWidth(label->width())) << count;
+        EXPECT_GT(label->height(), last) << count;
+        last = label->height();
+    }
+    EXPECT_EQ(panel.content()->minimumSize().width(), 44) << "neither asks for a width";
+    label->setParent(&window);
+    label->show();
+    for (const int width : {324, 120, 444}) {
+        label->resize(width, 10);
+        EXPECT_EQ(label->minimumSizeHint().height(), label->heightForWidth(width)) << width;
+    }
+    figure->resize(160, figure->height());
+    EXPECT_EQ(pixels(painted(*figure).copy(0, 0, 1, figure->height())), 0) << "smaller, not cut";
 }
 
 TEST_F(Content, TheRailShowsEveryStopAndWay) {

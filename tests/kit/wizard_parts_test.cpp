@@ -36,6 +36,29 @@ TEST(RoundScales, HoldTheirValuesInFiveRoundSteps) {
         EXPECT_EQ(wholeStep(length), step) << length;
 }
 
+TEST(RoundScales, MarkWhatIsWithinAndRoundOut) {
+    struct Case {
+        double low, high, first, step;
+        int steps, decimals;
+    };
+    for (const Case& c : {Case{100, 900, 100, 200, 4, 0},
+                          {0, 1, 0, 0.2, 5, 1},
+                          {42.3, 58.5, 45, 5, 2, 0},
+                          {44.5, 60.5, 47.5, 5, 2, 1},
+                          {-1.3, 1.3, -1, 1, 2, 0},
+                          {7, 7, 7, 1, 0, 0}}) {
+        const RoundScale within = marksWithin(c.low, c.high);
+        EXPECT_NEAR(within.low, c.first, 1e-9) << c.low;
+        EXPECT_EQ(within.step, c.step) << c.low;
+        EXPECT_EQ(within.steps, c.steps) << c.low;
+        EXPECT_EQ(decimalsOf(within), c.decimals) << c.low;
+        const RoundScale out = roundedOut(c.low, c.high);
+        EXPECT_TRUE(out.low <= c.low + 1e-9 && out.low > c.low - c.step && out.steps <= 7) << c.low;
+        EXPECT_TRUE(c.low == c.high || out.high() >= c.high - 1e-9) << c.low;
+    }
+    EXPECT_EQ(decimalsOf({-0.25, 0.125, 4}), 3);
+}
+
 TrialPlotContent trials(int count, int best, double unit = 1000) {
     TrialPlotContent content{
         QStringLiteral("Cost"), QStringLiteral("Schools"), QStringLiteral("lowest"), {}, best};

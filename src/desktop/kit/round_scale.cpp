@@ -12,9 +12,14 @@ namespace {
 constexpr double Rounds[] = {1, 2, 2.5, 5, 10};
 constexpr int Steps = 5;
 constexpr double MostSteps = 6;
+constexpr int MostDecimals = 6;
 constexpr double Hair = 1e-9;  ///< a step that misses by rounding alone does not miss
 
 double lineBelow(double value, double step) { return std::floor(value / step + Hair) * step; }
+
+double lineAbove(double value, double step) { return std::ceil(value / step - Hair) * step; }
+
+bool isWhole(double value) { return std::abs(value - std::round(value)) < Hair * std::max(1.0, value); }
 
 }  // namespace
 
@@ -39,6 +44,37 @@ RoundScale fiveSteps(double low, double high) {
 double wholeStep(double length) {
     const double step = length > MostSteps ? roundStep(length / MostSteps) : 1;
     return step == std::floor(step) ? step : roundStep(2 * step);
+}
+
+RoundScale marksWithin(double low, double high) {
+    if (!(high > low))
+        return {low, 1, 0};
+    const double step = roundStep((high - low) / Steps);
+    const double middle = (low + high) / 2;
+    const bool endsAreRound = isWhole(std::abs(low) / step);
+    const double from = !endsAreRound && isWhole(std::abs(middle) / step * 2) ? middle : 0;
+    RoundScale scale{from + lineAbove(low - from, step), step, 0};
+    scale.steps = static_cast<int>(std::floor((high - scale.low) / step + Hair));
+    return scale;
+}
+
+RoundScale roundedOut(double low, double high) {
+    if (!(high > low))
+        return {low, 1, 0};
+    const double step = roundStep((high - low) / Steps);
+    const double first = lineBelow(low, step);
+    return {first, step, static_cast<int>(std::round((lineAbove(high, step) - first) / step))};
+}
+
+int decimalsOf(const RoundScale& scale) {
+    int decimals = 0;
+    double power = 1;
+    while (decimals < MostDecimals &&
+           !(isWhole(scale.step * power) && isWhole(std::abs(scale.low) * power))) {
+        ++decimals;
+        power *= 10;
+    }
+    return decimals;
 }
 
 }  // namespace lorvane::desktop

@@ -25,4 +25,14 @@ RoundScale fiveSteps(double low, double high);
 /// length.
 double wholeStep(double length);
 
+/// Marks on round numbers within two values, at most seven. They count from 0, or from the middle of the two
+/// where only that is round, to half a step.
+RoundScale marksWithin(double low, double high);
+
+/// The marks of a scale that reaches from the round number below one value to the one above another.
+RoundScale roundedOut(double low, double high);
+
+/// The decimals that tell the lines of a scale apart, at most six.
+int decimalsOf(const RoundScale& scale);
+
 }  // namespace lorvane::desktop

@@ -24,7 +24,7 @@ struct SpanRow {
 struct SpanMark {
     double at = 0;
     QString text;
-    bool isOrigin = false;  ///< its line is stronger
+    bool isOrigin = false;  ///< its line is stronger, and its text bold
     bool operator==(const SpanMark&) const = default;
 };
 
@@ -38,26 +38,40 @@ struct SpanScale {
     bool operator==(const SpanScale&) const = default;
 };
 
-/// Screen readers get the text of the middle as name, and the rows as description.
+/// A range that leaves the scale is cut at its end, without a stroke there. It takes any width: names are cut
+/// first, and a tip has their rest. Screen readers get the text of the middle as name, and the rows as
+/// description.
 class SpanPlot : public PaintedText {
     Q_OBJECT
 
 public:
     explicit SpanPlot(QWidget* parent = nullptr);
 
-    /// The rows from the top down, and their scale. The preferred height follows from the number of rows.
+    /// The rows from the top down, and their scale. The height follows from the number of rows.
     void setContent(const QList<SpanRow>& rows, const SpanScale& scale);
 
     QSize sizeHint() const override;
+    QSize minimumSizeHint() const override;
+
+    /// The name of a row as there is room for it.
+    QString shownLabel(const SpanRow& row) const;
 
 protected:
+    bool event(QEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
 
 private:
+    /// Where the texts of both ends begin.
+    struct Ends {
+        double low;
+        double high;
+    };
     double at(double value) const;
+    bool isOnScale(double value) const;
     double bottom() const;
-    void paintScale(QPainter& painter) const;
-    double lowTextLeft(const SpanRow& row) const;
+    Ends endsOf(const SpanRow& row) const;
+    void paintLines(QPainter& painter) const;
+    void paintMarks(QPainter& painter) const;
     void paintLabel(QPainter& painter, const SpanRow& row, double middle) const;
     void paintBar(QPainter& painter, const SpanRow& row, double middle) const;
     void paintEnds(QPainter& painter, const SpanRow& row, double middle) const;

@@ -1,0 +1,62 @@
+// Distances of lines and paragraphs. All lengths are those of 100 %.
+#include "desktop/kit/paragraph_view.h"
+
+#include <QEvent>
+#include <QTextCursor>
+
+#include "desktop/kit/text_style.h"
+#include "desktop/kit/zoom.h"
+
+namespace lorvane::desktop {
+
+namespace {
+
+constexpr double LineHeight = 142;  ///< percent of the line of the font
+constexpr double Gap = 12;          ///< between two paragraphs
+constexpr int PreferredHeight = 180;
+constexpr int PreferredWidth = 364;
+constexpr int LeastHeight = 60;
+
+}  // namespace
+
+ParagraphView::ParagraphView(QWidget* parent) : QTextEdit(parent) {
+    setFrameShape(QFrame::NoFrame);
+    setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
+    setTabChangesFocus(true);
+    setAcceptRichText(false);
+    setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    document()->setDocumentMargin(0);
+    viewport()->setAutoFillBackground(false);
+    setTextStyle(*this, TextStyle::Body);
+}
+
+void ParagraphView::setParagraphs(const QString& text) {
+    if (text == text_)
+        return;
+    text_ = text;
+    setPlainText(QString(text).replace(QStringLiteral("\n\n"), QStringLiteral("\n")));
+    setDistances();
+}
+
+void ParagraphView::setDistances() {
+    QTextCursor all(document());
+    all.select(QTextCursor::Document);
+    QTextBlockFormat format;
+    format.setLineHeight(LineHeight, QTextBlockFormat::ProportionalHeight);
+    format.setBottomMargin(zoomed(*this, Gap));
+    all.mergeBlockFormat(format);
+}
+
+QSize ParagraphView::sizeHint() const {
+    return {zoomed(*this, PreferredWidth), zoomed(*this, PreferredHeight)};
+}
+
+QSize ParagraphView::minimumSizeHint() const { return {0, zoomed(*this, LeastHeight)}; }
+
+void ParagraphView::changeEvent(QEvent* event) {
+    QTextEdit::changeEvent(event);
+    if (event->type() == QEvent::FontChange)
+        setDistances();
+}
+
+}  // namespace lorvane::desktop
