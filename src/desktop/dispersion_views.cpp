@@ -1,110 +1,65 @@
 // The two panels of the dispersion.
 #include "desktop/dispersion_views.h"
 
-#include <QGridLayout>
-#include <QLabel>
 #include <QVBoxLayout>
 #include <cmath>
 
-#include "base/names.h"
 #include "base/number_text.h"
-#include "desktop/kit/elided_label.h"
 #include "desktop/kit/message_card.h"
 #include "desktop/kit/push_button.h"
+#include "desktop/kit/round_scale.h"
 #include "desktop/kit/span_plot.h"
-#include "desktop/kit/text_style.h"
-#include "desktop/menus.h"
-#include "session/field_words.h"
+#include "desktop/kit/wrapped_label.h"
+#include "desktop/kit/zoom.h"
 
 namespace lorvane::desktop {
 
 namespace {
 
-constexpr int panelWidth = 560;
-constexpr int rowHeight = 42;
-constexpr int widestUnit = 130;
-constexpr int marks = 5;
+constexpr QMargins padding{18, 6, 18, 14};
+constexpr int spacing = 12;
 
-QLabel* styled(TextStyle style) {
-    auto* label = new QLabel;
-    label->setFont(textFont(style));
-    label->setWordWrap(true);
-    label->setProperty("second", style == TextStyle::Caption || style == TextStyle::CaptionStrong);
+WrappedLabel* styled(TextStyle style, bool second) {
+    auto* label = new WrappedLabel;
+    setTextStyle(*label, style);
+    label->setProperty("second", second);
     return label;
 }
 
-// Five marks from end to end of the scale, in as many decimals as tell them apart.
-QList<SpanMark> marksOf(const Schematic& picture) {
-    QList<SpanMark> list;
-    const double step = (picture.high - picture.low) / (marks - 1);
-    const int decimals = step >= 10 ? 0 : step >= 1 ? 1 : 2;
-    for (int i = 0; i < marks; ++i) {
-        const double at = picture.low + i * step;
-        list.append({at, shownText(fixedText(at, decimals)), false});
+// A picture of effects ends at round numbers; one of outcomes ends where it was told.
+SpanScale scaleOf(const Schematic& picture) {
+    const RoundScale round =
+        picture.origin ? roundedOut(picture.low, picture.high) : marksWithin(picture.low, picture.high);
+    SpanScale scale{picture.low, picture.high, {}, picture.centre, shownText(picture.pnlVal.Caption)};
+    if (picture.origin) {
+        scale.low = round.low;
+        scale.high = round.high();
     }
-    return list;
+    for (int i = 0; i <= round.steps; ++i) {
+        const double at = round.low + i * round.step;
+        const double hair = round.step * 1e-6;
+        const bool isZero = std::abs(at) < hair;
+        const bool isOrigin = picture.origin && std::abs(at - *picture.origin) < hair;
+        scale.marks.append(
+            {at, isZero ? QStringLiteral("0") : shownText(fixedText(at, decimalsOf(round))), isOrigin});
+    }
+    return scale;
 }
 
 }  // namespace
 
 DispersionView::DispersionView(Desk& desk, ToolPanel* panel, Menus& menus, const std::string& name,
                                WindowId window, DispersionModel model)
-    : PanelView(desk, panel, name), menus_(menus), window_(window), model_(std::move(model)),
-      sentence_(styled(TextStyle::BodyMedium)), plot_(new SpanPlot), footer_(styled(TextStyle::Caption)),
-      note_(styled(TextStyle::Caption)), message_(new MessageCard) {
-    auto* grid = new QGridLayout;
-    grid->setHorizontalSpacing(18);
-    grid->setVerticalSpacing(0);
-    heads_.push_back(styled(TextStyle::CaptionStrong));
-    grid->addWidget(heads_.back(), 0, 0);
-    for (std::size_t column = 0; column < model_.columns.size(); ++column) {
-        heads_.push_back(styled(TextStyle::CaptionStrong));
-        grid->addWidget(heads_.back(), 0, static_cast<int>(column) + 1, Qt::AlignBottom);
-    }
-    for (int level = highestLevel; level >= lowestLevel; --level)
-        addRow(grid, level);
-    grid->setColumnStretch(0, 1);
-    auto* box = panel->content();
-    box->setSpacing(14);
-    box->addLayout(grid);
+    : PanelView(desk, panel, name), window_(window), model_(std::move(model)),
+      table_(new DispersionTable(desk, menus, model_.rows)), sentence_(styled(TextStyle::BodyMedium, false)),
+      plot_(new SpanPlot), footer_(styled(TextStyle::Caption, true)), note_(styled(TextStyle::Caption, true)),
+      message_(new MessageCard) {
+    QVBoxLayout* box = panel->content();
+    box->setContentsMargins(padding);
+    box->setSpacing(spacing);
     for (QWidget* widget :
-         {static_cast<QWidget*>(sentence_), static_cast<QWidget*>(plot_), static_cast<QWidget*>(footer_),
-          static_cast<QWidget*>(note_), static_cast<QWidget*>(message_)}) {
-        widget->setFixedWidth(panelWidth);
+         std::initializer_list<QWidget*>{table_, sentence_, plot_, footer_, note_, message_})
         box->addWidget(widget);
-    }
-}
-
-ValueCell* DispersionView::addCell(const PanelColumn& column, int level) {
-    auto* cell = new ValueCell(ValueCell::Kind::ReadOnly);
-    const bool range = column.spins == nullptr;
-    cell->setFixedSize(range ? 170 : 96, 28);
-    if (range)
-        return cell;
-    const std::string spin = indexedName(column.spin, level);
-    const std::string field = indexedName(column.field, level);
-    connect(cell, &ValueCell::stepped, this,
-            [this, spin](int direction) { desk_.spin(spin, direction, ArrowHold::tick); });
-    connect(cell, &ValueCell::focused, this,
-            [this, cell, field] { cell->setAccessibleDescription(desk_.hintOf(*findField(field))); });
-    connect(cell, &ValueCell::stepFinished, this, [this] { desk_.spinReleased(); });
-    connect(cell, &ValueCell::activated, this, [this, field] { desk_.openValue(field); });
-    const std::string popup = column.popup;
-    connect(cell, &ValueCell::contextMenuRequested, this,
-            [this, popup](const QPoint& place) { menus_.popup(popup, place); });
-    return cell;
-}
-
-void DispersionView::addRow(QGridLayout* grid, int level) {
-    const int line = highestLevel - level + 1;
-    Row row{level, new ElidedLabel(widestUnit), {}};
-    row.unit->setFont(textFont(TextStyle::BodyStrong));
-    grid->addWidget(row.unit, line, 0);
-    for (std::size_t column = 0; column < model_.columns.size(); ++column) {
-        row.cells.push_back(addCell(model_.columns[column], level));
-        grid->addWidget(row.cells.back(), line, static_cast<int>(column) + 1);
-    }
-    rows_.push_back(std::move(row));
 }
 
 void DispersionView::addButton(const Button& model, const std::string& control) {
@@ -116,61 +71,38 @@ void DispersionView::addButton(const Button& model, const std::string& control) 
 
 bool DispersionView::isOpen() const { return desk_.design().isOpen(window_); }
 
-void DispersionView::syncRow(const Row& row) {
-    const Panel& unit = (*model_.units)(row.level);
-    row.unit->setVisible(unit.Visible);
-    row.unit->setText(shownText(unit.Caption));
-    row.unit->setMinimumHeight(unit.Visible ? rowHeight : 0);
-    for (std::size_t i = 0; i < row.cells.size(); ++i) {
-        const PanelColumn& column = model_.columns[i];
-        const Panel& cell = (*column.cells)(row.level);
-        row.cells[i]->setVisible(unit.Visible && cell.Visible && column.heading->Visible);
-        row.cells[i]->setText(shownText(cell.Caption));
-        const bool changeable = column.spins != nullptr && (*column.spins)(row.level);
-        if (!changeable && row.cells[i]->hasFocus())
-            row.cells[i]->clearFocus();
-        row.cells[i]->setKind(changeable ? ValueCell::Kind::Spin : ValueCell::Kind::ReadOnly);
-        if (column.field == nullptr)
-            row.cells[i]->setAccessibleName(row.unit->text() + QStringLiteral(", ") +
-                                            shownText(column.heading->Caption));
-        else
-            row.cells[i]->setAccessibleName(
-                shownText(fieldWords(desk_.study(), {&fieldOf(column.field), row.level})));
-    }
-}
-
 void DispersionView::syncPicture() {
     const Schematic& picture = *model_.picture;
     QList<SpanRow> rows;
     for (int level = highestLevel; level >= lowestLevel; --level) {
         const SpanBar& bar = picture.bars(level);
         if (bar.Visible)
-            rows.append({shownText((*model_.units)(level).Caption), bar.low, bar.high, bar.isScores,
+            rows.append({shownText((*model_.rows.units)(level).Caption), bar.low, bar.high, bar.isScores,
                          shownText(bar.lowText), shownText(bar.highText)});
     }
-    plot_->setContent(rows, {picture.low, picture.high, marksOf(picture), picture.centre,
-                             shownText(picture.pnlVal.Caption)});
-    plot_->setVisible(!rows.isEmpty());
+    const bool shown = picture.Visible && !rows.isEmpty();
+    if (shown)
+        plot_->setContent(rows, scaleOf(picture));
     sentence_->setText(shownText(picture.pnlSchematic.Caption));
-    sentence_->setVisible(!rows.isEmpty());
     footer_->setText(shownText(picture.pnlFooter.Caption));
-    footer_->setVisible(!rows.isEmpty());
+    for (QWidget* widget : std::initializer_list<QWidget*>{sentence_, plot_, footer_})
+        widget->setVisible(shown);
     note_->setText(shownText(picture.pnlNote.Caption));
-    note_->setVisible(!picture.pnlNote.Caption.empty());
+    note_->setVisible(shown && !picture.pnlNote.Caption.empty());
+}
+
+// What is told of a study without a fault is a remark below its picture.
+void DispersionView::syncMessage() {
+    message_->setKind(model_.picture->Visible ? MessageCard::Kind::Quiet : MessageCard::Kind::Problem);
+    message_->setText(shownText(model_.messageInner->Caption));
+    message_->setVisible(model_.messageOuter->Visible);
 }
 
 void DispersionView::sync() {
     panel()->setWindowTitle(shownText(model_.title->Caption).trimmed());
-    heads_[0]->setText(shownText(model_.unit->Caption));
-    for (std::size_t i = 0; i < model_.columns.size(); ++i) {
-        heads_[i + 1]->setText(shownText(model_.columns[i].heading->Caption));
-        heads_[i + 1]->setVisible(model_.columns[i].heading->Visible);
-    }
-    for (const Row& row : rows_)
-        syncRow(row);
+    table_->sync();
     syncPicture();
-    message_->setVisible(model_.messageOuter->Visible);
-    message_->setText(shownText(model_.messageInner->Caption));
+    syncMessage();
     for (const auto& [button, model] : buttons_) {
         button->setVisible(model->Visible);
         button->setText(shownText(model->Caption));
@@ -179,13 +111,17 @@ void DispersionView::sync() {
 
 namespace {
 
+// In a narrow panel the fields of ICC and span are 8 narrower. The values of the outcome stand under one
+// another whether they are fields or not; those of the effect have no room for that.
 DispersionModel iccModel(const IccPanel& p) {
     return {&p.pnlTitle,
-            &p.lblUnit,
-            &p.pnlUnit,
-            {{&p.lblIcc, &p.pnlICC, &p.iccSpin, "frmDisplayICC.spnIcc", "txtICC", "popICC"},
-             {&p.lblSpan, &p.pnlWidth, &p.spanSpin, "frmDisplayICC.spnMRange", "txtMRange", "popMRange"},
-             {&p.lblRange, &p.pnlExample, nullptr, nullptr, nullptr, nullptr}},
+            {&p.lblUnit,
+             &p.pnlUnit,
+             {{&p.lblIcc, &p.pnlICC, "txtICC", 74, 74, 8, 0, 24},
+              {&p.lblSpan, &p.pnlWidth, "txtMRange", 90, 90, 8, 8, 24},
+              {&p.lblRange, nullptr, nullptr, 110, 110, 0, 4, 0}},
+             &p.pnlExample,
+             "popICCView"},
             &p.picture,
             &p.pnlMsgOuter,
             &p.pnlMsgInner};
@@ -193,12 +129,14 @@ DispersionModel iccModel(const IccPanel& p) {
 
 DispersionModel tauSqModel(const TauSqPanel& p) {
     return {&p.pnlTitle,
-            &p.lblUnit,
-            &p.pnlUnit,
-            {{&p.lblTauSq, &p.pnlTauSq, &p.tauSqSpin, "frmDisplayTauSq.spnTauSq", "txtTauSq", "popTauSq"},
-             {&p.lblSpan, &p.pnlWidth, &p.spanSpin, "frmDisplayTauSq.spnDRange", "txtDRange", "popDRange"},
-             {&p.lblOmega, &p.pnlOmega, &p.omegaSpin, "frmDisplayTauSq.spnOmega", "txtOmega", "popOmega"},
-             {&p.lblRange, &p.pnlExample, nullptr, nullptr, nullptr, nullptr}},
+            {&p.lblUnit,
+             &p.pnlUnit,
+             {{&p.lblTauSq, &p.pnlTauSq, "txtTauSq", 62, 86, 8, 0, 0},
+              {&p.lblSpan, &p.pnlWidth, "txtDRange", 44, 76, 0, 8, 0},
+              {&p.lblOmega, &p.pnlOmega, "txtOmega", 62, 94, 6, 8, 0},
+              {&p.lblRange, nullptr, nullptr, 96, 96, 8, 8, 0}},
+             &p.pnlExample,
+             "popTauSqView"},
             &p.picture,
             &p.pnlMsgOuter,
             &p.pnlMsgInner};

@@ -3,11 +3,8 @@
 
 #include <vector>
 
-#include "desktop/kit/value_cell.h"
+#include "desktop/dispersion_table.h"
 #include "desktop/panel_view.h"
-
-class QGridLayout;
-class QLabel;
 
 namespace lorvane::desktop {
 
@@ -15,23 +12,12 @@ class Menus;
 class MessageCard;
 class PushButton;
 class SpanPlot;
-
-/// What a column of a panel shows: its heading, its cells, and the arrows where the value can be changed.
-struct PanelColumn {
-    const Panel* heading;
-    const PerLevel<Panel>* cells;
-    const PerLevel<bool>* spins;  ///< null where the column is only read
-    const char* spin;             ///< stem of the arrows, "frmDisplayICC.spnIcc"
-    const char* field;            ///< stem of the field
-    const char* popup;            ///< band of a right click
-};
+class WrappedLabel;
 
 /// The models behind one of the two panels.
 struct DispersionModel {
     const Panel* title;
-    const Panel* unit;  ///< heading of the names
-    const PerLevel<Panel>* units;
-    std::vector<PanelColumn> columns;
+    DispersionRows rows;
     const Schematic* picture;
     const Panel* messageOuter;
     const Panel* messageInner;
@@ -53,25 +39,16 @@ protected:
     void addButton(const Button& model, const std::string& control);
 
 private:
-    struct Row {
-        int level;
-        QLabel* unit;
-        std::vector<ValueCell*> cells;
-    };
-    void addRow(QGridLayout* grid, int level);
-    ValueCell* addCell(const PanelColumn& column, int level);
-    void syncRow(const Row& row);
     void syncPicture();
+    void syncMessage();
 
-    Menus& menus_;
     WindowId window_;
     DispersionModel model_;
-    std::vector<QLabel*> heads_;
-    std::vector<Row> rows_;
-    QLabel* sentence_;
+    DispersionTable* table_;
+    WrappedLabel* sentence_;
     SpanPlot* plot_;
-    QLabel* footer_;
-    QLabel* note_;
+    WrappedLabel* footer_;
+    WrappedLabel* note_;
     MessageCard* message_;
     std::vector<std::pair<PushButton*, const Button*>> buttons_;
 };

@@ -6,9 +6,9 @@
 #include <utility>
 #include <vector>
 
-#include "base/names.h"
 #include "base/number_text.h"
 #include "screen/design_words.h"
+#include "session/field_words.h"
 #include "validation/dispersion_tables.h"
 #include "validation/icc_messages.h"
 #include "validation/logit_variance.h"
@@ -52,16 +52,41 @@ std::vector<std::string> namesFrom(const Study& s, int lowest) {
     return names;
 }
 
+// What the user enters at a level of a column, or what follows from it.
+struct CellContent {
+    FieldRef field;
+    bool shown = false;    // the level has the value
+    bool entered = false;  // it is the form that the user works in
+    bool atFault = false;
+    std::string told;     // the caption
+    std::string written;  // what was entered
+};
+
+void writeCell(const Study& s, const CellContent& content, Cell& cell) {
+    cell.Visible = content.shown;
+    cell.Caption = content.shown ? content.told : "";
+    cell.number = content.shown && content.entered ? content.written : cell.Caption;
+    cell.words = fieldWords(s, content.field);
+    cell.spinVisible = content.shown && content.entered;
+    cell.state = cell.spinVisible ? CellState::changeable : CellState::fixed;
+    cell.trouble = cell.spinVisible && content.atFault;
+}
+
+void writeHead(ColumnHead& head, std::string caption, std::string brief) {
+    head.Caption = std::move(caption);
+    head.brief = std::move(brief);
+}
+
 // ------------------------------------------------------------------ frmDisplayICC
 
 void writeIccTitles(const Study& s, IccPanel& panel) {
     const std::string what = s.isMeans() ? "means" : "risks";
     const std::string& group = s.controlName();
     panel.pnlTitle.Caption = "  ICC and range of " + what;
-    panel.lblUnit.Caption = "Unit";
-    panel.lblIcc.Caption = "ICC";
-    panel.lblSpan.Caption = "Span";
-    panel.lblRange.Caption = "Range of " + what + " in the " + group + " group";
+    writeHead(panel.lblUnit, "Unit", "Unit");
+    writeHead(panel.lblIcc, "ICC", "ICC");
+    writeHead(panel.lblSpan, "Span", "Span");
+    writeHead(panel.lblRange, "Range of " + what + " in the " + group + " group", "Range of " + what);
     panel.picture.pnlSchematic.Caption = "The " + group + (s.isMeans() ? "-group mean" : "-group risk") +
                                          " will vary across " + joinedNames(namesFrom(s, 2)) +
                                          " as shown here.";
@@ -74,23 +99,29 @@ void writeIccTitles(const Study& s, IccPanel& panel) {
     panel.cmdOptions.Visible = s.isBinary();
 }
 
+// An effect at fault clears the flags of all levels, though it is not the ICCs that have to be changed.
+bool isAtFault(const Study& s, int level) { return s.result.ValidES && !s.outcome.ValidICC(level); }
+
 void writeIccRow(const Study& s, IccPanel& panel, int level, bool used) {
-    const bool icc = used && level > 1;
-    const bool span = used && (level > 1 || s.isMeans());
     const bool iccEntered = s.IccMetric == IccMetrics::icc;
     panel.txtICC(level) = s.txtICC(level);
     panel.txtSpan(level) = s.txtMRange(level);
     panel.pnlUnit(level).Caption = s.txtName(level);
     panel.pnlUnit(level).Visible = used;
-    panel.pnlICC(level).Visible = icc;
-    panel.pnlWidth(level).Visible = span;
-    panel.pnlExample(level).Visible = span;
-    panel.pnlICC(level).Caption =
-        shownIf(icc && s.outcome.ShowICC(level), s.txtICC(level), s.decimals.txtICC);
-    panel.pnlWidth(level).Caption =
-        shownIf(span && s.outcome.ShowSpan(level), s.txtMRange(level), s.decimals.txtMRange);
-    panel.iccSpin(level) = icc && iccEntered;
-    panel.spanSpin(level) = span && (!iccEntered || level == 1);
+    CellContent icc{{&fieldOf("txtICC"), level}, used && level > 1, iccEntered, isAtFault(s, level), {}, {}};
+    icc.written = fixedText(s.txtICC(level), s.decimals.txtICC);
+    icc.told = s.outcome.ShowICC(level) ? icc.written : "";
+    writeCell(s, icc, panel.pnlICC(level));
+    CellContent span{{&fieldOf("txtMRange"), level},
+                     used && (level > 1 || s.isMeans()),
+                     !iccEntered || level == 1,
+                     isAtFault(s, level),
+                     {},
+                     {}};
+    span.written = fixedText(s.txtMRange(level), s.decimals.txtMRange);
+    span.told = s.outcome.ShowSpan(level) ? span.written : "";
+    writeCell(s, span, panel.pnlWidth(level));
+    panel.pnlExample(level).Visible = span.shown;
 }
 
 // The scale runs over two spans of the individuals, or over all risks.
@@ -103,12 +134,19 @@ void writeIccScale(const Study& s, Schematic& picture) {
                                          : "Risk " + fixedText(s.txtPrev, std::max(s.decimals.txtPrev, 2));
 }
 
+// A span is moved to lie between 0 and 1, and for an odds ratio between the limits of the risks.
 bool anyTruncated(const Study& s) {
+    const bool oddsRatio = s.BinaryType == BinaryTypes::oddsRatio;
     for (int level = 2; s.isBinary() && level <= s.NumLevels; ++level) {
-        if (GetRange(s.txtPrev, spanOfLevel(s, level)).truncated)
+        const bool moved = oddsRatio && s.logit.truncation(level) != Truncations::none;
+        if (moved || GetRange(s.txtPrev, spanOfLevel(s, level)).truncated)
             return true;
     }
     return false;
+}
+
+std::string footerText(const std::string& what, bool offCentre) {
+    return "Range includes 95% of " + what + (offCentre ? "." : ", shown centered on mean.");
 }
 
 void writeIccBars(const Study& s, const IccVerdict& verdict, IccPanel& panel) {
@@ -122,12 +160,13 @@ void writeIccBars(const Study& s, const IccVerdict& verdict, IccPanel& panel) {
         }
         panel.pnlExample(level).Caption = barText(bar);
     }
-    panel.picture.pnlFooter.Caption = anyTruncated(s)
-                                          ? "Range includes 95% of units."
-                                          : "Range includes 95% of units, shown centered on mean.";
+    panel.picture.Visible = s.outcome.ValidICC(0);
+    panel.picture.pnlFooter.Caption = footerText("units", anyTruncated(s));
 }
 
 // ---------------------------------------------------------------- frmDisplayTauSq
+
+bool isOnLogScale(const Study& s) { return s.isBinary() && s.BinaryType == BinaryTypes::oddsRatio; }
 
 const char* effectWord(const Study& s) {
     if (s.isMeans())
@@ -142,6 +181,13 @@ const char* effectSentence(const Study& s) {
                                                   : "The effect size (the risk difference) will vary across ";
 }
 
+// The metric of the effect in the fewest letters, for heads and marks.
+const char* effectSign(const Study& s) {
+    if (s.isMeans())
+        return "d";
+    return s.BinaryType == BinaryTypes::oddsRatio ? "OR" : "RD";
+}
+
 const char* effectRange(const Study& s) {
     if (s.isMeans())
         return s.DType == DTypes::within ? "Range of the effect size d (within) across blocks"
@@ -152,17 +198,16 @@ const char* effectRange(const Study& s) {
 }
 
 void writeTauSqTitles(const Study& s, bool showOmega, TauSqPanel& panel) {
-    const bool logScale = s.isBinary() && s.BinaryType == BinaryTypes::oddsRatio;
     panel.pnlTitle.Caption = std::string("Tau-squared and distribution of effect sizes ") + effectWord(s);
-    panel.lblUnit.Caption = "Unit";
-    panel.lblTauSq.Caption = logScale ? "Tau-sq (log scale)" : "Tau-sq";
-    panel.lblSpan.Caption = logScale ? "Span (log scale)" : "Span";
-    panel.lblOmega.Caption = "Omega";
+    const std::string scale = isOnLogScale(s) ? " (log scale)" : "";
+    writeHead(panel.lblUnit, "Unit", "Unit");
+    writeHead(panel.lblTauSq, "Tau-sq" + scale, "Tau-sq");
+    writeHead(panel.lblSpan, "Span" + scale, "Span");
+    writeHead(panel.lblOmega, "Omega", "Omega");
     panel.lblOmega.Visible = showOmega;
-    panel.lblRange.Caption = effectRange(s);
+    writeHead(panel.lblRange, effectRange(s), std::string("Range of ") + effectSign(s));
     panel.picture.pnlSchematic.Caption =
         effectSentence(s) + joinedNames(namesFrom(s, s.RandomizedLevel + 1)) + " as shown here.";
-    panel.picture.pnlFooter.Caption = "Range includes 95% of effects, shown centered on mean.";
 }
 
 // A binary study with the span of effects entered shows tau-squared with five decimals, and the span with one
@@ -179,23 +224,39 @@ bool showsTauSq(const EffectDispersion& effect, int level) {
     return told && effect.ShowTauSq(level);
 }
 
+// Without ICCs that can be used it is they that have to be changed, not the dispersion of the effect.
+bool isEffectAtFault(const Study& s, int level) {
+    const EffectDispersion& effect = s.effect;
+    const bool omegaAtFault = s.TauSqMetric == TauSqMetrics::omega && !effect.ValidOmega(level);
+    return s.outcome.ValidICC(0) && (!effect.ValidTauSq(level) || !effect.ValidSpan(level) || omegaAtFault);
+}
+
 void writeTauSqRow(const Study& s, bool showOmega, TauSqPanel& panel, int level) {
     const EffectDispersion& effect = s.effect;
     const bool blocked = level <= s.NumLevels && s.isBlocked(level);
     panel.pnlUnit(level).Caption = s.txtName(level);
-    for (Panel* cell : {&panel.pnlUnit(level), &panel.pnlTauSq(level), &panel.pnlWidth(level),
-                        &panel.pnlOmega(level), &panel.pnlExample(level)})
-        cell->Visible = blocked;
+    panel.pnlUnit(level).Visible = panel.pnlExample(level).Visible = blocked;
+    const auto write = [&](Cell& cell, const char* field, TauSqMetrics metric, std::string told,
+                           std::string entered) {
+        writeCell(s,
+                  {{&fieldOf(field), level},
+                   blocked,
+                   s.TauSqMetric == metric,
+                   blocked && isEffectAtFault(s, level),
+                   std::move(told),
+                   std::move(entered)},
+                  cell);
+    };
+    write(panel.pnlTauSq(level), "txtTauSq", TauSqMetrics::tauSquared,
+          shownIf(showsTauSq(effect, level), effect.txtTauSq(level), decimalsOfTauSq(s)),
+          fixedText(s.txtTauSq(level), decimalsOfTauSq(s)));
+    write(panel.pnlWidth(level), "txtDRange", TauSqMetrics::spanOfEffects,
+          shownIf(effect.ValidSpan(level), effect.txtSpan(level), decimalsOfSpan(s)),
+          fixedText(s.txtDRange(level), decimalsOfSpan(s)));
+    write(panel.pnlOmega(level), "txtOmega", TauSqMetrics::omega,
+          shownIf(effect.ValidOmega(level), effect.txtOmega(level), s.decimals.txtOmega),
+          fixedText(s.txtOmega(level), s.decimals.txtOmega));
     panel.pnlOmega(level).Visible = blocked && showOmega;
-    panel.pnlTauSq(level).Caption =
-        shownIf(blocked && showsTauSq(effect, level), effect.txtTauSq(level), decimalsOfTauSq(s));
-    panel.pnlWidth(level).Caption =
-        shownIf(blocked && effect.ValidSpan(level), effect.txtSpan(level), decimalsOfSpan(s));
-    panel.pnlOmega(level).Caption =
-        shownIf(blocked && effect.ValidOmega(level), effect.txtOmega(level), s.decimals.txtOmega);
-    panel.tauSqSpin(level) = blocked && s.TauSqMetric == TauSqMetrics::tauSquared;
-    panel.spanSpin(level) = blocked && s.TauSqMetric == TauSqMetrics::spanOfEffects;
-    panel.omegaSpin(level) = blocked && s.TauSqMetric == TauSqMetrics::omega;
 }
 
 double effectOf(const Study& s) {
@@ -204,11 +265,36 @@ double effectOf(const Study& s) {
     return s.BinaryType == BinaryTypes::oddsRatio ? s.txtOR : s.txtRD;
 }
 
+// As far to both sides as the widest range and the place of no effect, and half as far again. No odds ratio
+// is below 0.
+void writeEffectScale(const Study& s, Schematic& picture) {
+    picture.origin = isOnLogScale(s) ? 1 : 0;
+    double reach = std::abs(picture.centre - *picture.origin);
+    for (int level = 2; level <= highestLevel; ++level) {
+        const SpanBar& bar = picture.bars(level);
+        if (bar.Visible)
+            reach = std::max({reach, picture.centre - bar.low, bar.high - picture.centre});
+    }
+    const double half = reach > 0 ? reach * 1.5 : widthWithoutSpan / 2;
+    picture.low = isOnLogScale(s) ? std::max(0.0, picture.centre - half) : picture.centre - half;
+    picture.high = picture.centre + half;
+}
+
+// The range of an odds ratio is centred on the log scale alone.
+bool isOffCentre(const Study& s) {
+    const auto hasSpan = [&](int level) { return s.isBlocked(level) && s.effect.txtSpan(level) > 0; };
+    bool any = false;
+    for (int level = 2; level <= s.NumLevels; ++level)
+        any = any || hasSpan(level);
+    return anyTruncated(s) || (isOnLogScale(s) && any);
+}
+
 void writeTauSqBars(const Study& s, TauSqPanel& panel) {
     Schematic& picture = panel.picture;
+    picture.Visible = s.effect.ValidTauSq(0);
     picture.centre = effectOf(s);
-    picture.pnlVal.Caption = "Effect " + fixedText(picture.centre, 2);
-    double low = picture.centre, high = picture.centre;
+    picture.pnlVal.Caption = std::string(effectSign(s)) + " = " + fixedText(picture.centre, 2);
+    picture.pnlFooter.Caption = footerText("effects", isOffCentre(s));
     for (int level = 2; level <= highestLevel; ++level) {
         SpanBar& bar = picture.bars(level);
         bar = SpanBar();
@@ -216,40 +302,9 @@ void writeTauSqBars(const Study& s, TauSqPanel& panel) {
         const TauSqRow row = told ? tauSqRow(s, level) : TauSqRow();
         if (row.hasLimits)
             writeBar(bar, row.lower, row.upper, s.isMeans() ? 2 : 3);
-        low = std::min(low, bar.Visible ? bar.low : low);
-        high = std::max(high, bar.Visible ? bar.high : high);
         panel.pnlExample(level).Caption = barText(bar);
     }
-    const double margin = high > low ? (high - low) / 4 : widthWithoutSpan / 2;
-    picture.low = low - margin;
-    picture.high = high + margin;
-}
-
-// -------------------------------------------------------------------------- names
-
-void registerPicture(ControlRegistry& registry, const std::string& window, const Schematic& picture) {
-    registry.add(window + "pnlSchematic", picture.pnlSchematic);
-    registry.add(window + "pnlFooter", picture.pnlFooter);
-    registry.add(window + "pnlNote", picture.pnlNote);
-    registry.add(window + "pnlVal", picture.pnlVal);
-    registry.add(window + "Scale.Low", &picture.low);
-    registry.add(window + "Scale.High", &picture.high);
-    for (int level = lowestLevel; level <= highestLevel; ++level) {
-        const std::string name = indexedName(window + "bar", level);
-        registry.add(name + ".Visible", &picture.bars(level).Visible);
-        registry.add(name + ".Low", &picture.bars(level).low);
-        registry.add(name + ".High", &picture.bars(level).high);
-    }
-}
-
-using PanelColumn = std::pair<const char*, const PerLevel<Panel>*>;
-
-void registerColumns(ControlRegistry& registry, const std::string& window,
-                     std::initializer_list<PanelColumn> columns) {
-    for (const auto& [name, panels] : columns) {
-        for (int level = lowestLevel; level <= highestLevel; ++level)
-            registry.add(indexedName(window + name, level), (*panels)(level));
-    }
+    writeEffectScale(s, picture);
 }
 
 }  // namespace
@@ -270,56 +325,6 @@ void writeTauSqPanel(const Study& study, TauSqMessage message, bool showOmega, T
         writeTauSqRow(study, showOmega, panel, level);
     writeTauSqBars(study, panel);
     writeMessage(panel.pnlMsgOuter, panel.pnlMsgInner, tauSqMessageText(message));
-}
-
-void IccPanel::registerNames(ControlRegistry& registry) const {
-    const std::string window = "frmDisplayICC.";
-    registry.add("frmDisplayICC.Caption", &pnlTitle.Caption);
-    for (const auto& [name, panel] : {std::pair{"lblUnit", &lblUnit},
-                                      {"lblIcc", &lblIcc},
-                                      {"lblSpan", &lblSpan},
-                                      {"lblRange", &lblRange},
-                                      {"pnlMsgOuter", &pnlMsgOuter},
-                                      {"pnlMsgInner", &pnlMsgInner}})
-        registry.add(window + name, *panel);
-    for (int level = lowestLevel; level <= highestLevel; ++level) {
-        registry.add(indexedName(window + "txtICC", level), &txtICC(level));
-        registry.add(indexedName(window + "txtSpan", level), &txtSpan(level));
-        registry.add(indexedName(window + "spnIcc", level) + ".Visible", &iccSpin(level));
-        registry.add(indexedName(window + "spnMRange", level) + ".Visible", &spanSpin(level));
-    }
-    registerColumns(
-        registry, window,
-        {{"pnlUnit", &pnlUnit}, {"pnlICC", &pnlICC}, {"pnlWidth", &pnlWidth}, {"pnlExample", &pnlExample}});
-    registerPicture(registry, window, picture);
-    registry.add(window + "cmdDelta", cmdDelta);
-    registry.add(window + "cmdOptions", cmdOptions);
-    registry.add(window + "Command1", Command1);
-}
-
-void TauSqPanel::registerNames(ControlRegistry& registry) const {
-    const std::string window = "frmDisplayTauSq.";
-    registry.add("frmDisplayTauSq.Caption", &pnlTitle.Caption);
-    for (const auto& [name, panel] : {std::pair{"lblUnit", &lblUnit},
-                                      {"lblTauSq", &lblTauSq},
-                                      {"lblSpan", &lblSpan},
-                                      {"lblOmega", &lblOmega},
-                                      {"lblRange", &lblRange},
-                                      {"pnlMsgOuter", &pnlMsgOuter},
-                                      {"pnlMsgInner", &pnlMsgInner}})
-        registry.add(window + name, *panel);
-    for (int level = lowestLevel; level <= highestLevel; ++level) {
-        registry.add(indexedName(window + "spnTauSq", level) + ".Visible", &tauSqSpin(level));
-        registry.add(indexedName(window + "spnDRange", level) + ".Visible", &spanSpin(level));
-        registry.add(indexedName(window + "spnOmega", level) + ".Visible", &omegaSpin(level));
-    }
-    registerColumns(registry, window,
-                    {{"pnlUnit", &pnlUnit},
-                     {"pnlTauSq", &pnlTauSq},
-                     {"pnlWidth", &pnlWidth},
-                     {"pnlOmega", &pnlOmega},
-                     {"pnlExample", &pnlExample}});
-    registerPicture(registry, window, picture);
 }
 
 }  // namespace lorvane

@@ -2,11 +2,13 @@
 // the message line.
 #pragma once
 
+#include <optional>
 #include <string>
 
 #include "engine/study.h"
 #include "platform/control_registry.h"
 #include "platform/controls.h"
+#include "screen/main_screen.h"
 #include "validation/effect_dispersion.h"
 #include "validation/icc_span.h"
 
@@ -24,27 +26,34 @@ struct SpanBar {
 
 /// The picture of a panel. A view draws it; the numbers are here.
 struct Schematic {
-    double low = 0;  ///< left end of the scale
+    bool Visible = true;  ///< nothing is at fault that it would have to show
+    double low = 0;       ///< left end of the scale
     double high = 1;
-    double centre = 0;  ///< where the dashed line stands
-    Panel pnlVal;       ///< what stands there
+    double centre = 0;             ///< where the dashed line stands
+    std::optional<double> origin;  ///< where there is no effect; the ends may move out to round numbers
+    Panel pnlVal;                  ///< what stands there
     PerLevel<SpanBar> bars;
     Panel pnlSchematic;  ///< the sentence
     Panel pnlFooter;
     Panel pnlNote;  ///< what else to know of the values; often empty
 };
 
-/// frmDisplayICC, the dispersion of the outcome.
+/// The head of a column: the caption, and the words that fit over a narrow column.
+struct ColumnHead : Panel {
+    std::string brief;
+};
+
+/// frmDisplayICC, the dispersion of the outcome. Its cells keep what was entered as their number, also where
+/// a fault leaves their caption empty.
 struct IccPanel {
     Panel pnlTitle;
-    Panel lblUnit, lblIcc, lblSpan, lblRange;
+    ColumnHead lblUnit, lblIcc, lblSpan, lblRange;
     PerLevel<Panel> pnlUnit;
     PerLevel<double> txtICC;  ///< values shown
     PerLevel<double> txtSpan;
-    PerLevel<Panel> pnlICC;
-    PerLevel<Panel> pnlWidth;
+    PerLevel<Cell> pnlICC;
+    PerLevel<Cell> pnlWidth;
     PerLevel<Panel> pnlExample;
-    PerLevel<bool> iccSpin, spanSpin;  ///< the cell has arrows
     Schematic picture;
     Panel pnlMsgOuter;
     Panel pnlMsgInner;
@@ -58,13 +67,12 @@ struct IccPanel {
 /// frmDisplayTauSq, the dispersion of the effect. Its values live in the study.
 struct TauSqPanel {
     Panel pnlTitle;
-    Panel lblUnit, lblTauSq, lblSpan, lblOmega, lblRange;
+    ColumnHead lblUnit, lblTauSq, lblSpan, lblOmega, lblRange;
     PerLevel<Panel> pnlUnit;
-    PerLevel<Panel> pnlTauSq;
-    PerLevel<Panel> pnlWidth;
-    PerLevel<Panel> pnlOmega;
+    PerLevel<Cell> pnlTauSq;
+    PerLevel<Cell> pnlWidth;
+    PerLevel<Cell> pnlOmega;
     PerLevel<Panel> pnlExample;
-    PerLevel<bool> tauSqSpin, spanSpin, omegaSpin;
     Schematic picture;
     Panel pnlMsgOuter;
     Panel pnlMsgInner;
