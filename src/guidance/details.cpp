@@ -63,7 +63,7 @@ Details::Details(Design& design) : design_(design) { rest(); }
 void Details::rest() {
     pnlCover_.Visible = true;
     pnlCover_.BackColor = restingPaper;
-    pnlCover_.Caption = "Click any item on the main screen\nto see details for that item";
+    pnlCover_.Caption = hint_.Caption + "\nto see details for that item";
     title_.Caption.clear();
     text_.Caption.clear();
     showTabs();
@@ -89,11 +89,11 @@ std::vector<std::string> Details::tabs() const {
     return names;
 }
 
+// An item without a text rests as well: what is shown must not be taken for it.
 void Details::fill() {
-    const Study& s = design_.study();
-    const auto text = textOf(s, item_, row_);
+    const auto text = textOf(design_.study(), item_, row_);
     if (!text)
-        return;
+        return rest();
     pnlCover_.Visible = false;
     title_.Caption = text->title;
     text_.Caption = joined(text->paragraphs, "\n\n");
@@ -106,14 +106,11 @@ void Details::refresh() {
         item_ = DetailItem::none;
         row_ = 0;
     }
-    if (item_ == DetailItem::none)
-        rest();
-    else
-        fill();
+    fill();
 }
 
 void Details::GetDetails(DetailItem item, int row) {
-    if (item != DetailItem::none && !textOf(design_.study(), item, row))
+    if (item == DetailItem::population)
         return;
     item_ = item;
     row_ = row;
@@ -156,6 +153,7 @@ void Details::registerNames(ControlRegistry& registry) const {
     }
     registry.add("frmDetails.tabDetails", [this]() -> ControlValue { return joined(tabs(), "|"); });
     registry.add("frmDetails.pnlCover", pnlCover_);
+    registry.add("frmDetails.Command1", close_);
     for (int level = lowestLevel; level <= highestLevel; ++level)
         registry.add(indexedName("frmDetails.tabDetails", level), tab(level));
 }

@@ -35,7 +35,7 @@ public:
     explicit Details(Design& design);
 
     /// Remembers item and row (a level, 0 for a whole column) and fills the window. An item that has no text
-    /// leaves the window as it was.
+    /// shows what is shown at rest; the population leaves the window as it was.
     void GetDetails(DetailItem item, int row);
 
     /// The details of a field, whether the window is open or not.
@@ -56,6 +56,8 @@ public:
     const Panel& text() const { return text_; }
     bool isAtRest() const { return pnlCover_.Visible; }
     const Panel& cover() const { return pnlCover_; }
+    const Panel& hint() const { return hint_; }
+    const Button& closeButton() const { return close_; }
     const Option& tab(int level) const { return tabDetails_(level); }
 
     /// The captions of the tabs, the top level first.
@@ -76,6 +78,8 @@ private:
     Panel text_;
     Panel yDesc_;  ///< the second text area; no item of this screen fills it
     Panel pnlCover_;
+    Panel hint_{"Click any item on the main screen"};  ///< below a text
+    Button close_{"Close"};
     PerLevel<Option> tabDetails_;
 };
 

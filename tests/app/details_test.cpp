@@ -55,7 +55,7 @@ TEST_F(DetailsWindow, EveryCellOfEveryLevelAnswersByItsItem) {
             EXPECT_EQ(app.details().currentTab(), level);
         }
         for (const char* panel : without)
-            EXPECT_EQ(after(indexedName(panel, level)), unitsOf[level]) << panel;
+            EXPECT_EQ(after(indexedName(panel, level)), "") << panel;
         EXPECT_EQ(after(indexedName("pnlName", level)), "Number of levels in the study design");
     }
 }
@@ -63,18 +63,18 @@ TEST_F(DetailsWindow, EveryCellOfEveryLevelAnswersByItsItem) {
 TEST_F(DetailsWindow, EveryColumnAnswersByItsItemAndOpensFromItsMenu) {
     const std::pair<const char*, const char*> columns[] = {
         {"colLevels", "Number of levels in the study design"},
-        {"colBlocked", "Number of levels in the study design"},
+        {"colBlocked", ""},
         {"colUnits", "Number of units"},
         {"colReplicates", "Number of units"},
-        {"colICC", "Number of units"},
-        {"colMSpan", "Number of units"},
+        {"colICC", ""},
+        {"colMSpan", ""},
         {"colES", "Standardized mean difference, d (total)"},
-        {"colTauSq", "Standardized mean difference, d (total)"},
-        {"colDSpan", "Standardized mean difference, d (total)"},
-        {"colOmega", "Standardized mean difference, d (total)"},
-        {"colModel", "Standardized mean difference, d (total)"},
-        {"colRsq", "Standardized mean difference, d (total)"},
-        {"colCost", "Standardized mean difference, d (total)"}};
+        {"colTauSq", ""},
+        {"colDSpan", ""},
+        {"colOmega", ""},
+        {"colModel", ""},
+        {"colRsq", ""},
+        {"colCost", ""}};
     for (const auto& [column, wanted] : columns)
         EXPECT_EQ(after(column), wanted) << column;
     for (const char* cell : {"pnlD", "pnlMean", "pnlSD", "pnlPrev", "pnlP2", "pnlOR", "pnlRR", "pnlRD"}) {
@@ -183,15 +183,21 @@ TEST_F(DetailsWindow, EffectsWithoutATestTellNoRiskDifferenceThatIsNotTheirs) {
     EXPECT_FALSE(says("risk difference of 0.00")) << words();
 }
 
-TEST_F(DetailsWindow, AClickWithoutATextLeavesTextTabsAndTheirUse) {
+// The text of another item must not stand for one that has none.
+TEST_F(DetailsWindow, AnItemWithoutATextRestsAndThePopulationLeavesAll) {
     load({{"NumLevels", 3.0}});
     app.click("pnlNT(2)");
-    app.click("pnlICC(3)");
+    app.click("pnlPop(3)");
     EXPECT_EQ(title(), "Number of classes");
     EXPECT_EQ(app.details().currentTab(), 2);
+    app.click("pnlICC(3)");
+    EXPECT_TRUE(app.details().isAtRest());
     app.set(Values{{"txtNT(2)", 9.0}});
+    EXPECT_EQ(title() + words(), "") << "also when the study changes";
+    EXPECT_TRUE(app.details().tabs().empty());
+    app.click("pnlNT(2)");
+    EXPECT_FALSE(app.details().isAtRest());
     EXPECT_TRUE(says("9 classes in the Coached group")) << words();
-    EXPECT_EQ(after("frmDetails.tabDetails(1)"), "Number of pupils");
 }
 
 }  // namespace
