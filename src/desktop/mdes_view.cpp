@@ -4,17 +4,16 @@
 #include <QClipboard>
 #include <QGuiApplication>
 #include <QHBoxLayout>
-#include <QLabel>
 #include <QShortcut>
 #include <QStyle>
 #include <QVBoxLayout>
 
 #include "desktop/kit/card.h"
 #include "desktop/kit/copy_key.h"
-#include "desktop/kit/number_label.h"
+#include "desktop/kit/fitted_line.h"
 #include "desktop/kit/push_button.h"
-#include "desktop/kit/text_style.h"
-#include "desktop/kit/theme.h"
+#include "desktop/kit/wrapped_label.h"
+#include "desktop/kit/zoom.h"
 
 namespace lorvane::desktop {
 
@@ -26,7 +25,6 @@ constexpr int bandPadding = 20;
 constexpr int spaceOverFigure = 16;
 constexpr int spaceOverLines = 24;
 constexpr int spaceOverNote = 8;
-constexpr int lineWidth = panelWidth - 2 * padding - 2 * bandPadding;
 constexpr const char* computeButton = "frmMDES.cmdComputeMDES";
 constexpr const char* closeButton = "frmMDES.cmdMDESClose";
 
@@ -44,26 +42,20 @@ constexpr StateLook looks[] = {
     {CardTone::Problem, TextStyle::BodyMedium, true},
 };
 
-QLabel* line() {
-    auto* label = new QLabel;
-    label->setFont(textFont(TextStyle::Body));
-    label->setWordWrap(true);
-    label->setFixedWidth(lineWidth);
+WrappedLabel* line() {
+    auto* label = new WrappedLabel;
+    setTextStyle(*label, TextStyle::Body);
     label->setTextInteractionFlags(Qt::TextSelectableByMouse);
     return label;
 }
 
-// Word-wrapped labels ask for too little height when a window is fitted to them.
-void setLine(QLabel* label, const std::string& text) {
-    label->ensurePolished();
+void setLine(WrappedLabel* label, const std::string& text) {
     label->setText(shownText(text));
-    if (!text.empty())
-        label->setFixedHeight(label->heightForWidth(lineWidth));
     label->setVisible(!text.empty());
 }
 
 // The style sheet knows the colour of a second line.
-void setSecond(QLabel* label, bool second) {
+void setSecond(WrappedLabel* label, bool second) {
     label->setProperty("second", second);
     label->style()->unpolish(label);
     label->style()->polish(label);
@@ -72,14 +64,17 @@ void setSecond(QLabel* label, bool second) {
 }  // namespace
 
 MdesView::MdesView(Desk& desk, ToolPanel* panel)
-    : PanelView(desk, panel, "frmMDES"), prompt_(new QLabel), band_(new Card(CardTone::Accent)),
-      figure_(new QWidget), figureName_(new NumberLabel(Qt::AlignLeft)),
-      figureNumber_(new NumberLabel(Qt::AlignLeft)), first_(line()), second_(line()), note_(line()) {
+    : PanelView(desk, panel, "frmMDES"), prompt_(new WrappedLabel), band_(new Card(CardTone::Accent)),
+      figure_(new FittedLine(
+          {.words = TextStyle::FigureWords, .number = TextStyle::Figure, .alignment = Qt::AlignLeft})),
+      first_(line()), second_(line()), note_(line()) {
     panel->setWindowTitle(shownText(windowTitle(WindowId::frmMDES)));
     panel->setAttribute(Qt::WA_ShowWithoutActivating, false);
     panel->content()->setContentsMargins(padding, 26, padding, 18);
-    prompt_->setFont(textFont(TextStyle::PanelHeading));
-    prompt_->setFixedWidth(panelWidth - 2 * padding);
+    setTextStyle(*prompt_, TextStyle::PanelHeading);
+    // What it would like to be wide; a dock may give it less.
+    panel->content()->addSpacerItem(
+        new QSpacerItem(panelWidth - 2 * padding, 0, QSizePolicy::Preferred, QSizePolicy::Fixed));
     panel->content()->addWidget(prompt_);
     panel->content()->addSpacing(22);
     panel->content()->addWidget(makeBand());
@@ -91,15 +86,6 @@ MdesView::MdesView(Desk& desk, ToolPanel* panel)
 }
 
 QWidget* MdesView::makeBand() {
-    figureName_->setTextStyle(TextStyle::FigureWords);
-    figureName_->setTextRole(Role::SecondText);
-    figureNumber_->setTextStyle(TextStyle::Figure);
-    auto* figure = new QHBoxLayout(figure_);
-    figure->setContentsMargins(0, 0, 0, 0);
-    figure->setSpacing(0);
-    figure->addWidget(figureName_);
-    figure->addWidget(figureNumber_);
-    figure->addStretch(1);
     auto* box = new QVBoxLayout(band_);
     box->setSpacing(4);
     box->addWidget(figure_);
@@ -148,12 +134,12 @@ void MdesView::sync() {
     prompt_->setText(shownText(model.prompt().Caption));
     band_->setTone(look.tone);
     band_->setVisible(model.state() != MdesWindow::State::resting);
-    figureName_->setText(shownText(model.figureWords()));
-    figureNumber_->setText(shownText(model.figureNumber().Caption));
+    figure_->setText(shownText(model.figureWords()), shownText(model.figureNumber().Caption));
     figure_->setVisible(model.hasFigure());
     const int above = model.hasFigure() ? spaceOverFigure : spaceOverLines;
-    band_->layout()->setContentsMargins(bandPadding, above, bandPadding, above);
-    first_->setFont(textFont(look.firstLine));
+    band_->layout()->setContentsMargins(zoomed(*band_, bandPadding), zoomed(*band_, above),
+                                        zoomed(*band_, bandPadding), zoomed(*band_, above));
+    setTextStyle(*first_, look.firstLine);
     setLine(first_, model.firstLine().Caption);
     setSecond(second_, look.quietSecondLine);
     setLine(second_, model.secondLine().Caption);

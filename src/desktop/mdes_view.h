@@ -3,12 +3,11 @@
 
 #include "desktop/panel_view.h"
 
-class QLabel;
-
 namespace lorvane::desktop {
 
 class Card;
-class NumberLabel;
+class FittedLine;
+class WrappedLabel;
 
 /// "frmMDES": Enter computes, Escape closes, and Ctrl+C copies the answer.
 class MdesView final : public PanelView {
@@ -26,14 +25,12 @@ private:
     void addShortcuts();
     void copy() const;
 
-    QLabel* prompt_;
+    WrappedLabel* prompt_;
     Card* band_;
-    QWidget* figure_;
-    NumberLabel* figureName_;
-    NumberLabel* figureNumber_;
-    QLabel* first_;
-    QLabel* second_;
-    QLabel* note_;
+    FittedLine* figure_;
+    WrappedLabel* first_;
+    WrappedLabel* second_;
+    WrappedLabel* note_;
     bool wasOpen_ = false;
 };
 

@@ -2,32 +2,37 @@
 #include "desktop/message_views.h"
 
 #include <QGridLayout>
-#include <QLabel>
-#include <QTabBar>
 #include <QVBoxLayout>
 
 #include "base/names.h"
-#include "desktop/kit/elided_label.h"
-#include "desktop/kit/icons.h"
+#include "desktop/kit/level_tabs.h"
+#include "desktop/kit/message_card.h"
+#include "desktop/kit/paragraph_view.h"
 #include "desktop/kit/plain_text.h"
-#include "desktop/kit/text_style.h"
+#include "desktop/kit/push_button.h"
+#include "desktop/kit/rest_sheet.h"
+#include "desktop/kit/rule.h"
 #include "desktop/kit/theme.h"
+#include "desktop/kit/wrapped_label.h"
+#include "desktop/kit/zoom.h"
 
 namespace lorvane::desktop {
 
 namespace {
 
-constexpr int problemWidth = 336;
-constexpr int detailsWidth = 340;
-constexpr int widestTabText = 90;
-constexpr int widestCount = 200;
+constexpr int panelWidth = 364;
+constexpr int padding = 22;
+constexpr QSize detailsSize{440, 400};
+constexpr QSize smallestDetails{340, 240};
 
-QLabel* styled(TextStyle style, int width = 0) {
-    auto* label = new QLabel;
-    label->setFont(textFont(style));
-    label->setWordWrap(width > 0);
-    if (width > 0)
-        label->setFixedWidth(width);
+// What a panel would like to be wide; a dock may give it less.
+void preferWidth(QVBoxLayout* column, int width) {
+    column->addSpacerItem(new QSpacerItem(width, 0, QSizePolicy::Preferred, QSizePolicy::Fixed));
+}
+
+WrappedLabel* styled(TextStyle style) {
+    auto* label = new WrappedLabel;
+    setTextStyle(*label, style);
     return label;
 }
 
@@ -50,11 +55,12 @@ void showTrouble(QLabel* label, bool trouble) {
 ProblemView::ProblemView(Desk& desk, ToolPanel* panel, const std::string& name, WindowId window,
                          const Panel& title, const Panel& text)
     : PanelView(desk, panel, name), window_(window), titleModel_(title), textModel_(text),
-      title_(styled(TextStyle::PanelHeading, problemWidth)), text_(styled(TextStyle::Body, problemWidth)) {
+      title_(styled(TextStyle::PanelHeading)), text_(new MessageCard) {
     panel->setWindowTitle(shownText(windowTitle(window)));
     panel->content()->setSpacing(10);
     panel->content()->addWidget(title_);
     panel->content()->addWidget(text_);
+    preferWidth(panel->content(), panelWidth);
 }
 
 bool ProblemView::isOpen() const { return desk_.design().isOpen(window_); }
@@ -72,36 +78,51 @@ CountsView::CountsView(Desk& desk, ToolPanel* panel) : PanelView(desk, panel, "f
     panel->content()->setSpacing(10);
     panel->content()->addWidget(addText(model.pnlTitle, TextStyle::PanelHeading));
     auto* grid = new QGridLayout;
-    grid->setHorizontalSpacing(20);
-    grid->setVerticalSpacing(6);
-    int line = 0;
-    for (const Panel* head : {&model.lblN, &model.lblRate, &model.lblMean, &model.lblPctBad})
-        grid->addWidget(addText(*head, TextStyle::Caption), ++line, 0);
+    grid->setHorizontalSpacing(8);
+    grid->setVerticalSpacing(8);
+    grid->setColumnStretch(0, 1);
+    addHeads(grid);
     for (int cell = 1; cell <= model.pnlA.last; ++cell)
         addCell(grid, cell);
     panel->content()->addLayout(grid);
+    preferWidth(panel->content(), panelWidth);
 }
 
 QLabel* CountsView::addText(const Panel& model, TextStyle style) {
-    texts_.push_back({new ElidedLabel(widestCount), &model});
-    texts_.back().label->setFont(textFont(style));
-    return texts_.back().label;
+    auto* label = styled(style);
+    // The columns have the widths that the grid gives them.
+    QSizePolicy policy = label->sizePolicy();
+    policy.setHorizontalPolicy(QSizePolicy::Ignored);
+    label->setSizePolicy(policy);
+    texts_.push_back({label, &model});
+    return label;
 }
 
-// A cell is a column, its head in the first line.
+void CountsView::addHeads(QGridLayout* grid) {
+    const CellCountsPanel& model = desk_.design().countsPanel();
+    const std::pair<const Panel*, int> heads[] = {
+        {&model.lblN, 66}, {&model.lblRate, 44}, {&model.lblMean, 56}, {&model.lblPctBad, 76}};
+    int column = 0;
+    for (const auto& [head, width] : heads) {
+        QLabel* label = addText(*head, TextStyle::CaptionStrong);
+        label->setProperty("second", true);
+        label->setAlignment(Qt::AlignRight | Qt::AlignBottom);
+        grid->setColumnMinimumWidth(++column, width);
+        grid->addWidget(label, 0, column);
+    }
+}
+
+// A cell is a row: its arm and outcome, and what is known of it.
 void CountsView::addCell(QGridLayout* grid, int cell) {
     const CellCountsPanel& model = desk_.design().countsPanel();
-    const Panel* const numbers[] = {&model.pnlN(CellCountsPanel::armOf(cell)), &model.pnlRate(cell),
-                                    &model.pnlMean(cell), &model.pnlPctBad(cell)};
-    int line = 0;
-    const auto add = [&](QLabel* label) {
+    grid->addWidget(addText(model.pnlA(cell), TextStyle::BodyMedium), cell, 0);
+    int column = 0;
+    for (const Panel* number : {&model.pnlN(CellCountsPanel::armOf(cell)), &model.pnlRate(cell),
+                                &model.pnlMean(cell), &model.pnlPctBad(cell)}) {
+        QLabel* label = addText(*number, TextStyle::Value);
         label->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
-        label->setMargin(3);
-        grid->addWidget(label, line++, cell);
-    };
-    add(addText(model.pnlA(cell), TextStyle::CaptionStrong));
-    for (const Panel* number : numbers)
-        add(addText(*number, TextStyle::Value));
+        grid->addWidget(label, cell, ++column);
+    }
 }
 
 bool CountsView::isOpen() const { return desk_.design().isOpen(WindowId::frmCounts); }
@@ -115,26 +136,42 @@ void CountsView::sync() {
 }
 
 DetailsView::DetailsView(Desk& desk, ToolPanel* panel)
-    : PanelView(desk, panel, "frmDetails"), tabs_(new QTabBar),
-      title_(styled(TextStyle::Heading, detailsWidth)), text_(styled(TextStyle::Body, detailsWidth)),
-      rest_(styled(TextStyle::Body, detailsWidth)) {
+    : PanelView(desk, panel, "frmDetails"), text_(new QWidget), tabs_(new LevelTabs), tabRule_(new Rule),
+      title_(styled(TextStyle::Heading)), paragraphs_(new ParagraphView), hint_(styled(TextStyle::Caption)),
+      close_(plainButton(QString())), rest_(new RestSheet) {
     panel->setWindowTitle(shownText(windowTitle(WindowId::frmDetails)));
-    tabs_->setDrawBase(false);
-    tabs_->setExpanding(false);
-    tabs_->setUsesScrollButtons(false);
-    tabs_->setElideMode(Qt::ElideRight);
-    tabs_->setFixedWidth(detailsWidth);
-    text_->setTextInteractionFlags(Qt::TextSelectableByMouse);
-    rest_->setMargin(14);
-    rest_->setAutoFillBackground(true);
-    for (QWidget* widget : {static_cast<QWidget*>(tabs_), static_cast<QWidget*>(title_),
-                            static_cast<QWidget*>(text_), static_cast<QWidget*>(rest_)})
-        panel->content()->addWidget(widget);
-    panel->content()->setSpacing(10);
+    panel->content()->setSizeConstraint(QLayout::SetDefaultConstraint);
+    panel->setMinimumSize(smallestDetails);
+    panel->resize(detailsSize);
+    panel->content()->addWidget(text_);
+    panel->content()->addWidget(rest_);
+    addText();
     connect(tabs_, &QTabBar::tabBarClicked, this, [this](int tab) {
         if (tab >= 0)
             desk_.click(indexedName("frmDetails.tabDetails", levels_[static_cast<std::size_t>(tab)]));
     });
+    connect(close_, &PushButton::clicked, this, [this] { desk_.click("frmDetails.Command1"); });
+}
+
+void DetailsView::addText() {
+    auto* column = new QVBoxLayout(text_);
+    column->setContentsMargins(0, 0, 0, 0);
+    column->setSpacing(0);
+    column->addWidget(tabs_);
+    column->addWidget(tabRule_);
+    column->addSpacing(18);
+    column->addWidget(title_);
+    column->addSpacing(6);
+    column->addWidget(paragraphs_, 1);
+    column->addWidget(new Rule);
+    auto* footer = new QHBoxLayout;
+    footer->setContentsMargins(0, 12, 0, 0);
+    footer->setSpacing(8);
+    hint_->setProperty("second", true);
+    close_->setMinimumWidth(84);
+    footer->addWidget(hint_, 1, Qt::AlignVCenter);
+    footer->addWidget(close_);
+    column->addLayout(footer);
 }
 
 bool DetailsView::isOpen() const { return desk_.design().isOpen(WindowId::frmDetails); }
@@ -150,11 +187,8 @@ void DetailsView::syncTabs() {
         const int tab = static_cast<int>(levels_.size());
         if (tab >= tabs_->count())
             tabs_->addTab(QString());
-        const QString name = shownText(model.Caption);
-        const QString fitting = tabs_->fontMetrics().elidedText(name, Qt::ElideRight, widestTabText);
-        tabs_->setTabText(tab, literalCaption(fitting));
-        tabs_->setAccessibleTabName(tab, name);
-        tabs_->setTabToolTip(tab, fitting == name ? QString() : name);
+        tabs_->setTabText(tab, literalCaption(shownText(model.Caption)));
+        tabs_->setAccessibleTabName(tab, shownText(model.Caption));
         current = model.Value ? tab : current;
         levels_.push_back(level);
     }
@@ -162,21 +196,32 @@ void DetailsView::syncTabs() {
         tabs_->removeTab(tabs_->count() - 1);
     tabs_->setCurrentIndex(current);
     tabs_->setVisible(!levels_.empty());
+    tabRule_->setVisible(!levels_.empty());
+}
+
+// At rest the sheet fills a window of its own; in a dock it keeps inside like all that stands there.
+void DetailsView::syncMargins(bool atRest) {
+    const bool floats = panel()->content()->parentWidget()->isWindow();
+    if (floats) {
+        const int margin = atRest ? 0 : padding;
+        panel()->content()->setContentsMargins(margin, margin, margin, margin);
+    }
+    rest_->setSquare(floats);
+    close_->setVisible(floats);
 }
 
 void DetailsView::sync() {
     const Details& details = desk_.application().details();
     syncTabs();
     title_->setText(shownText(details.title().Caption));
-    text_->setText(shownText(details.text().Caption));
+    paragraphs_->setParagraphs(shownText(details.text().Caption));
+    paragraphs_->setAccessibleName(title_->text());
+    hint_->setText(shownText(details.hint().Caption));
+    close_->setText(shownText(details.closeButton().Caption));
     rest_->setText(shownText(details.cover().Caption));
-    QPalette palette = rest_->palette();
-    palette.setColor(QPalette::Window, colour(Role::DetailsRest));
-    palette.setColor(QPalette::WindowText, colour(Role::DetailsRestText));
-    rest_->setPalette(palette);
-    title_->setVisible(!details.isAtRest());
     text_->setVisible(!details.isAtRest());
     rest_->setVisible(details.isAtRest());
+    syncMargins(details.isAtRest());
 }
 
 }  // namespace lorvane::desktop

@@ -8,11 +8,17 @@
 
 class QGridLayout;
 class QLabel;
-class QTabBar;
 
 namespace lorvane::desktop {
 
-/// A problem: title and text.
+class LevelTabs;
+class MessageCard;
+class ParagraphView;
+class PushButton;
+class RestSheet;
+class WrappedLabel;
+
+/// A problem: its title over a card with the text.
 class ProblemView final : public PanelView {
     Q_OBJECT
 
@@ -27,11 +33,11 @@ private:
     WindowId window_;
     const Panel& titleModel_;
     const Panel& textModel_;
-    QLabel* title_;
-    QLabel* text_;
+    WrappedLabel* title_;
+    MessageCard* text_;
 };
 
-/// The cell counts of a binary study.
+/// The cell counts of a binary study: a row a cell.
 class CountsView final : public PanelView {
     Q_OBJECT
 
@@ -43,16 +49,18 @@ public:
 
 private:
     struct Text {
-        QLabel* label;
+        WrappedLabel* label;
         const Panel* model;
     };
     QLabel* addText(const Panel& model, TextStyle style);
+    void addHeads(QGridLayout* grid);
     void addCell(QGridLayout* grid, int cell);
 
     std::vector<Text> texts_;
 };
 
-/// What the clicked item means.
+/// What the clicked item means: a tab a level, heading and paragraphs, or a yellow sheet at rest. Where it
+/// floats it has a button to close it.
 class DetailsView final : public PanelView {
     Q_OBJECT
 
@@ -63,13 +71,19 @@ public:
     void sync() override;
 
 private:
+    void addText();
     void syncTabs();
+    void syncMargins(bool atRest);
 
-    QTabBar* tabs_;
+    QWidget* text_;  ///< all but the sheet
+    LevelTabs* tabs_;
     std::vector<int> levels_;  ///< of the tabs
-    QLabel* title_;
-    QLabel* text_;
-    QLabel* rest_;
+    QWidget* tabRule_;
+    WrappedLabel* title_;
+    ParagraphView* paragraphs_;
+    WrappedLabel* hint_;
+    PushButton* close_;
+    RestSheet* rest_;
 };
 
 }  // namespace lorvane::desktop

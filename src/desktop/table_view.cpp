@@ -7,6 +7,12 @@
 
 namespace lorvane::desktop {
 
+namespace {
+
+constexpr QSize largest{900, 260};
+
+}  // namespace
+
 TableView::TableView(Desk& desk, ToolPanel* panel, const SmallDialogs::RawTable& model, const Grid& grid)
     : PanelView(desk, panel, model.name), model_(model), grid_(grid), table_(new QTableWidget) {
     panel->setWindowTitle(QString::fromUtf8(model.title));
@@ -15,7 +21,8 @@ TableView::TableView(Desk& desk, ToolPanel* panel, const SmallDialogs::RawTable&
     table_->setFrameShape(QFrame::NoFrame);
     table_->horizontalHeader()->hide();
     table_->verticalHeader()->hide();
-    table_->setFixedSize(900, 260);
+    table_->setSizeAdjustPolicy(QAbstractScrollArea::AdjustToContents);
+    table_->setMaximumSize(largest);
     panel->content()->addWidget(table_);
 }
 

@@ -102,7 +102,10 @@ protected:
     }
     void inspectShown(const QWidget& widget) {
         EXPECT_EQ(widget.whatsThis(), QString());
-        EXPECT_EQ(qobject_cast<const QTextEdit*>(&widget), nullptr);
+        if (const auto* text = qobject_cast<const QTextEdit*>(&widget)) {
+            EXPECT_TRUE(text->isReadOnly() && !text->acceptRichText());
+            hostile += text->toPlainText().contains(QLatin1String("R&D"));
+        }
         if (const auto* label = qobject_cast<const QLabel*>(&widget)) {
             EXPECT_EQ(label->textFormat(), Qt::PlainText) << label->text().toStdString();
             hostile += Qt::mightBeRichText(label->text()) || label->text().contains(QLatin1String("R&D"));
