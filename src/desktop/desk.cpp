@@ -19,11 +19,11 @@ void Desk::act(Event event) {
     try {
         event();
     } catch (const ArithmeticFault& fault) {
-        messages_.show({"The study cannot be computed", fault.what(), {Answer::OK}});
+        messages_.show(failureMessage("The study cannot be computed", fault.what()));
     } catch (const UseProblem& problem) {
-        messages_.show({"That is not available", problem.what(), {Answer::OK}});
+        messages_.show(failureMessage("That is not available", problem.what()));
     } catch (...) {
-        messages_.show({failureTitle, failureWords(), {Answer::OK}});
+        messages_.show(failureMessage(failureTitle, failureWords()));
     }
 }
 

@@ -6,6 +6,7 @@
 #include "desktop/crash_guard.h"
 #include "desktop/desk.h"
 #include "desktop/desk_application.h"
+#include "desktop/desk_message_boxes.h"
 #include "desktop/desk_progress.h"
 #include "desktop/kit/logo.h"
 #include "desktop/kit/theme.h"
@@ -17,12 +18,11 @@
 #include "os/unsaved_folder.h"
 #include "platform/failure_words.h"
 #include "qt/qt_chart.h"
-#include "qt/qt_document_press.h"
 #include "qt/qt_clipboard.h"
+#include "qt/qt_document_press.h"
 #include "qt/qt_file_dialogs.h"
 #include "qt/qt_hourglass.h"
 #include "qt/qt_locale.h"
-#include "qt/qt_message_boxes.h"
 #include "qt/qt_settings_store.h"
 #include "qt/qt_shell.h"
 #include "sheets/sheet_files.h"
@@ -41,7 +41,7 @@ int run(desktop::DeskApplication& qt, const QString& file) {
     NumericDistributionLibrary distributions;
     const QtLocale locale;
     DiskFileStore files;
-    QtMessageBoxes messages;
+    desktop::DeskMessageBoxes messages;
     QtFileDialogs dialogs;
     QtSettingsStore settings;
     UnsavedFolder unsaved(userStateFolder());
@@ -53,7 +53,8 @@ int run(desktop::DeskApplication& qt, const QString& file) {
     SheetFiles sheets;
     QtShell shell;
     Application application({distributions, locale, files, messages, dialogs, settings, programFolder(),
-                             &unsaved, &progress, &clipboard, nullptr, &hourglass, &chart, &sheets, &shell, &press});
+                             &unsaved, &progress, &clipboard, nullptr, &hourglass, &chart, &sheets, &shell,
+                             &press});
     desktop::Desk desk(application, messages);
     desktop::MainWindow window(desk);
     desktop::Panels panels(desk, window);
@@ -62,9 +63,8 @@ int run(desktop::DeskApplication& qt, const QString& file) {
     dialogs.setOwner(&window);
     dialogs.beforeShowing([&panels] { panels.follow(); });
     progress.setRedraw([&panels] { panels.follow(); });
-    qt.whenFailed([&messages](const std::string& words) {
-        messages.show({failureTitle, words, {Answer::OK}});
-    });
+    qt.whenFailed(
+        [&messages](const std::string& words) { messages.show(failureMessage(failureTitle, words)); });
     desktop::CrashGuard guard(desk, unsaved);
     window.show();
     desk.start(file);
@@ -81,7 +81,7 @@ int main(int argc, char** argv) {
     try {
         return run(qt, argc > 1 ? QFileInfo(QFile::decodeName(argv[1])).absoluteFilePath() : QString());
     } catch (...) {
-        QtMessageBoxes().show({failureTitle, failureWords(), {Answer::OK}});
+        desktop::DeskMessageBoxes().show(failureMessage(failureTitle, failureWords()));
         return 1;
     }
 }

@@ -60,12 +60,11 @@ std::optional<PictureFormats> pictureFormatOf(const std::string& path) {
 
 std::optional<SheetFormats> sheetFormatOf(const std::string& path) { return formatOf(sheetEndings, path); }
 
-Answer GraphFiles::ask(std::string title, std::string text, std::vector<MessageButton> buttons,
-                       std::optional<Answer> preset) {
+Answer GraphFiles::ask(const MessageBox& message) {
     const bool isOpen = design_.isOpen(WindowId::xPlot);
     if (isOpen)
         design_.SuspendForms(FormSet::graph);
-    const Answer answer = design_.ask(std::move(title), std::move(text), std::move(buttons), preset);
+    const Answer answer = design_.ask(message);
     if (isOpen)
         design_.RestoreForms(FormSet::graph);
     return answer;
@@ -89,10 +88,10 @@ std::string GraphFiles::save(const char* title, const std::string& path, Bytes b
     try {
         outside_.files.replace(path, bytes());
     } catch (const FileProblem& problem) {
-        ask(title, message == nullptr ? problem.what() : message);
+        ask(failureMessage(title, message == nullptr ? problem.what() : message));
         return problem.what();
     } catch (const std::runtime_error& problem) {
-        ask(title, problem.what());
+        ask(failureMessage(title, problem.what()));
         return problem.what();
     }
     return "";
@@ -159,7 +158,7 @@ std::optional<std::string> GraphFiles::GetFileNameRTF() {
         const auto path = choose(dialog);
         if (!path || !outside_.files.exists(*path))
             return path;
-        ask("File exists   ", "That file already exists.  Please enter another file name    ");
+        ask({"File exists   ", "That file already exists.  Please enter another file name    "});
     }
 }
 

@@ -41,8 +41,7 @@ public:
     std::string copyHeader(const std::vector<std::string>& texts);
 
     /// A message with its answer, while the windows of the graph make way.
-    Answer ask(std::string title, std::string text, std::vector<MessageButton> buttons = {Answer::OK},
-               std::optional<Answer> preset = {});
+    Answer ask(const MessageBox& message);
 
 private:
     template <typename Bytes>

@@ -124,7 +124,7 @@ bool GraphScreen::MakeGraph() {
 bool GraphScreen::passesChecks() {
     const Study& s = design_.study();
     if (!s.result.xValid) {
-        files_.ask(createGraph, "Please modify data and try again.             ");
+        files_.ask({createGraph, "Please modify data and try again.             "});
         return false;
     }
     if (!state_.XVar)
@@ -132,9 +132,10 @@ bool GraphScreen::passesChecks() {
     if (state_.LVar == state_.XVar)
         refuseSameVariable();
     if (lacksEffect() &&
-        files_.ask(createGraph,
-                   "You have not yet entered an effect size. Would you like to proceed anyway?       ",
-                   {Answer::Yes, Answer::No}, Answer::No) != Answer::Yes)
+        files_.ask({createGraph,
+                    "You have not yet entered an effect size. Would you like to proceed anyway?       ",
+                    {Answer::Yes, Answer::No},
+                    Answer::No}) != Answer::Yes)
         return false;
     rebind();
     replaceWhatIsNotOnOffer();
@@ -142,9 +143,9 @@ bool GraphScreen::passesChecks() {
 }
 
 void GraphScreen::refuseSameVariable() {
-    files_.ask("Please modify the series variable",
-               "Please click 'Series' on the menu and select 'None' or another variable.             \n"
-               "The Series variable cannot be the same as the X-axis variable.                    ");
+    files_.ask({"Please modify the series variable",
+                "Please click 'Series' on the menu and select 'None' or another variable.             \n"
+                "The Series variable cannot be the same as the X-axis variable.                    "});
     setL({});
 }
 
@@ -286,11 +287,11 @@ void GraphScreen::warnAboutCovariates(const GraphVariable& variable) {
     if (!lacksCovariates(s, variable))
         return;
     const std::string level = lowerCased(s.txtName(variable.level));
-    files_.ask("Compute power as a function of R-squared    ",
-               "You are trying to specify an R-squared value for " + level +
-                   " but there are no covariates at this level.               \n"
-                   "Please return to the main screen and modify the number of " +
-                   level + "-level covariates.           ");
+    files_.ask({"Compute power as a function of R-squared    ",
+                "You are trying to specify an R-squared value for " + level +
+                    " but there are no covariates at this level.               \n"
+                    "Please return to the main screen and modify the number of " +
+                    level + "-level covariates.           "});
 }
 
 void GraphScreen::tell(std::string text) { pnlStatus_.Caption = std::move(text); }

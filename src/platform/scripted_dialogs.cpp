@@ -1,25 +1,9 @@
 // Message boxes and file dialogs of a scripted session.
 #include "platform/scripted_dialogs.h"
 
-#include <algorithm>
 #include <utility>
 
 namespace lorvane {
-
-namespace {
-
-bool offers(const MessageBox& message, Answer answer) {
-    return std::any_of(message.buttons.begin(), message.buttons.end(),
-                       [&](const MessageButton& button) { return button.answer == answer; });
-}
-
-Answer safeAnswer(const MessageBox& message) {
-    if (message.buttons.size() == 1)
-        return message.buttons.front().answer;
-    return offers(message, Answer::Cancel) ? Answer::Cancel : Answer::No;
-}
-
-}  // namespace
 
 Answer ScriptedDialogs::show(const MessageBox& message) {
     Answer answer = safeAnswer(message);

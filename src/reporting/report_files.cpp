@@ -30,9 +30,8 @@ void ReportFiles::keepPanelsAway() {
         design_.SuspendForms(FormSet::main);
 }
 
-Answer ReportFiles::ask(std::string title, std::string text, std::vector<MessageButton> buttons,
-                        std::optional<Answer> preset) {
-    const Answer answer = design_.ask(std::move(title), std::move(text), std::move(buttons), preset);
+Answer ReportFiles::ask(const MessageBox& message) {
+    const Answer answer = design_.ask(message);
     keepPanelsAway();
     return answer;
 }
@@ -69,7 +68,7 @@ std::optional<std::string> ReportFiles::GetFileNamePDF() {
         const auto path = choose(dialog);
         if (!path || !outside_.files.exists(*path))
             return path;
-        ask("File exists   ", "That file already exists. Please enter another file name    ");
+        ask({"File exists   ", "That file already exists. Please enter another file name    "});
     }
 }
 
@@ -79,11 +78,12 @@ bool ReportFiles::write(const Document& report, const std::string& path, ReportM
     try {
         outside_.files.replace(path, reportBytes(report, format, outside_.press));
     } catch (const std::runtime_error&) {
-        ask("File was not saved                       ",
-            "File could not be saved. It is probably being used by another program                ");
+        ask(failureMessage(
+            "File was not saved                       ",
+            "File could not be saved. It is probably being used by another program                "));
         return false;
     }
-    ask("Report saved", "The file " + printable(path) + " has been saved.             ");
+    ask({"Report saved", "The file " + printable(path) + " has been saved.             "});
     return true;
 }
 
@@ -109,7 +109,7 @@ std::string ReportFiles::print(const Document& report, std::optional<int> page) 
     try {
         return outside_.press->print(report, page) ? "The report has been printed." : "";
     } catch (const std::runtime_error& problem) {
-        ask("Print", problem.what());
+        ask(failureMessage("Print", problem.what()));
         return problem.what();
     }
 }

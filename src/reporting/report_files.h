@@ -44,8 +44,7 @@ public:
     std::string print(const Document& report, std::optional<int> page);
 
     /// A message with its answer. While the viewer is open the panels stay away.
-    Answer ask(std::string title, std::string text, std::vector<MessageButton> buttons = {Answer::OK},
-               std::optional<Answer> preset = {});
+    Answer ask(const MessageBox& message);
 
 private:
     std::optional<std::string> choose(const FileDialog& dialog);

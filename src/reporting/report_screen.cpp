@@ -55,13 +55,14 @@ bool ReportScreen::ReportMake(const std::string& fileName, ReportModes mode, Eff
 
 bool ReportScreen::passesChecks(EffectQuestion question) {
     if (!design_.study().result.xValid) {
-        files_.ask(createReport, "Please modify data and try again.             ");
+        files_.ask({createReport, "Please modify data and try again.             "});
         return false;
     }
     return question == EffectQuestion::leaveOut || !lacksEffect() ||
-           files_.ask(createReport,
-                      "You have not yet entered an effect size. Would you like to proceed anyway?       ",
-                      {Answer::Yes, Answer::No}, Answer::No) == Answer::Yes;
+           files_.ask({createReport,
+                       "You have not yet entered an effect size. Would you like to proceed anyway?       ",
+                       {Answer::Yes, Answer::No},
+                       Answer::No}) == Answer::Yes;
 }
 
 bool ReportScreen::lacksEffect() const {

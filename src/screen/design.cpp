@@ -305,12 +305,16 @@ void Design::RestoreForms(FormSet set) {
         SynchForms(WindowId::Design, WindowAction::bringBack);
 }
 
-Answer Design::ask(std::string title, std::string text, std::vector<MessageButton> buttons,
-                   std::optional<Answer> preset) {
+Answer Design::ask(const MessageBox& message) {
     SuspendForms(FormSet::main);
-    const Answer answer = messages_.show({std::move(title), std::move(text), std::move(buttons), preset});
+    const Answer answer = messages_.show(message);
     RestoreForms(FormSet::main);
     return answer;
+}
+
+Answer Design::ask(std::string title, std::string text, std::vector<MessageButton> buttons,
+                   std::optional<Answer> preset) {
+    return ask({std::move(title), std::move(text), std::move(buttons), preset});
 }
 
 bool Design::closeRequest() {

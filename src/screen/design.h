@@ -106,6 +106,7 @@ public:
 
     /// Shows a message between SuspendForms and RestoreForms and returns the answer. Enter gives the preset
     /// one, or the first where there is none.
+    Answer ask(const MessageBox& message);
     Answer ask(std::string title, std::string text, std::vector<MessageButton> buttons = {Answer::OK},
                std::optional<Answer> preset = {});
 

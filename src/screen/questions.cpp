@@ -17,9 +17,11 @@ void askToApply(Design& design, WindowId window, const std::string& question,
 void askAndChangeDataType(Design& design, const EffectMetric& metric) {
     const bool clear =
         !NeedOk(design.study()) ||
-        design.ask("Clear values",
-                   "This will clear values for effect size, ICC, spans, covariates, and R-squared  ",
-                   {Answer::OK, Answer::Cancel}) == Answer::OK;
+        design.ask({"Clear values",
+                    "This will clear values for effect size, ICC, spans, covariates, and R-squared  ",
+                    {Answer::OK, Answer::Cancel},
+                    {},
+                    MessageKind::loss}) == Answer::OK;
     if (clear)
         changeDataType(design.session(), metric);
 }

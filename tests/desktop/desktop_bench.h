@@ -27,12 +27,13 @@
 
 namespace lorvane::desktop {
 
-/// Scripted answers, and a look at the screen before a question.
+/// Scripted answers or real boxes, and a look at the screen before a question.
 struct WatchedMessageBoxes final : MessageBoxes {
     Answer show(const MessageBox& message) override {
         beforeShowing();
-        return scripted.show(message);
+        return real == nullptr ? scripted.show(message) : real->show(message);
     }
+    MessageBoxes* real = nullptr;  ///< in place of the scripted ones
     ScriptedDialogs scripted;
     std::function<void()> beforeShowing = [] {};
 };

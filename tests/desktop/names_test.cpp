@@ -8,7 +8,6 @@
 #include <QAbstractItemView>
 #include <QDir>
 #include <QLabel>
-#include <QMessageBox>
 #include <QTabBar>
 #include <QTextEdit>
 #include <QTimer>
@@ -19,9 +18,10 @@
 #include <thread>
 
 #include "base/names.h"
+#include "desktop/desk_message_boxes.h"
+#include "desktop/kit/message_dialog.h"
 #include "desktop/kit/tool_panel.h"
 #include "desktop_bench.h"
-#include "qt/qt_message_boxes.h"
 
 namespace lorvane::desktop {
 namespace {
@@ -144,16 +144,16 @@ protected:
 
     /// The real boxes in place of the scripted ones.
     void inspectMessages() {
-        QtMessageBoxes boxes;
+        DeskMessageBoxes boxes;
         std::set<std::string> texts;
         for (const ScriptedDialogs::Shown& shown : messages.scripted.take()) {
             const auto* message = std::get_if<ScriptedDialogs::ShownMessage>(&shown);
-            if (message == nullptr || !texts.insert(message->message.text).second)
+            if (message == nullptr || kindOf(message->message) == MessageKind::formality ||
+                !texts.insert(message->message.text).second)
                 continue;
             QTimer::singleShot(0, &window, [this] {
-                auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
+                auto* box = qobject_cast<MessageDialog*>(QApplication::activeModalWidget());
                 box->grab();
-                box->setInformativeText(QString::fromStdString(picture));
                 inspect();
                 box->reject();
             });

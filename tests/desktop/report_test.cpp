@@ -6,10 +6,10 @@
 #include <QWheelEvent>
 #include <set>
 
+#include "desktop/desk_message_boxes.h"
 #include "desktop/kit/stressed_label.h"
 #include "desktop/report_pages.h"
 #include "desktop_bench.h"
-#include "qt/qt_message_boxes.h"
 
 namespace lorvane::desktop {
 namespace {
@@ -164,7 +164,7 @@ TEST_F(ReportWindow, TakesItsKeysForItself) {
 }
 
 TEST_F(ReportWindow, MessagesComeUpOverTheWindowInUse) {
-    QtMessageBoxes boxes;
+    DeskMessageBoxes boxes;
     boxes.setOwner(&window);
     const auto parentOfMessage = [&] {
         QWidget* parent = nullptr;

@@ -2,6 +2,7 @@
 // signs are too.
 #include "desktop/kit/kit_style.h"
 
+#include <QDialogButtonBox>
 #include <QPainter>
 #include <QStyleOption>
 
@@ -86,6 +87,16 @@ KitStyle::KitStyle() : QProxyStyle(QStringLiteral("Fusion")) {}
 void KitStyle::polish(QWidget* widget) {
     keepPlain(*widget);
     QProxyStyle::polish(widget);
+}
+
+int KitStyle::styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,
+                        QStyleHintReturn* result) const {
+    const int answer = QProxyStyle::styleHint(hint, option, widget, result);
+#ifndef Q_OS_WIN
+    if (hint == SH_DialogButtonLayout && answer == QDialogButtonBox::WinLayout)
+        return QDialogButtonBox::GnomeLayout;
+#endif
+    return answer;
 }
 
 int KitStyle::pixelMetric(PixelMetric metric, const QStyleOption* option, const QWidget* widget) const {

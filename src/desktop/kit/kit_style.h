@@ -18,6 +18,11 @@ public:
     using QProxyStyle::polish;
     void polish(QWidget* widget) override;
 
+    /// The order of buttons is that of the desktop; where there is no desktop, the primary one stands last,
+    /// as in the program's own dialogs.
+    int styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,
+                  QStyleHintReturn* result) const override;
+
     /// The size of the signs and their distance from the words, and their painting.
     int pixelMetric(PixelMetric metric, const QStyleOption* option, const QWidget* widget) const override;
     void drawPrimitive(PrimitiveElement element, const QStyleOption* option, QPainter* painter,
