@@ -69,7 +69,7 @@ void Application::registerPanels() {
     for (const auto& [name, window] : panels)
         events_.onClose(
             name, [this, window = window] { design_.SynchForms(window, WindowAction::withdrawForGood); });
-    events_.onClose("Design", [this] { design_.closeRequest(); });
+    events_.onClose("Design", [this] { studyFiles_.closeRequest(); });
     for (int level = lowestLevel; level <= highestLevel; ++level)
         events_.onClick(indexedName("chkMatch", level), [this, level] { toggleBlocked(session_, level); });
 }

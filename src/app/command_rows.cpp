@@ -134,7 +134,7 @@ const CommandRow commandTable[] = {
      "E&xit",
      "Close the program",
      file,
-     [](P p) { p.design.closeRequest(); },
+     [](P p) { p.files.closeRequest(); },
      nullptr,
      {Sign::none, false, "Ctrl+Q"}},
     // Edit

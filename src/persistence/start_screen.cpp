@@ -5,6 +5,7 @@
 #include <optional>
 
 #include "base/names.h"
+#include "persistence/unsaved_words.h"
 
 namespace lorvane {
 
@@ -14,12 +15,6 @@ constexpr const char* fileKind = "File";
 constexpr const char* moreFilesKind = "More files";
 constexpr const char* moreFiles = "More files ...";
 constexpr const char* marked = "1";
-
-// The name of a file without its folder and its last extension.
-std::string shownName(const std::string& path) {
-    const std::string name = path.substr(path.find_last_of("/\\") + 1);
-    return name.substr(0, name.find_last_of('.'));
-}
 
 }  // namespace
 
@@ -80,7 +75,7 @@ void StartScreen::open() {
 void StartScreen::LoadFiles() {
     flex_.rows = {{"", "", "", "", ""}, {"", "", "", moreFiles, moreFilesKind}};
     for (std::size_t i = 0; i < RecentFiles::rows && !recent_.path(i).empty(); ++i)
-        flex_.rows.push_back({"", marked, recent_.path(i), shownName(recent_.path(i)), fileKind});
+        flex_.rows.push_back({"", marked, recent_.path(i), fileStem(recent_.path(i)), fileKind});
     flex_.selected = {std::min(moreRow + 1, flex_.rows.size() - 1)};
 }
 

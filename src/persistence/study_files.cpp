@@ -3,7 +3,9 @@
 
 #include <utility>
 
+#include "base/utf8.h"
 #include "persistence/study_file.h"
+#include "persistence/unsaved_words.h"
 
 namespace lorvane {
 
@@ -60,19 +62,33 @@ bool StudyFiles::hasChanged(const std::string& path) const {
 }
 
 Answer StudyFiles::askAboutChange(const std::string& path) {
-    return design_.ask("The file has changed",
-                       "Another program has changed " + path +
-                           " since it was opened. Saving puts this study in its place. ",
-                       {{Answer::Yes, "Save anyway"}, {Answer::No, "Save as"}, Answer::Cancel}, Answer::No);
+    return design_.ask({"The file has changed",
+                        "Another program has changed " + path +
+                            " since it was opened. Saving puts this study in its place. ",
+                        {{Answer::Yes, "Save anyway"}, {Answer::No, "Save as"}, Answer::Cancel},
+                        Answer::No,
+                        MessageKind::loss});
 }
 
 // What can be done about a failed save; the study keeps its name and its changes.
 bool StudyFiles::askAfterFailure(const std::string& text) {
-    return design_.ask("File was not saved                       ", text,
-                       {{Answer::Yes, "Save as"}, Answer::Cancel}) == Answer::Yes &&
+    return design_.ask({"File was not saved                       ",
+                        text,
+                        {{Answer::Yes, "Save as"}, Answer::Cancel},
+                        {},
+                        MessageKind::failure}) == Answer::Yes &&
            FileSave(SaveMode::saveAs);
 }
 
+// The name that the study has, or its title where it has none yet.
+std::string StudyFiles::suggestedName() const {
+    const std::string& file = session_.currentFile();
+    const std::string name = file.empty() ? design_.screen().pnlTitle.Caption : fileStem(file);
+    return name + extension;
+}
+
+// A save under the name that the study has is told in the status line; a person who chose a name gets a
+// message.
 bool StudyFiles::FileSave(SaveMode mode) {
     std::string path = session_.currentFile();
     if (mode == SaveMode::save && hasChanged(path)) {
@@ -82,7 +98,8 @@ bool StudyFiles::FileSave(SaveMode mode) {
         mode = answer == Answer::No ? SaveMode::saveAs : mode;
     }
     if (mode == SaveMode::saveAs || path.empty()) {
-        const auto chosen = chooseFile({FileDialog::Kind::save, "Save file", filter, ""});
+        const auto chosen =
+            chooseFile({FileDialog::Kind::save, "Save file", filter, "", {}, true, suggestedName()});
         if (!chosen)
             return false;
         path = *chosen;
@@ -97,7 +114,11 @@ bool StudyFiles::FileSave(SaveMode mode) {
         return askAfterFailure(
             "File could not be saved. It is probably being used by another program                ");
     }
-    design_.ask("File saved", "The file " + path + " has been saved. ");
+    design_.tellStatus("Saved in " + printable(path.substr(path.find_last_of('/') + 1)) + ".");
+    MessageBox saved{"File saved", "The file " + path + " has been saved. "};
+    if (mode == SaveMode::save)
+        saved.kind = MessageKind::formality;
+    design_.ask(saved);
     return true;
 }
 
@@ -134,11 +155,31 @@ bool StudyFiles::OpenFile(const std::string& path) {
     }
 }
 
+// Asks whether the study may go. OK lets unsaved work go; on the screen it can be saved first. Where nothing
+// would be lost a person is not asked.
+bool StudyFiles::mayGo(std::string title, std::string text, Answer preset) {
+    MessageBox question{std::move(title), std::move(text), {Answer::OK, Answer::Cancel}, preset};
+    question.kind = session_.isAsSaved() ? MessageKind::formality : MessageKind::loss;
+    question.onScreen = {saveQuestion(session_),
+                         unsavedWords(session_),
+                         {{Answer::OK, "Don't save"}, Answer::Cancel, Answer::Save}};
+    const Answer answer = design_.ask(question);
+    return answer == Answer::OK || (answer == Answer::Save && FileSave(SaveMode::save));
+}
+
 bool StudyFiles::mayClear(Answer preset) {
     return !session_.isDirty() ||
-           design_.ask("Confirmation needed",
-                       "This will clear all data and saved scenarios. Ok to proceed?         ",
-                       {Answer::OK, Answer::Cancel}, preset) == Answer::OK;
+           mayGo("Confirmation needed",
+                 "This will clear all data and saved scenarios. Ok to proceed?         ", preset);
+}
+
+void StudyFiles::closeRequest() {
+    const bool dirty = session_.isDirty();
+    if (mayGo(dirty ? "Confirmation needed" : "Confirm exit",
+              dirty ? "This will clear all data and saved scenarios. Ok to exit?         "
+                    : "Ok to exit?                ",
+              Answer::Save))
+        design_.close();
 }
 
 void StudyFiles::askAndOpen(const std::string& path, Answer preset) {
@@ -152,7 +193,7 @@ void StudyFiles::noteOtherStudy() {
 }
 
 void StudyFiles::Clear() {
-    if (!mayClear(Answer::OK))
+    if (!mayClear(Answer::Save))
         return;
     design_.SuspendForms(FormSet::main);
     try {

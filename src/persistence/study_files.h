@@ -27,8 +27,8 @@ public:
     StudyFiles(const StudyFiles&) = delete;
     StudyFiles& operator=(const StudyFiles&) = delete;
 
-    /// Saves under the name that the study has, or asks for one; true when the file is written. A message
-    /// tells how it went; on a failure the study keeps its name and stays unsaved.
+    /// Saves under the name that the study has, or asks for one; true when the file is written. The status
+    /// line and a message tell how it went; on a failure the study keeps its name and stays unsaved.
     bool FileSave(SaveMode mode);
 
     /// Opens a file, asking for it when the path is empty; true when it is open. On Cancel and on a file that
@@ -40,15 +40,18 @@ public:
     void open(const std::string& path);
     void save(const std::string& path);
 
-    /// Asks whether unsaved work may go, and opens the file; an empty path asks for it. Enter gives the
+    /// Asks what becomes of unsaved work, and opens the file; an empty path asks for it. Enter gives the
     /// preset answer.
-    void askAndOpen(const std::string& path, Answer preset = Answer::OK);
+    void askAndOpen(const std::string& path, Answer preset = Answer::Save);
 
     /// Asks for a file to open; nothing on Cancel.
     std::optional<std::string> chooseFile(const FileDialog& dialog);
 
     /// Begins a new study, after a question where unsaved work would be lost.
     void Clear();
+
+    /// The close request of the screen: asks what becomes of unsaved work, and ends the program.
+    void closeRequest();
 
     /// The study as it would be saved now; nothing while it is as it was opened or saved. Changes nothing.
     std::optional<UnsavedStudy> unsavedStudy() const;
@@ -61,7 +64,9 @@ public:
     BroughtBack broughtBack() const noexcept { return broughtBack_; }
 
 private:
+    bool mayGo(std::string title, std::string text, Answer preset);
     bool mayClear(Answer preset);
+    std::string suggestedName() const;
     bool hasChanged(const std::string& path) const;
     Answer askAboutChange(const std::string& path);
     bool askAfterFailure(const std::string& text);

@@ -317,16 +317,6 @@ Answer Design::ask(std::string title, std::string text, std::vector<MessageButto
     return ask({std::move(title), std::move(text), std::move(buttons), preset});
 }
 
-bool Design::closeRequest() {
-    const bool dirty = session_.isDirty();
-    const Answer answer = ask(dirty ? "Confirmation needed" : "Confirm exit",
-                              dirty ? "This will clear all data and saved scenarios. Ok to exit?         "
-                                    : "Ok to exit?                ",
-                              {Answer::OK, Answer::Cancel});
-    closed_ = answer == Answer::OK;
-    return closed_;
-}
-
 void Design::ShowICC(bool show) {
     if (!show)
         SynchForms(frmDisplayICC, WindowAction::withdrawForGood);

@@ -110,8 +110,8 @@ public:
     Answer ask(std::string title, std::string text, std::vector<MessageButton> buttons = {Answer::OK},
                std::optional<Answer> preset = {});
 
-    /// The close request of the screen asks first; true when the program is to end.
-    bool closeRequest();
+    /// Ends the program. Whoever calls it has asked about unsaved work.
+    void close() noexcept { closed_ = true; }
     bool isClosed() const noexcept { return closed_; }
 
     /// Whether the study is saved, for the status line.

@@ -26,6 +26,16 @@ Moment History::redo(Moment present) {
     return std::move(step.moment);
 }
 
+std::optional<std::size_t> History::stepsTo(std::size_t revision) const {
+    for (const std::deque<Step>* steps : {&past_, &future_}) {
+        for (std::size_t i = 0; i < steps->size(); ++i) {
+            if ((*steps)[i].moment.revision == revision)
+                return steps->size() - i;
+        }
+    }
+    return std::nullopt;
+}
+
 void History::clear() {
     past_.clear();
     future_.clear();

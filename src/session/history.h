@@ -3,6 +3,7 @@
 
 #include <cstddef>
 #include <deque>
+#include <optional>
 #include <string>
 
 #include "session/computation.h"
@@ -37,6 +38,9 @@ public:
     const Moment& beforeLast() const { return past_.back().moment; }
 
     void clear();
+
+    /// Steps between the present and the state of a revision, before or after it; nothing when it is gone.
+    std::optional<std::size_t> stepsTo(std::size_t revision) const;
 
     std::size_t depth() const noexcept { return past_.size(); }
     bool canRedo() const noexcept { return !future_.empty(); }

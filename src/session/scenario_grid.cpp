@@ -2,6 +2,7 @@
 #include "session/scenario_grid.h"
 
 #include <algorithm>
+#include <set>
 #include <utility>
 
 namespace lorvane {
@@ -131,6 +132,13 @@ std::vector<std::size_t> ScenarioGrid::listed() const {
 
 bool ScenarioGrid::isSame(const ScenarioGrid& other) const noexcept {
     return list_ == other.list_ || *list_ == *other.list_;
+}
+
+std::size_t ScenarioGrid::countMissingIn(const ScenarioGrid& other) const {
+    const std::set<std::shared_ptr<const Scenario>> known(other.list_->begin(), other.list_->end());
+    const std::vector<std::size_t> places = listed();
+    return static_cast<std::size_t>(std::count_if(
+        places.begin(), places.end(), [&](std::size_t place) { return !known.contains((*list_)[place]); }));
 }
 
 Grid::Row ScenarioGrid::row(std::size_t number) const {

@@ -94,6 +94,9 @@ public:
     /// Whether both tables hold the very same scenarios.
     bool isSame(const ScenarioGrid& other) const noexcept;
 
+    /// How many of the listed scenarios another table does not hold.
+    std::size_t countMissingIn(const ScenarioGrid& other) const;
+
     /// A row of the table, the header being row 0: every cell up to the last one that holds something.
     Grid::Row row(std::size_t number) const;
 

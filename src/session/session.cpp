@@ -25,7 +25,8 @@ StudyFault::StudyFault(const ArithmeticFault& fault, const Study& study)
     : ArithmeticFault(fault.routine(), likelyCause(study)) {}
 
 Session::Session(DistributionLibrary& library, Currency systemCurrency, const Clock& clock)
-    : library_(library), systemCurrency_(std::move(systemCurrency)), clock_(clock), lastClick_(clock.now()) {
+    : library_(library), systemCurrency_(std::move(systemCurrency)), clock_(clock), lastClick_(clock.now()),
+      savedAt_(clock.dayAndTime()) {
     now_.state.settings.currency = systemCurrency_;
     compute();
 }
@@ -96,6 +97,8 @@ void Session::record(const Edit& edit, Moment before) {
         lent_.reset();
         run_.clear();
         now_.revision = ++lastRevision_;
+        savedScenarios_ = {};
+        savedAt_.clear();
         return;
     }
     const bool goesOn = continuesRun(edit.run);
@@ -202,7 +205,14 @@ bool Session::redo() {
 
 void Session::noteAsSaved() {
     savedRevision_ = now_.revision;
+    savedScenarios_ = scenarios();
+    savedAt_ = clock_.dayAndTime();
     run_.clear();
+}
+
+UnsavedWork Session::unsavedWork() const {
+    const auto steps = isAsSaved() ? std::optional<std::size_t>(0) : history_.stepsTo(savedRevision_);
+    return {steps, scenarios().countMissingIn(savedScenarios_), savedAt_, clock_.dayAndTime()};
 }
 
 void startAnew(SessionState& state) {

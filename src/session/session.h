@@ -47,6 +47,14 @@ struct Changed {
     bool otherStudy = false;  ///< nothing told of the study before may stay on display
 };
 
+/// What a file lacks of the study.
+struct UnsavedWork {
+    std::optional<std::size_t> steps;  ///< nothing when they are too many to know
+    std::size_t scenarios = 0;         ///< added or named anew; each was one of the steps
+    std::string since;                 ///< day and time of the last save or opening; empty when not known
+    std::string now;                   ///< day and time
+};
+
 class Session {
 public:
     Session(DistributionLibrary& library, Currency systemCurrency, const Clock& clock);
@@ -145,6 +153,9 @@ public:
     void noteAsSaved();
     bool isAsSaved() const noexcept { return now_.revision == savedRevision_; }
 
+    /// What was done since the study was as saved.
+    UnsavedWork unsavedWork() const;
+
     // Who hears of it ---------------------------------------------------------------------------------------
 
     /// Runs after every change, in the order of the calls.
@@ -177,6 +188,8 @@ private:
     std::size_t lastRevision_ = 0;
     std::size_t computations_ = 0;
     std::size_t savedRevision_ = 0;
+    ScenarioGrid savedScenarios_;
+    std::string savedAt_;
     std::string currentFile_;
     std::uint64_t fileContent_ = 0;
     bool dirty_ = false;

@@ -5,6 +5,7 @@
 
 #include "app_bench.h"
 #include "base/names.h"
+#include "persistence/unsaved_words.h"
 #include "session/answers.h"
 #include "session/field_book.h"
 
@@ -330,7 +331,9 @@ TEST(Arrows, ManyClicksAtOnceEndLikeManyClicks) {
 /// Time that a test moves on by hand.
 struct HandClock final : Clock {
     Time now() const override { return time; }
+    std::string dayAndTime() const override { return day + " 14:05"; }
     Time time{};
+    std::string day = "2026-11-23";
 };
 
 class History : public AppBench {
@@ -406,6 +409,26 @@ TEST_F(History, TheWayBackToTheSavedStateIsTheSavedState) {
     timed.open("study");
     EXPECT_EQ(depth(), 0);
     EXPECT_THROW(timed.tool("Redo"), UseProblem) << "a file begins a new history";
+}
+
+// Steps are counted from the saved state in either direction, and a scenario is not told as a change too.
+TEST_F(History, TheQuestionTellsHowMuchIsNotInTheFile) {
+    const auto words = [&] { return unsavedWords(timed.session()); };
+    timed.set(Values{{"txtd", 0.2}});
+    EXPECT_EQ(words(), "1 change since 14:05 is in no file.");
+    timed.tool("Add scenario");
+    EXPECT_EQ(words(), "1 change and 1 scenario since 14:05 are in no file.");
+    timed.save("/My trial.Lorvane");
+    EXPECT_EQ(saveQuestion(timed.session()), "Save the changes to “My trial”?");
+    timed.tool("Add scenario");
+    EXPECT_EQ(words(), "1 scenario since 14:05 is not in the file.");
+    timed.tool("Undo");
+    timed.tool("Undo");
+    clock.day = "2026-11-24";
+    EXPECT_EQ(words(), "1 change since 2026-11-23 14:05 is not in the file.") << "undone past the save";
+    for (int i = 0; i <= 200; ++i)
+        timed.set(Values{{"txtNT(1)", i + 20.0}});
+    EXPECT_EQ(words(), "The last changes since 2026-11-23 14:05 are not in the file.");
 }
 
 TEST_F(History, KeepsTwoHundredStepsAndTheDisplay) {

@@ -1,6 +1,9 @@
 // Questions and messages in their own boxes.
+#include <QLabel>
 #include <QPushButton>
 #include <QScreen>
+#include <QStatusBar>
+#include <QTemporaryDir>
 #include <QTimer>
 
 #include "desktop/desk_message_boxes.h"
@@ -51,9 +54,88 @@ protected:
         boxes.setOwner(&window);
         messages.real = &boxes;
     }
+    std::string local(const char* name) const {
+        return folder.filePath(QString::fromUtf8(name)).toStdString();
+    }
+    void saveAndChange() {
+        set({{"txtd", 0.7}, {"txtNT(2)", 5.0}});
+        application.save(local("Reading.Lorvane"));
+        set({{"txtd", 0.3}});
+        set({{"txtNT(2)", 9.0}});
+        application.tool("Add scenario");
+    }
+    double savedD(const char* name) {
+        Application other({distributions, locale, files, messages, messages.scripted, settings, "/program"});
+        other.open(local(name));
+        return other.session().study().txtd;
+    }
+    QString status() { return window.statusBar()->findChild<QLabel*>()->text(); }
 
     DeskMessageBoxes boxes;
+    QTemporaryDir folder;
 };
+
+TEST_F(Messages, UnsavedWorkIsSavedThrownAwayOrKeptByItsThreeButtons) {
+    struct Case {
+        QKeyCombination key;
+        bool goes;
+        double onDisk;
+    };
+    for (const char* way : {"Clear", "Exit"}) {
+        for (const Case& c : {Case{Qt::Key_Escape, false, 0.7},
+                              {Qt::ALT | Qt::Key_C, false, 0.7},
+                              {Qt::ALT | Qt::Key_D, true, 0.7},
+                              {Qt::Key_Return, true, 0.3}}) {
+            if (desk.design().isClosed())
+                continue;
+            saveAndChange();
+            Answers answers({c.key});
+            tool(way);
+            ASSERT_EQ(answers.headings, QStringList(QStringLiteral("Save the changes to “Reading”?")));
+            EXPECT_TRUE(answers.texts[0].contains(QLatin1String("data and saved scenarios. Ok to ")));
+            EXPECT_TRUE(answers.texts[0].contains(QLatin1String("2 changes and 1 scenario since ")));
+            EXPECT_EQ(answers.buttons.join(QLatin1Char('|')), QLatin1String("Don't save|Cancel|Save*"));
+            EXPECT_EQ(study().txtd == 0.3 && !desk.design().isClosed(), !c.goes);
+            EXPECT_EQ(savedD("Reading.Lorvane"), c.onDisk);
+        }
+    }
+    EXPECT_TRUE(desk.design().isClosed());
+}
+
+TEST_F(Messages, ASaveThatComesToNothingGoesBackToTheStudy) {
+    set({{"txtd", 0.4}});
+    for (const char* chosen : {"", "none/here.Lorvane"}) {
+        if (*chosen != '\0')
+            messages.scripted.queueFile(local(chosen));
+        Answers answers({Qt::Key_Return, Qt::Key_Escape});
+        closeByFrame(window);
+        EXPECT_EQ(answers.headings.size(), *chosen == '\0' ? 1 : 2) << "a failure is told";
+        EXPECT_TRUE(window.isVisible());
+        EXPECT_FALSE(desk.session().isAsSaved());
+        const auto shown = messages.scripted.take();
+        EXPECT_EQ(std::get<ScriptedDialogs::ShownFileDialog>(shown.at(0)).dialog.suggestedName,
+                  "Two-level hierarchical design.Lorvane");
+    }
+    messages.scripted.queueFile(local("Here.Lorvane"));
+    Answers answers({Qt::Key_Return});
+    closeByFrame(window);
+    EXPECT_FALSE(window.isVisible());
+    EXPECT_EQ(savedD("Here.Lorvane"), 0.4);
+}
+
+TEST_F(Messages, WithoutAChangeNothingIsAskedAndASaveIsToldBelow) {
+    Answers answers({});
+    set({{"txtd", 0.4}});
+    messages.scripted.queueFile(local("One.Lorvane"));
+    key(Qt::Key_S, Qt::ControlModifier);
+    EXPECT_EQ(status(), QStringLiteral("Saved in One.Lorvane."));
+    application.open(local("One.Lorvane"));
+    tool("Clear");
+    application.open(local("One.Lorvane"));
+    closeByFrame(window);
+    EXPECT_FALSE(window.isVisible());
+    EXPECT_TRUE(answers.headings.isEmpty()) << answers.headings.join(QLatin1Char('|')).toStdString();
+}
 
 TEST_F(Messages, ABoxFitsTheScreenAndLeavesWorkAloneByDefault) {
     const QRect screen = window.screen()->availableGeometry();

@@ -1,9 +1,9 @@
 #!/bin/sh
-# Runs the program on a virtual screen: a pointer presses an arrow, the keyboard answers the question at the
+# Runs the program on a virtual screen: a pointer presses an arrow, the keyboard saves at the question at the
 # end. Usage: smoke.sh PROGRAM STUDY
 set -eu
 program=$1
-study=$2
+original=$2
 limit=20
 began=$(date +%s%N)
 scratch=$(mktemp -d)
@@ -45,6 +45,10 @@ isAnswered() {
     isOver || { isFocused "^Confirm" && xdotool key Return && sleep 0.2 && isOver; }
 }
 
+# The study is saved at the end.
+study="$scratch/schools.Lorvane"
+cp "$original" "$study"
+
 # Same study, currency and colours on every machine, nothing of the user's; a display number that is free.
 export LSAN_OPTIONS="suppressions=$(dirname "$0")/leaks.txt"
 export XDG_CONFIG_HOME="$scratch/config" XDG_STATE_HOME="$scratch/state"
@@ -76,6 +80,7 @@ code=0
 wait "$running" || code=$?
 running=
 [ "$code" -eq 0 ] || fail "exit code $code"
+! cmp -s "$original" "$study" || fail "nothing was saved"
 took=$(since "$began")
 echo "smoke: window after $shown ms, $memory MB resident, $took ms in all"
 [ "$took" -lt $((limit * 1000)) ] || fail "slower than $limit s"

@@ -79,7 +79,7 @@ TEST_F(StudyFilesTest, AFailedSaveKeepsNameFileAndChange) {
     outside.files.full = false;
     app.tool("Save");
     EXPECT_EQ(onlyMessage(), "File saved|The file /kept has been saved. ");
-    EXPECT_EQ(text("pnlStatus.Caption"), "");
+    EXPECT_EQ(text("pnlStatus.Caption"), "Saved in kept.");
     EXPECT_FALSE(isDirty());
 }
 
