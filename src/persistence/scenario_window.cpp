@@ -8,6 +8,7 @@
 #include "base/letter_case.h"
 #include "base/names.h"
 #include "base/number_text.h"
+#include "base/utf8.h"
 #include "persistence/scenario_cells.h"
 #include "persistence/study_file.h"
 #include "screen/questions.h"
@@ -21,6 +22,7 @@ constexpr const char* descriptionBox = "frmScenariosName.txtScenariosDesc";
 constexpr std::size_t nameColumn = 1;
 constexpr std::size_t descriptionOfList = 2;
 constexpr std::size_t digitsOfNumber = 4;
+constexpr std::size_t longestShownName = 40;  // letters
 constexpr int largestNumber = 1000000000;
 constexpr Colour progressColour{0, 0, 125};
 const Grid::Row heads = {"", "Name", "Description", "Power", "Cost"};
@@ -31,6 +33,9 @@ std::string numbered(int number) {
     digits.insert(0, digitsOfNumber - std::min(digits.size(), digitsOfNumber), '0');
     return "Scenario " + digits;
 }
+
+// A name as the status line tells it.
+std::string shownName(const std::string& name) { return printable(cutInMiddle(name, longestShownName)); }
 
 }  // namespace
 
@@ -156,6 +161,7 @@ void ScenarioWindow::ScenariosAdd() {
     });
     const std::size_t row = vsNames_.rows.size() - 1;
     vsNames_.selected = {row};
+    design_.tellStatus("“" + numbered(number) + "” added.");
     ShowProgress(row, ProgressFlight::Direction::intoTable);
 }
 
@@ -190,7 +196,9 @@ void ScenarioWindow::ScenariosRestore() {
                              "Please click on a row to restore                "});
     if (!row)
         return;
+    const std::string name = vsNames_.rows[*row][nameColumn];
     restoreScenario(session_, placeOf(*row));
+    design_.tellStatus("“" + shownName(name) + "” restored. Ctrl+Z brings back what was there before.");
 }
 
 void ScenarioWindow::ScenariosDelete() {
@@ -206,8 +214,12 @@ void ScenarioWindow::ScenariosDelete() {
     }
     const std::string question =
         "Ok to delete " + std::to_string(selected.size()) + " rows?                 ";
-    if (selected.size() > 1 && design_.ask(title, question, {Answer::OK, Answer::Cancel}) != Answer::OK)
+    if (selected.size() > 1 &&
+        design_.ask({title, question, {Answer::OK, Answer::Cancel}, {}, MessageKind::loss}) != Answer::OK)
         return;
+    const std::string deleted = selected.size() == 1
+                                    ? "“" + shownName(vsNames_.rows[selected[0]][nameColumn]) + "” deleted."
+                                    : std::to_string(selected.size()) + " scenarios deleted.";
     std::vector<std::size_t> places;
     places.reserve(selected.size());
     const std::vector<std::size_t> listed = session_.scenarios().listed();
@@ -215,6 +227,7 @@ void ScenarioWindow::ScenariosDelete() {
         places.push_back(listed[row - 1]);
     session_.edit({selected.size() == 1 ? "deleted scenario" : "deleted scenarios", Reach::setting},
                   [&](SessionState& state) { state.scenarios.remove(places); });
+    design_.tellStatus(deleted + " Ctrl+Z brings " + (selected.size() == 1 ? "it" : "them") + " back.");
 }
 
 void ScenarioWindow::ScenariosEdit() {

@@ -8,6 +8,7 @@
 
 #include "desktop/desk_message_boxes.h"
 #include "desktop/kit/message_dialog.h"
+#include "desktop/kit/record_table.h"
 #include "desktop_bench.h"
 
 namespace lorvane::desktop {
@@ -160,6 +161,31 @@ TEST_F(Messages, ABoxFitsTheScreenAndLeavesWorkAloneByDefault) {
             (answers.buttons.join(QLatin1Char('|')) + QLatin1Char('|')).contains(QLatin1String(preset)));
         EXPECT_FALSE(answers.headings[0].endsWith(QLatin1Char(' ')));
     }
+}
+
+TEST_F(Messages, DeletedScenariosComeBackAndANewOneIsShownWhereItStands) {
+    tool("gfrmScenarios");
+    auto* table = panel("frmScenarios").findChild<RecordTable*>();
+    for (int i = 0; i < 30; ++i) {
+        set({{"txtNT(2)", 40.0 - i}});
+        tool("Add scenario");
+        table->sortByColumn(0, Qt::DescendingOrder);
+    }
+    EXPECT_EQ(status(), QStringLiteral("“Scenario 0030” added."));
+    EXPECT_EQ(table->selectedRows(), QList<int>{29});
+    EXPECT_TRUE(
+        table->viewport()->rect().intersects(table->visualRect(table->selectionModel()->selectedRows()[0])));
+    application.save(local("Thirty.Lorvane"));
+    desk.select("frmScenarios.vsNames", {3, 7});
+    Answers answers({Qt::ALT | Qt::Key_O});
+    desk.click("frmScenarios.cmdScenarios(2)");
+    EXPECT_EQ(answers.buttons.join(QLatin1Char('|')), QLatin1String("Cancel*|OK"));
+    EXPECT_EQ(status(), QStringLiteral("2 scenarios deleted. Ctrl+Z brings them back."));
+    EXPECT_EQ(application.scenarios().size(), 28u);
+    tool("Undo");
+    EXPECT_EQ(application.scenarios()[6].name, "Scenario 0007");
+    EXPECT_TRUE(desk.session().isAsSaved());
+    EXPECT_FALSE(desk.session().isDirty());
 }
 
 }  // namespace

@@ -8,9 +8,11 @@
 namespace lorvane {
 namespace {
 
-// The list of scenarios goes on whichever of them is restored, and a dialog keeps what it was opened with.
+// The list of scenarios goes on whichever of them is restored, a dialog keeps what it was opened with, and
+// the status line tells what was done.
 bool isOfSession(const std::string& name) {
-    return name == "ScenarioNumber" || name.starts_with("frmScenarios") || name.starts_with("frmLimits.txt");
+    return name == "ScenarioNumber" || name.starts_with("frmScenarios") ||
+           name.starts_with("frmLimits.txt") || name.starts_with("pnlStatus");
 }
 
 std::string firstDifference(const Application& application, const State& before) {
