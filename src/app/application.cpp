@@ -69,6 +69,8 @@ void Application::registerPanels() {
     for (const auto& [name, window] : panels)
         events_.onClose(
             name, [this, window = window] { design_.SynchForms(window, WindowAction::withdrawForGood); });
+    // What a card tells is gone with any event.
+    events_.onClick("cmdNotice", [] {});
     events_.onClose("Design", [this] { studyFiles_.closeRequest(); });
     for (int level = lowestLevel; level <= highestLevel; ++level)
         events_.onClick(indexedName("chkMatch", level), [this, level] { toggleBlocked(session_, level); });

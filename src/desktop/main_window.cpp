@@ -20,6 +20,7 @@
 
 #include "desktop/effect_strip.h"
 #include "desktop/kit/elided_label.h"
+#include "desktop/kit/notice_card.h"
 #include "desktop/kit/plain_text.h"
 #include "desktop/kit/text_style.h"
 #include "desktop/level_table.h"
@@ -73,6 +74,8 @@ MainWindow::MainWindow(Desk& desk) : desk_(desk), menus_(new Menus(desk, this)) 
     setCentralWidget(makeContent());
     hint_ = textLabel(TextStyle::Caption);
     saved_ = textLabel(TextStyle::Caption, widestSavedWords);
+    notice_ = new NoticeCard(centralWidget());
+    connect(notice_, &NoticeCard::closeRequested, this, [this] { desk_.click("cmdNotice"); });
     statusBar()->addWidget(hint_, 1);
     statusBar()->addPermanentWidget(saved_);
     statusBar()->setSizeGripEnabled(false);
@@ -159,6 +162,7 @@ void MainWindow::sync() {
     menus_->sync();
     saved_->setText(shownText(desk_.design().savedWords()));
     syncStatus();
+    syncNotice();
     chooseSize();
     focusFirstValue();
     if (desk_.design().isClosed())
@@ -188,6 +192,14 @@ void MainWindow::focusFirstValue() {
                 first->setFocus(Qt::OtherFocusReason);
         },
         Qt::QueuedConnection);
+}
+
+// The start screen shows the card itself while it is open.
+void MainWindow::syncNotice() {
+    const MainScreen& screen = desk_.design().screen();
+    notice_->setNotice(shownText(screen.pnlNoticeTitle.Caption), shownText(screen.pnlNotice.Caption),
+                       shownText(screen.cmdNotice.Caption));
+    notice_->setVisible(screen.pnlNotice.Visible && !desk_.design().isOpen(WindowId::frmStart));
 }
 
 // The rows get smaller as soon as they do not fit otherwise; smaller still, strip and table scroll.

@@ -16,6 +16,7 @@ namespace lorvane::desktop {
 class EffectStrip;
 class LevelTable;
 class Menus;
+class NoticeCard;
 class ResultCards;
 
 /// The window with the study. It closes only when the program has asked about unsaved work.
@@ -47,6 +48,7 @@ private:
     void addTitle(QVBoxLayout* column);
     void syncStatus();
     void focusFirstValue();
+    void syncNotice();
     void chooseSize();
 
     Desk& desk_;
@@ -56,6 +58,7 @@ private:
     QLabel* hint_ = nullptr;
     QLabel* saved_ = nullptr;
     int studyNumber_ = -1;
+    NoticeCard* notice_ = nullptr;
     QScrollArea* scroll_ = nullptr;
     EffectStrip* strip_ = nullptr;
     LevelTable* table_ = nullptr;

@@ -5,6 +5,7 @@
 #include <QVBoxLayout>
 
 #include "base/names.h"
+#include "desktop/kit/notice_card.h"
 #include "desktop/kit/start_page.h"
 
 namespace lorvane::desktop {
@@ -35,7 +36,7 @@ std::vector<FileEntry> filesOf(const StartScreen& model) {
 }  // namespace
 
 StartView::StartView(Desk& desk, ToolPanel* panel)
-    : PanelView(desk, panel, "frmStart"), page_(new StartPage) {
+    : PanelView(desk, panel, "frmStart"), page_(new StartPage), notice_(new NoticeCard(page_)) {
     panel->setWindowTitle(shownText(windowTitle(WindowId::frmStart)));
     panel->setAttribute(Qt::WA_ShowWithoutActivating, false);
     panel->content()->setContentsMargins(0, 0, 0, 0);
@@ -46,6 +47,7 @@ StartView::StartView(Desk& desk, ToolPanel* panel)
     connect(page_, &StartPage::fileChosen, this, [this](int file) {
         desk_.select(listName, {file == FileList::More ? StartScreen::moreRow : rowOf(file)});
     });
+    connect(notice_, &NoticeCard::closeRequested, this, [this] { desk_.click("cmdNotice"); });
     connect(page_, &StartPage::accepted, this, [this] { desk_.click("frmStart.cmdOK(0)"); });
     connect(page_, &StartPage::cancelled, this, [this] { desk_.click("frmStart.cmdOK(1)"); });
 }
@@ -71,6 +73,10 @@ void StartView::sync() {
     page_->setFiles(shownText(model.pnlFiles().Caption),
                     shownText(flex.rows[StartScreen::moreRow][StartScreen::textColumn]), filesOf(model));
     page_->setChoice(model.StartChoice());
+    const MainScreen& screen = desk_.design().screen();
+    notice_->setNotice(shownText(screen.pnlNoticeTitle.Caption), shownText(screen.pnlNotice.Caption),
+                       shownText(screen.cmdNotice.Caption));
+    notice_->setVisible(screen.pnlNotice.Visible);
     if (!flex.selected.empty())
         page_->setCurrentFile(static_cast<int>(flex.selected.front()) - static_cast<int>(rowOf(0)));
     const bool opened = isOpen() && !wasOpen_;

@@ -5,6 +5,7 @@
 
 namespace lorvane::desktop {
 
+class NoticeCard;
 class StartPage;
 
 /// "frmStart": two choices and the recent files.
@@ -21,6 +22,7 @@ private:
     void addTexts();
 
     StartPage* page_;
+    NoticeCard* notice_;
     bool wasOpen_ = false;
 };
 

@@ -122,12 +122,17 @@ std::string StartScreen::chosenPath() {
     return studies_.chooseFile(dialog).value_or("");
 }
 
+// Why a file cannot be opened is told on a card over the screen.
 void StartScreen::tryToOpen(const std::string& path) {
     if (studies_.OpenFile(path)) {
         closeScreen();
         return;
     }
-    design_.ask(" File not opened ", "Sorry, that file could not be opened         ");
+    design_.ask({" File not opened ",
+                 "Sorry, that file could not be opened         ",
+                 {Answer::OK},
+                 {},
+                 MessageKind::formality});
     design_.SynchForms(WindowId::frmStart, WindowAction::bringBack);
 }
 

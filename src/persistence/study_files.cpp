@@ -150,7 +150,7 @@ bool StudyFiles::OpenFile(const std::string& path) {
         open(chosen);
         return true;
     } catch (const FileProblem& problem) {
-        design_.tellStatus(problem.what());
+        design_.tellNotOpened(problem.what());
         return false;
     }
 }

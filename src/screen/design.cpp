@@ -52,6 +52,18 @@ Design::Design(Session& session, MessageBoxes& messages)
     show({Reach::anew, false, true});
 }
 
+void Design::tellStatus(std::string text) {
+    screen_.pnlStatus.Caption = std::move(text);
+    screen_.pnlNotice.Visible = screen_.pnlNoticeTitle.Visible = false;
+}
+
+void Design::tellNotOpened(const std::string& reason) {
+    screen_.pnlStatus.Caption = reason;
+    screen_.pnlNoticeTitle.Caption = "The file cannot be opened";
+    screen_.pnlNotice.Caption = reason + "\nThe study on the screen is as it was. Ctrl+O opens another file.";
+    screen_.pnlNotice.Visible = screen_.pnlNoticeTitle.Visible = true;
+}
+
 // Another study must not stand beside what was told of the one before.
 void Design::forgetModels() {
     screen_.reset();

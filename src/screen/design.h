@@ -58,8 +58,11 @@ public:
     }
     void clearOutline(int number) { screen_.outlines(number).Visible = false; }
 
-    /// What the status line tells of a file.
-    void tellStatus(std::string text) { screen_.pnlStatus.Caption = std::move(text); }
+    /// What the status line tells of what was done. The card of a file goes.
+    void tellStatus(std::string text);
+
+    /// Tells in the status line and on a card that a file cannot be opened, until the next event.
+    void tellNotOpened(const std::string& reason);
 
     /// Shows the diagnostic panel.
     void showDiagnostics() { screen_.pnlAI.Visible = true; }

@@ -126,7 +126,9 @@ void addPanels(ControlRegistry& registry, const MainScreen& s) {
                                                            {"pnlAlphaTails", &s.pnlAlphaTails},
                                                            {"pnlAI", &s.pnlAI},
                                                            {"SSPanel10", &s.SSPanel10},
-                                                           {"pnlStatus", &s.pnlStatus}};
+                                                           {"pnlStatus", &s.pnlStatus},
+                                                           {"pnlNoticeTitle", &s.pnlNoticeTitle},
+                                                           {"pnlNotice", &s.pnlNotice}};
     for (const auto& [name, panel] : panels)
         registry.add(name, *panel);
     for (const auto& [name, figure] : {std::pair{"pnlPower", &s.pnlPower}, {"pnlCost", &s.pnlCost}}) {

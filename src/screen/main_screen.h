@@ -131,7 +131,11 @@ struct MainScreen {
     Panel pnlAlphaTails;
     Panel pnlAI;      ///< diagnostic: the tau-squared values of a blocked study of means
     Panel SSPanel10;  ///< metric that a binary effect implies
-    Panel pnlStatus;  ///< why the last file could not be opened or saved; empty otherwise
+    Panel pnlStatus;  ///< what was done or failed last; empty otherwise
+
+    Panel pnlNoticeTitle{"", false};  ///< the card that tells why a file could not be opened
+    Panel pnlNotice{"", false};
+    Button cmdNotice{"Close"};
 
     PerLevel<Panel> BpnlLevel;  ///< the row as a whole
     PerLevel<Panel> pnlName;

@@ -1,4 +1,4 @@
-// Questions and messages in their own boxes.
+// Questions and messages in their own boxes, and the card of a file.
 #include <QLabel>
 #include <QPushButton>
 #include <QScreen>
@@ -8,6 +8,7 @@
 
 #include "desktop/desk_message_boxes.h"
 #include "desktop/kit/message_dialog.h"
+#include "desktop/kit/notice_card.h"
 #include "desktop/kit/record_table.h"
 #include "desktop_bench.h"
 
@@ -161,6 +162,36 @@ TEST_F(Messages, ABoxFitsTheScreenAndLeavesWorkAloneByDefault) {
             (answers.buttons.join(QLatin1Char('|')) + QLatin1Char('|')).contains(QLatin1String(preset)));
         EXPECT_FALSE(answers.headings[0].endsWith(QLatin1Char(' ')));
     }
+}
+
+TEST_F(Messages, AFileThatCannotBeOpenedIsToldOnACardUntilTheNextEvent) {
+    auto* card = window.findChild<NoticeCard*>();
+    cell("pnlNT(2)").setFocus();
+    const auto open = [&] { desk.askAndOpen(QString::fromStdString(local("none.Lorvane"))), settle(); };
+    open();
+    ASSERT_TRUE(card->isVisible());
+    EXPECT_TRUE(card->accessibleDescription().contains(QLatin1String("none.Lorvane\" cannot be read")));
+    EXPECT_TRUE(status().contains(QLatin1String("cannot be read")));
+    key(Qt::Key_Escape);
+    EXPECT_FALSE(card->isVisible());
+    EXPECT_TRUE(cell("pnlNT(2)").hasFocus());
+    open();
+    tool("Show power using digits");
+    EXPECT_FALSE(card->isVisible());
+
+    application.save(local("Gone.Lorvane"));
+    QFile::remove(QString::fromStdString(local("Gone.Lorvane")));
+    tool("gfrmOpenWizard");
+    panel("frmStart").activateWindow();
+    desk.click("frmStart.optStart(2)");
+    desk.click("frmStart.cmdOK(0)");
+    settle();
+    auto* over = panel("frmStart").findChild<NoticeCard*>();
+    EXPECT_TRUE(over->isVisible());
+    EXPECT_FALSE(card->isVisible());
+    key(Qt::Key_Escape);
+    EXPECT_FALSE(over->isVisible());
+    EXPECT_TRUE(isShown("frmStart")) << "the first Escape closes the card alone";
 }
 
 TEST_F(Messages, DeletedScenariosComeBackAndANewOneIsShownWhereItStands) {
