@@ -28,10 +28,15 @@ Application::Application(const Platform& platform)
              platform.progress == nullptr ? noProgress_ : *platform.progress, platform.hourglass),
       report_(design_, {platform.dialogs, platform.files,
                         platform.clipboard == nullptr ? noClipboard_ : *platform.clipboard, platform.press}),
+      about_(design_, platform.facts, platform.programFolder + "/LICENSE",
+             platform.clipboard == nullptr ? noClipboard_ : *platform.clipboard, platform.shell),
+      keyboard_(design_, platform.press),
       commands_(commandRows({session_, design_, dialogs_, details_, mdesWindow_, optimalWindow_,
                              scenarioWindow_, studyFiles_, startScreen_, graph_, report_,
-                             platform.clipboard == nullptr ? noClipboard_ : *platform.clipboard}),
+                             platform.clipboard == nullptr ? noClipboard_ : *platform.clipboard, about_,
+                             keyboard_}),
                 bandRows()) {
+    keyboard_.fill(commands_);
     session_.follow([this](const Changed& changed) { follow(changed); });
     registerNames();
     for (Part* part : parts_)

@@ -12,7 +12,9 @@
 #include "app/command_rows.h"
 #include "base/use_problem.h"
 #include "graphs/graph_screen.h"
+#include "guidance/about_window.h"
 #include "guidance/details.h"
+#include "guidance/keyboard_page.h"
 #include "persistence/scenario_list.h"
 #include "persistence/scenario_window.h"
 #include "persistence/start_screen.h"
@@ -28,6 +30,7 @@
 #include "platform/file_store.h"
 #include "platform/hourglass.h"
 #include "platform/message_boxes.h"
+#include "platform/program_facts.h"
 #include "platform/progress.h"
 #include "platform/settings_store.h"
 #include "platform/sheet.h"
@@ -64,6 +67,7 @@ struct Platform {
     SheetWriter* sheets = nullptr;    ///< none: tables cannot be saved
     Shell* shell = nullptr;           ///< none: nothing is opened after it was saved
     DocumentPress* press = nullptr;   ///< none: reports have no pages
+    ProgramFacts facts = {};
 };
 
 class Application {
@@ -146,6 +150,8 @@ public:
     const MdesWindow& mdesWindow() const noexcept { return mdesWindow_; }
     const GraphScreen& graph() const noexcept { return graph_; }
     const ReportScreen& report() const noexcept { return report_; }
+    const AboutWindow& about() const noexcept { return about_; }
+    const KeyboardPage& keyboard() const noexcept { return keyboard_; }
 
     const ControlRegistry& names() const noexcept { return names_; }
     std::vector<ScenarioLine> scenarios() const { return scenarioLines(session_.scenarios()); }
@@ -176,10 +182,12 @@ private:
     OptimalWindow optimalWindow_;
     GraphScreen graph_;
     ReportScreen report_;
+    AboutWindow about_;
+    KeyboardPage keyboard_;
 
     /// In the order in which they hear of a change.
-    std::vector<Part*> parts_ = {&dialogs_,        &mdesWindow_,  &optimalWindow_, &details_,
-                                 &scenarioWindow_, &startScreen_, &graph_,         &report_};
+    std::vector<Part*> parts_ = {&dialogs_,     &mdesWindow_, &optimalWindow_, &details_, &scenarioWindow_,
+                                 &startScreen_, &graph_,      &report_,        &about_,   &keyboard_};
     CommandBook commands_;
     ControlRegistry names_;
     EventRegistry events_;

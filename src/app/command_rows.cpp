@@ -88,12 +88,6 @@ void allowLowCellCounts(P p, bool allow) {
                    [&](SessionState& state) { state.settings.AllowLowCellCounts = allow; });
 }
 
-void about(P p) {
-    p.design.ask("About Lorvane",
-                 "Lorvane plans cluster-randomized trials: power and cost of designs of two to four "
-                 "levels.\n\nFree software under the GNU General Public License, version 3 or later.");
-}
-
 constexpr const char* noTest = "Such studies come from files and have no test";
 
 using enum WindowId;
@@ -401,7 +395,8 @@ const CommandRow commandTable[] = {
      isOpen<frmDetails>,
      {Sign::details, true}},
     {"Program manual", "&Program manual", "Open the manual", help},
-    {"About", "&About Lorvane", "Version and licence", help, about},
+    {"Keyboard", "&Keyboard", "All keys of the program", help, [](P p) { p.keyboard.open(); }},
+    {"About", "&About Lorvane", "Version and licence", help, [](P p) { p.about.open(); }},
     {"gDesign", "Study", "The study screen", window, nullptr, isOpen<WindowId::Design>},
     {"gfrmDisplayICC", "&ICC and range", "The picture of the ICC", window, open<frmDisplayICC>,
      isOpen<frmDisplayICC>},
@@ -743,7 +738,10 @@ std::vector<MenuRow> menuTable() {
          {"gfrmDisplayICC", "gfrmDisplayTauSq", "gfrmCounts", "gfrmProblems", "gfrmProblemES", "-",
           "gfrmScenarios", "gfrmOptimal", "gfrmMDES", "gxPlot", "gfrmTable", "-", "gfrmTips", "gfrmDetails",
           "gfrmOpenWizard"}},
-        {"popHelp", "&Help", menu, {"gfrmTips", "gfrmDetails", "-", "Program manual", "-", "About"}},
+        {"popHelp",
+         "&Help",
+         menu,
+         {"gfrmTips", "gfrmDetails", "-", "Program manual", "Keyboard", "-", "About"}},
         {"popSetPower",
          "Set power",
          submenu,

@@ -2,7 +2,9 @@
 #pragma once
 
 #include "graphs/graph_screen.h"
+#include "guidance/about_window.h"
 #include "guidance/details.h"
+#include "guidance/keyboard_page.h"
 #include "persistence/scenario_window.h"
 #include "persistence/start_screen.h"
 #include "persistence/study_files.h"
@@ -29,6 +31,8 @@ struct Program {
     GraphScreen& graph;
     ReportScreen& report;
     Clipboard& clipboard;
+    AboutWindow& about;
+    KeyboardPage& keyboard;
 };
 
 }  // namespace lorvane

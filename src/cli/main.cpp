@@ -157,6 +157,7 @@ int runDrive(const std::string& study, DistributionLibrary& distributions, const
     platform.chart = &chart;
     platform.sheets = &sheets;
     platform.press = &press;
+    platform.facts.version = LORVANE_VERSION;
     Application application(platform);
     if (study.empty())
         application.start("");

@@ -12,6 +12,7 @@
 #include "desktop/kit/theme.h"
 #include "desktop/main_window.h"
 #include "desktop/panels.h"
+#include "desktop/program_facts.h"
 #include "numerics/numeric_distribution_library.h"
 #include "os/disk_file_store.h"
 #include "os/program_folder.h"
@@ -54,7 +55,7 @@ int run(desktop::DeskApplication& qt, const QString& file) {
     QtShell shell;
     Application application({distributions, locale, files, messages, dialogs, settings, programFolder(),
                              &unsaved, &progress, &clipboard, nullptr, &hourglass, &chart, &sheets, &shell,
-                             &press});
+                             &press, desktop::programFacts()});
     desktop::Desk desk(application, messages);
     desktop::MainWindow window(desk);
     desktop::Panels panels(desk, window);

@@ -1,10 +1,12 @@
 // The floating windows of the study screen.
 #include "desktop/panels.h"
 
+#include "desktop/about_view.h"
 #include "desktop/dialog_views.h"
 #include "desktop/dispersion_views.h"
 #include "desktop/graph_table_view.h"
 #include "desktop/graph_view.h"
+#include "desktop/keyboard_view.h"
 #include "desktop/main_window.h"
 #include "desktop/mdes_view.h"
 #include "desktop/message_views.h"
@@ -78,6 +80,8 @@ void Panels::addScreens() {
     add<GraphView>(centre);
     add<GraphTableView>(clearSight);
     add<ReportViewer>(centre);
+    add<AboutView>(centre);
+    add<KeyboardView>(centre);
 }
 
 void Panels::addDialogs() {

@@ -77,6 +77,11 @@ const Tool* CommandBook::find(std::string_view key) const {
     return found == byKey_.end() ? nullptr : &tools_[found->second];
 }
 
+const Command* CommandBook::row(std::string_view key) const {
+    const auto found = place(key);
+    return found == byKey_.end() ? nullptr : &commands_[found->second];
+}
+
 const Band* CommandBook::band(std::string_view name) const {
     const auto found =
         std::find_if(bands_.begin(), bands_.end(), [&](const Band& band) { return band.Name == name; });

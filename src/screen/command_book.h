@@ -45,6 +45,9 @@ public:
     const Tool* find(std::string_view key) const;
     const Band* band(std::string_view name) const;
 
+    /// A command as its row tells it, not as it stands; null when there is none of that key.
+    const Command* row(std::string_view key) const;
+
     const std::vector<Tool>& tools() const noexcept { return tools_; }
     const std::vector<Band>& bands() const noexcept { return bands_; }
 

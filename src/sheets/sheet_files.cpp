@@ -1,6 +1,8 @@
 // The formats of spreadsheets.
 #include "sheets/sheet_files.h"
 
+#include <xlsxwriter.h>
+
 #include <stdexcept>
 
 #include "sheets/biff8.h"
@@ -8,6 +10,8 @@
 #include "sheets/xlsx.h"
 
 namespace lorvane {
+
+LibraryVersion libraryVersionOfSheets() { return {"libxlsxwriter", lxw_version()}; }
 
 std::string SheetFiles::write(const Sheet& sheet, SheetFormats format) {
     switch (format) {

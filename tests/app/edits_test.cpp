@@ -27,7 +27,7 @@ bool isOfSession(const std::string& name) {
                "frmOD",      "frmSpread",   "pic.",          "txtMaxCost",    "frmScenarios", "frmMDES",
                "frmOptimal", "frmStart",    "frmDetails",    "xValidOptimal", "xValidES",     "xValidModel",
                "xValidICC",  "xValidTauSq", "xValidOmega",   "xValidCost",    "Adjusteddf",   "MDES",
-               "pnlStatus",  "pnlNotice"});
+               "pnlStatus",  "pnlNotice",   "frmAbout",      "frmKeyboard"});
 }
 
 bool isOfDisplay(const std::string& name) {

@@ -1,4 +1,5 @@
-// Questions and messages in their own boxes, and the card of a file.
+// Questions and messages in their own boxes, the card of a file, About and the page of the keys.
+#include <QClipboard>
 #include <QLabel>
 #include <QPushButton>
 #include <QScreen>
@@ -7,6 +8,7 @@
 #include <QTimer>
 
 #include "desktop/desk_message_boxes.h"
+#include "desktop/kit/key_list.h"
 #include "desktop/kit/message_dialog.h"
 #include "desktop/kit/notice_card.h"
 #include "desktop/kit/record_table.h"
@@ -217,6 +219,30 @@ TEST_F(Messages, DeletedScenariosComeBackAndANewOneIsShownWhereItStands) {
     EXPECT_EQ(application.scenarios()[6].name, "Scenario 0007");
     EXPECT_TRUE(desk.session().isAsSaved());
     EXPECT_FALSE(desk.session().isDirty());
+}
+
+TEST_F(Messages, AboutAndTheKeysAreReachedFromHelp) {
+    tool("About");
+    ASSERT_TRUE(isShown("frmAbout"));
+    panel("frmAbout").findChild<QAbstractButton*>(QStringLiteral("cmdCite"))->click();
+    EXPECT_TRUE(QGuiApplication::clipboard()->text().startsWith(QLatin1String("Lorvane, version ")));
+    panel("frmAbout").activateWindow();
+    settle();
+    key(Qt::Key_Escape);
+    EXPECT_FALSE(isShown("frmAbout"));
+
+    tool("Keyboard");
+    ASSERT_TRUE(isShown("frmKeyboard"));
+    QString all;
+    for (const KeyList* list : panel("frmKeyboard").findChildren<KeyList*>())
+        all += list->accessibleName();
+    for (const Tool& tool : application.commands().tools()) {
+        const bool isOnPage = tool.shortcut.empty() || !application.commands().row(tool.Name)->run ||
+                              all.contains(shownText(tool.shortcut + ": " + tool.ToolTipText));
+        EXPECT_TRUE(isOnPage) << tool.Name;
+    }
+    desk.click("frmKeyboard.cmdPrint");
+    EXPECT_EQ(press.asked, 1);
 }
 
 }  // namespace
