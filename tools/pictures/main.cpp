@@ -5,12 +5,15 @@
 //
 // Commands: open STUDY, tool NAME, click CONTROL, spin CONTROL up|down, focus CELL, size W H, dark on|off,
 // value FIELD, type CONTROL TEXT, main NAME (picture of the main window), panel WINDOW NAME (of a floating
-// window), resize WINDOW W H, menu BAND NAME.
+// window), resize WINDOW W H, menu BAND NAME, ask TOOL NAME (of the box that a tool brings up; it is
+// cancelled).
 #include <QApplication>
+#include <QDialog>
 #include <QDir>
 #include <QMenu>
 #include <QPixmap>
 #include <QTextStream>
+#include <QTimer>
 #include <QWidget>
 #include <cstdio>
 #include <functional>
@@ -18,10 +21,12 @@
 #include <map>
 
 #include "desktop/desk.h"
+#include "desktop/desk_message_boxes.h"
 #include "desktop/kit/theme.h"
 #include "desktop/main_window.h"
 #include "desktop/menus.h"
 #include "desktop/panels.h"
+#include "desktop/program_facts.h"
 #include "numerics/numeric_distribution_library.h"
 #include "os/disk_file_store.h"
 #include "os/program_folder.h"
@@ -59,14 +64,46 @@ bool saveMenu(QMenu* menu, const QString& folder, const QString& name) {
     return saved;
 }
 
+// Scripted answers; where a picture is wanted, the real box.
+class PictureBoxes final : public MessageBoxes {
+public:
+    Answer show(const MessageBox& message) override {
+        if (name.isEmpty())
+            return scripted.show(message);
+        QTimer::singleShot(0, [this] {
+            auto* box = qobject_cast<QDialog*>(QApplication::activeModalWidget());
+            isSaved = save(box, folder, name);
+            box->reject();
+        });
+        return boxes.show(message);
+    }
+    ScriptedDialogs scripted;
+    desktop::DeskMessageBoxes boxes;
+    QString folder;
+    QString name;
+    bool isSaved = false;
+};
+
 struct Stage {
     desktop::Desk& desk;
     desktop::MainWindow& window;
     desktop::Panels& panels;
+    PictureBoxes& boxes;
     QString folder;
+
+    bool ask(const QString& tool, const QString& name);
 
     bool run(const QStringList& words, const QString& rest);
 };
+
+bool Stage::ask(const QString& tool, const QString& name) {
+    boxes.folder = folder;
+    boxes.name = name;
+    boxes.isSaved = false;
+    desk.tool(tool.toStdString());
+    boxes.name.clear();
+    return boxes.isSaved;
+}
 
 bool Stage::run(const QStringList& words, const QString& rest) {
     const QString& command = words[0];
@@ -97,6 +134,8 @@ bool Stage::run(const QStringList& words, const QString& rest) {
         return save(&window, folder, rest);
     else if (command == QLatin1String("panel"))
         return save(panels.panel(words[1]), folder, words[2]);
+    else if (command == QLatin1String("ask"))
+        return ask(words[1], words[2]);
     else if (command == QLatin1String("menu"))
         return saveMenu(window.menus().menu(words[1].toStdString()), folder, words[2]);
     else
@@ -119,18 +158,19 @@ int main(int argc, char** argv) {
     NumericDistributionLibrary distributions;
     const PictureLocale locale;
     DiskFileStore files;
-    ScriptedDialogs messages;
-    messages.queue(Answer::OK);
+    PictureBoxes messages;
+    messages.scripted.queue(Answer::OK);
     MemorySettings settings;
     QtDocumentPress press;
-    Application application({distributions, locale, files, messages, messages, settings, programFolder(),
-                             nullptr, nullptr, nullptr, nullptr, nullptr, nullptr, nullptr, nullptr, &press});
+    Application application({distributions, locale, files, messages, messages.scripted, settings,
+                             programFolder(), nullptr, nullptr, nullptr, nullptr, nullptr, nullptr, nullptr,
+                             nullptr, &press, desktop::programFacts()});
     desktop::Desk desk(application, messages);
     desktop::MainWindow window(desk);
     desktop::Panels panels(desk, window);
     window.show();
     window.activateWindow();
-    Stage stage{desk, window, panels, QString::fromLocal8Bit(argv[1])};
+    Stage stage{desk, window, panels, messages, QString::fromLocal8Bit(argv[1])};
     std::string line;
     while (std::getline(std::cin, line)) {
         const QString command = QString::fromStdString(line).trimmed();
