@@ -63,7 +63,7 @@ ProblemView::ProblemView(Desk& desk, ToolPanel* panel, const std::string& name, 
     preferWidth(panel->content(), panelWidth);
 }
 
-bool ProblemView::isOpen() const { return desk_.design().isOpen(window_); }
+bool ProblemView::isOpen() const { return desk_.design().problemIsDrawn(window_); }
 
 void ProblemView::sync() {
     paintText(title_, Role::ProblemText);

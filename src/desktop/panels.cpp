@@ -39,14 +39,16 @@ void Panels::add(FirstPlace place, More&&... more) {
         docks_.add(view, *row);
         view.setStage(docks_);
     } else {
-        view.setStage(place == FirstPlace::centre ? centred_ : clear_);
+        view.setStage(floating_[static_cast<std::size_t>(place)]);
     }
     ring_.add(view, docks_.dockOf(view));
 }
 
 Panels::Panels(Desk& desk, MainWindow& window)
     : desk_(desk), window_(window), docks_(window, [&desk] { return roomyMiddle(desk); }),
-      centred_(window, FirstPlace::centre), clear_(window, FirstPlace::clearSight), ring_(window) {
+      floating_{FloatingStage(window, FirstPlace::centre), FloatingStage(window, FirstPlace::besideCell),
+                FloatingStage(window, FirstPlace::clearSight)},
+      ring_(window) {
     addStudyPanels();
     addScreens();
     addDialogs();

@@ -40,8 +40,7 @@ private:
     Desk& desk_;
     MainWindow& window_;
     Docks docks_;
-    FloatingStage centred_;
-    FloatingStage clear_;
+    FloatingStage floating_[3];  ///< by FirstPlace
     FocusRing ring_;
     std::vector<std::unique_ptr<PanelView>> views_;
 };
