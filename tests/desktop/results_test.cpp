@@ -60,7 +60,7 @@ TEST_F(Results, TheCurveFollowsAnEditWithoutHoldingItUp) {
     EXPECT_EQ(present(), 6);
     EXPECT_EQ(state(), before);
     const QImage shown = plot().grab().toImage();
-    desk.tool("gfrmDetails");
+    desk.tool("Show cost using graph");
     settle();
     EXPECT_EQ(plot().grab().toImage(), shown);
 }

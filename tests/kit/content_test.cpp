@@ -17,6 +17,7 @@
 #include "desktop/kit/number_label.h"
 #include "desktop/kit/outline_overlay.h"
 #include "desktop/kit/push_button.h"
+#include "desktop/kit/share_rows.h"
 #include "desktop/kit/span_plot.h"
 #include "desktop/kit/stressed_label.h"
 #include "desktop/kit/text_field.h"
@@ -49,6 +50,7 @@ TEST_F(Content, SaysAndPaintsWhatItWasGivenLast) {
     ArmLabel arm(&window);
     MessageCard message(MessageCard::Kind::Problem, &window);
     SpanPlot spans(&window);
+    ShareRows shares(&window);
     struct Case {
         QWidget& widget;
         std::function<void()> change;
@@ -75,6 +77,11 @@ TEST_F(Content, SaysAndPaintsWhatItWasGivenLast) {
         {message, [&] { message.setText("Too few groups."); }, "Too few groups.", ""},
         {message, [&] { message.setKind(MessageCard::Kind::Quiet); }, "Too few groups.", ""},
         {spans, plot, "d = 0.5", "ICC 0.2 0.8, R2 0.2 0.8"},
+        {shares,
+         [&] {
+             shares.setRows({{"Schools", "30", "30 at $5", "$150", "100%", 1}});
+         },
+         "Schools: 30 at $5, $150, 100%", ""},
     };
     for (const Case& expected : cases) {
         QWidget& widget = expected.widget;

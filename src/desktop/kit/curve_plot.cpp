@@ -255,10 +255,10 @@ void CurvePlot::paintNumbers(QPainter& painter) const {
 void CurvePlot::paintLimit(QPainter& painter) const {
     const QRectF area = field();
     const double y = std::round(down(content_.limit)) + 0.5;
-    painter.setRenderHint(QPainter::Antialiasing, false);
-    painter.setPen(QPen(colour(Role::SecondText), 1, Qt::CustomDashLine));
-    QPen dashes = painter.pen();
+    QPen dashes(colour(Role::SecondText), devicePixelRatioF());
+    dashes.setCosmetic(true);
     dashes.setDashPattern({3, 3});
+    painter.setRenderHint(QPainter::Antialiasing, false);
     painter.setPen(dashes);
     painter.drawLine(QPointF(area.left(), y), QPointF(area.right(), y));
     painter.setFont(textFont(TextStyle::Mark));

@@ -26,6 +26,8 @@ constexpr double Margin = 22;
 
 constexpr double FigureLine = 4.5;
 constexpr double NoteLine = 33.5;
+constexpr double SmallFigureLine = 3;
+constexpr double SmallNoteLine = 25;
 constexpr double CheckSize = 16;
 constexpr double NoteAfterCheck = 22;
 
@@ -225,20 +227,22 @@ void FigureCard::resizeEvent(QResizeEvent* event) {
 
 void FigureCard::paint(QPainter& painter, const Figure& figure) const {
     const QRectF area = inner();
-    const double middle = this->middle();
+    const bool isSmall = figureSize() == SmallFigure;
+    const double figureLine = middle() + (isSmall ? SmallFigureLine : FigureLine);
+    const double noteLine = middle() + (isSmall ? SmallNoteLine : NoteLine);
     const FigureFonts fonts = fittedFonts(figure, figureSize(), area.width());
     painter.setFont(fonts.words);
     painter.setPen(colour(Role::SecondText));
-    painter.drawText(QPointF(area.left(), middle + FigureLine), figure.words);
+    painter.drawText(QPointF(area.left(), figureLine), figure.words);
     const double after = QFontMetricsF(fonts.words).horizontalAdvance(figure.words);
     painter.setFont(fonts.number);
     painter.setPen(colour(Role::Text));
-    drawNumber(painter, QPointF(area.left() + after, middle + FigureLine), figure.number);
+    drawNumber(painter, QPointF(area.left() + after, figureLine), figure.number);
 
     const double noteLeft = area.left() + (figure.checked ? NoteAfterCheck : 0);
     setPen(painter, TextStyle::Body, Role::SecondText);
-    drawElided(painter, QPointF(noteLeft, middle + NoteLine), figure.note, area.right() - noteLeft);
-    const QRectF check(area.left(), middle + NoteLine - CheckSize + 3, CheckSize, CheckSize);
+    drawElided(painter, QPointF(noteLeft, noteLine), figure.note, area.right() - noteLeft);
+    const QRectF check(area.left(), noteLine - CheckSize + 3, CheckSize, CheckSize);
     if (figure.checked)
         drawIcon(painter, Icon::Check, check, colour(Role::Accent));
 }
