@@ -30,8 +30,8 @@ ResultCards::ResultCards(Desk& desk, QWidget* parent)
     for (FigureCard* card : {power_, cost_})
         connect(card, &FigureCard::belowShown, this, &ResultCards::syncBelow);
     connect(&pauses_, &QTimer::timeout, this, &ResultCards::goOnWithCurve);
-    connect(plot_, &CurvePlot::focused, &desk_,
-            [this] { emit desk_.hinted(shownText(powerCurveHint(desk_.study()))); });
+    connect(plot_, &CurvePlot::focused, this,
+            [this] { plot_->setAccessibleDescription(shownText(powerCurveHint(desk_.study()))); });
     connect(plot_, &CurvePlot::chosen, &desk_, [this](int mark) {
         desk_.enterValue(topUnits(desk_.study()), plot_->content().marks[mark].number);
     });
