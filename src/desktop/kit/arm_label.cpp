@@ -10,6 +10,7 @@
 #include "desktop/kit/painting.h"
 #include "desktop/kit/text_style.h"
 #include "desktop/kit/theme.h"
+#include "desktop/kit/zoom.h"
 
 namespace lorvane::desktop {
 
@@ -18,6 +19,7 @@ namespace {
 constexpr double DotSize = 6;
 constexpr double DotCentre = 4;
 constexpr double NameAfterDot = 13;
+constexpr double LeastWord = 16;  ///< in less room the dot stands alone
 
 }  // namespace
 
@@ -39,8 +41,8 @@ void ArmLabel::setArm(Dot dot, const QString& name) {
 QSize ArmLabel::sizeHint() const {
     const QFontMetricsF metrics(textFont(TextStyle::Caption));
     const double left = dot_ == Dot::None ? 0 : NameAfterDot;
-    return {static_cast<int>(std::ceil(left + metrics.horizontalAdvance(name_))),
-            static_cast<int>(std::ceil(metrics.height()))};
+    return {zoomed(*this, std::ceil(left + metrics.horizontalAdvance(name_))),
+            zoomed(*this, std::ceil(metrics.height()))};
 }
 
 /// A name that is cut stands whole in the tip.
@@ -49,18 +51,21 @@ void ArmLabel::tellRest() { setToolTip(sizeHint().width() > width() ? name_ : QS
 void ArmLabel::resizeEvent(QResizeEvent*) { tellRest(); }
 
 void ArmLabel::paintEvent(QPaintEvent*) {
-    QPainter painter(this);
+    ZoomedPainter painter(*this);
+    const QRectF bounds = figureRect(*this);
     const QFont font = textFont(TextStyle::Caption);
     double left = 0;
     if (dot_ != Dot::None) {
         const Role role = dot_ == Dot::Treated ? Role::Treated : Role::Control;
-        drawDot(painter, QPointF(DotCentre, height() / 2.0 + 0.5), DotSize, colour(role));
+        drawDot(painter, QPointF(DotCentre, bounds.height() / 2 + 0.5), DotSize, colour(role));
         left = NameAfterDot;
     }
+    if (bounds.width() - left < LeastWord)
+        return;
     painter.setFont(font);
     painter.setPen(colour(isEnabled() ? Role::SecondText : Role::Quiet));
-    painter.drawText(QPointF(left, centredBaseline(font, QRectF(rect()))),
-                     QFontMetricsF(font).elidedText(name_, Qt::ElideRight, width() - left));
+    painter.drawText(QPointF(left, centredBaseline(font, bounds)),
+                     QFontMetricsF(font).elidedText(name_, Qt::ElideRight, bounds.width() - left));
 }
 
 }  // namespace lorvane::desktop

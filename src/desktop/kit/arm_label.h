@@ -7,7 +7,8 @@
 
 namespace lorvane::desktop {
 
-/// One line of caption text. The text is not cut, so the layout must give it the width it asks for.
+/// One line of caption text. Words that are too long for the width end in three dots, or leave the dot alone,
+/// and stand whole in the tip.
 class ArmLabel : public PaintedText {
     Q_OBJECT
 

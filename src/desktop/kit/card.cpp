@@ -5,6 +5,7 @@
 
 #include "desktop/kit/painting.h"
 #include "desktop/kit/theme.h"
+#include "desktop/kit/zoom.h"
 
 namespace lorvane::desktop {
 
@@ -40,8 +41,8 @@ void Card::setTone(CardTone tone) {
 }
 
 void Card::paintEvent(QPaintEvent*) {
-    QPainter painter(this);
-    paintCard(painter, QRectF(rect()), tone_);
+    ZoomedPainter painter(*this);
+    paintCard(painter, figureRect(*this), tone_);
 }
 
 }  // namespace lorvane::desktop

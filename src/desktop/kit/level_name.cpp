@@ -9,6 +9,7 @@
 
 #include "desktop/kit/text_style.h"
 #include "desktop/kit/theme.h"
+#include "desktop/kit/zoom.h"
 
 namespace lorvane::desktop {
 
@@ -41,10 +42,10 @@ void LevelName::setLevel(const QString& name, const QString& role, bool accented
 QSize LevelName::sizeHint() const {
     const double name = QFontMetricsF(textFont(TextStyle::LevelName)).horizontalAdvance(name_);
     const double role = QFontMetricsF(textFont(TextStyle::CaptionStrong)).horizontalAdvance(role_);
-    return {static_cast<int>(std::ceil(std::max(name, role))), Height};
+    return {zoomed(*this, std::ceil(std::max(name, role))), zoomed(*this, Height)};
 }
 
-QSize LevelName::minimumSizeHint() const { return {60, Height}; }
+QSize LevelName::minimumSizeHint() const { return {zoomed(*this, 60), zoomed(*this, Height)}; }
 
 /// A name that is cut stands whole in the tip.
 void LevelName::tellRest() { setToolTip(sizeHint().width() > width() ? name_ : QString()); }
@@ -52,13 +53,14 @@ void LevelName::tellRest() { setToolTip(sizeHint().width() > width() ? name_ : Q
 void LevelName::resizeEvent(QResizeEvent*) { tellRest(); }
 
 void LevelName::paintEvent(QPaintEvent*) {
-    QPainter painter(this);
-    const double middle = height() / 2.0;
+    ZoomedPainter painter(*this);
+    const QRectF bounds = figureRect(*this);
+    const double middle = bounds.height() / 2;
     const auto line = [&](const QFont& font, const QColor& pen, double baseline, const QString& text) {
         painter.setFont(font);
         painter.setPen(pen);
         painter.drawText(QPointF(0, middle + baseline),
-                         QFontMetricsF(font).elidedText(text, Qt::ElideRight, width()));
+                         QFontMetricsF(font).elidedText(text, Qt::ElideRight, bounds.width()));
     };
     line(textFont(TextStyle::LevelName), colour(Role::Text), NameLine, name_);
     line(textFont(accented_ ? TextStyle::CaptionStrong : TextStyle::Caption),

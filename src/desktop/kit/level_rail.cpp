@@ -9,6 +9,7 @@
 #include "desktop/kit/icons.h"
 #include "desktop/kit/painting.h"
 #include "desktop/kit/theme.h"
+#include "desktop/kit/zoom.h"
 
 namespace lorvane::desktop {
 
@@ -53,7 +54,7 @@ void LevelRail::setStops(const QList<Stop>& stops, const QList<int>& centres) {
     update();
 }
 
-QSize LevelRail::sizeHint() const { return {50, 86}; }
+QSize LevelRail::sizeHint() const { return {zoomed(*this, 50), zoomed(*this, 86)}; }
 
 void LevelRail::paintFork(QPainter& painter, double from, double to) const {
     const double start = from + clearanceOf(Stop::Randomized);
@@ -113,7 +114,7 @@ void LevelRail::paintStop(QPainter& painter, Stop stop, double y) const {
 }
 
 void LevelRail::paintEvent(QPaintEvent*) {
-    QPainter painter(this);
+    ZoomedPainter painter(*this);
     painter.setRenderHint(QPainter::Antialiasing);
     const qsizetype count = std::min(stops_.size(), centres_.size());
     for (qsizetype i = 0; i + 1 < count; ++i)

@@ -5,6 +5,8 @@
 #include <QList>
 #include <QWidget>
 
+#include "desktop/kit/zoom.h"
+
 namespace lorvane::desktop {
 
 /// A line leads down from stop to stop. Below the randomized level it parts into two, one for each arm.
@@ -17,8 +19,8 @@ public:
 
     explicit LevelRail(QWidget* parent = nullptr);
 
-    /// The roles from the top level down, and the height of the middle of each row in this widget's
-    /// coordinates. Where one list is longer, its rest is left out.
+    /// The roles from the top level down, and the height of the middle of each row in the
+    /// figures of 100 %. Where one list is longer, its rest is left out.
     void setStops(const QList<Stop>& stops, const QList<int>& centres);
 
     QSize sizeHint() const override;
@@ -31,7 +33,7 @@ private:
     void paintFork(QPainter& painter, double from, double to) const;
     void paintPair(QPainter& painter, double from, double to) const;
     void paintStop(QPainter& painter, Stop stop, double y) const;
-    double middle() const { return width() / 2.0; }
+    double middle() const { return figureRect(*this).width() / 2; }
 
     QList<Stop> stops_;
     QList<int> centres_;

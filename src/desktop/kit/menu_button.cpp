@@ -9,6 +9,7 @@
 #include "desktop/kit/painting.h"
 #include "desktop/kit/text_style.h"
 #include "desktop/kit/theme.h"
+#include "desktop/kit/zoom.h"
 
 namespace lorvane::desktop {
 
@@ -38,26 +39,27 @@ void MenuButton::setSign(Icon sign) {
 
 double MenuButton::textLeft() const { return Inset + (sign_ ? TextAfterSign : 0); }
 
-QSize MenuButton::sizeHint() const {
-    const double text = numberWidth(textFont(TextStyle::Value), this->text());
-    return {static_cast<int>(std::ceil(textLeft() + text + ChevronSpace + ChevronSize + Inset)), Height};
+QSize MenuButton::sizeWith(const QString& words) const {
+    const double text = numberWidth(textFont(TextStyle::Value), words);
+    return {zoomed(*this, std::ceil(textLeft() + text + ChevronSpace + ChevronSize + Inset)),
+            zoomed(*this, Height)};
 }
 
 void MenuButton::paintEvent(QPaintEvent*) {
-    QPainter painter(this);
-    const QRectF bounds(rect());
+    ZoomedPainter painter(*this);
+    const QRectF bounds = figureRect(*this);
     if (isEnabled() && (underMouse() || isDown()))
         fillPlate(painter, bounds, FieldRadius, colour(Role::Field));
     if (hasFocus())
         strokePlate(painter, bounds, FieldRadius, colour(Role::Accent), RingWidth);
     const QColor quiet = colour(isEnabled() ? Role::SecondText : Role::Quiet);
     if (sign_)
-        drawIcon(painter, *sign_, QRectF(Inset, (height() - SignSize) / 2, SignSize, SignSize), quiet);
+        drawIcon(painter, *sign_, QRectF(Inset, (bounds.height() - SignSize) / 2, SignSize, SignSize), quiet);
     painter.setFont(textFont(TextStyle::Value));
     painter.setPen(colour(isEnabled() ? Role::Text : Role::Quiet));
     drawNumber(painter, bounds.adjusted(textLeft(), 0, 0, 0), Qt::AlignLeft, text());
-    const QRectF chevron(width() - Inset - ChevronSize, (height() - ChevronSize) / 2, ChevronSize,
-                         ChevronSize);
+    const QRectF chevron(bounds.width() - Inset - ChevronSize, (bounds.height() - ChevronSize) / 2,
+                         ChevronSize, ChevronSize);
     drawIcon(painter, Icon::ChevronDown, chevron, quiet);
 }
 

@@ -20,7 +20,10 @@ public:
     /// A drawing before the text.
     void setSign(Icon sign);
 
-    QSize sizeHint() const override;
+    /// The size that it asks for with a text.
+    QSize sizeWith(const QString& text) const;
+
+    QSize sizeHint() const override { return sizeWith(text()); }
     QSize minimumSizeHint() const override { return sizeHint(); }
 
 protected:

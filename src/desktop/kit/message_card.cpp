@@ -3,6 +3,7 @@
 
 #include <cmath>
 
+#include <QEvent>
 #include <QFontMetricsF>
 #include <QPainter>
 
@@ -10,6 +11,7 @@
 #include "desktop/kit/icons.h"
 #include "desktop/kit/text_style.h"
 #include "desktop/kit/theme.h"
+#include "desktop/kit/zoom.h"
 
 namespace lorvane::desktop {
 
@@ -72,23 +74,35 @@ QRectF MessageCard::textArea(double width) const {
     return {space.topLeft(), QFontMetricsF(font()).boundingRect(space, Qt::TextWordWrap, text_).size()};
 }
 
-QSize MessageCard::sizeHint() const { return {PreferredWidth, heightForWidth(PreferredWidth)}; }
+QSize MessageCard::sizeHint() const {
+    const int width = zoomed(*this, PreferredWidth);
+    return {width, heightForWidth(width)};
+}
 
 int MessageCard::heightForWidth(int width) const {
-    return static_cast<int>(std::ceil(textArea(width).height() + 2 * Padding));
+    const double zoom = zoomOf(*this);
+    return static_cast<int>(std::ceil((textArea(width / zoom).height() + 2 * Padding) * zoom));
 }
 
 void MessageCard::resizeEvent(QResizeEvent*) { setMinimumHeight(heightForWidth(width())); }
 
+/// Another zoom is told as another style.
+void MessageCard::changeEvent(QEvent* event) {
+    PaintedText::changeEvent(event);
+    if (event->type() == QEvent::StyleChange)
+        setMinimumHeight(heightForWidth(width()));
+}
+
 void MessageCard::paintEvent(QPaintEvent*) {
-    QPainter painter(this);
+    ZoomedPainter painter(*this);
     const KindLook& look = lookOf(kind_);
-    paintCard(painter, QRectF(rect()), look.tone);
+    const QRectF bounds = figureRect(*this);
+    paintCard(painter, bounds, look.tone);
     painter.setFont(font());
     painter.setPen(colour(look.text));
-    QRectF area = textArea(width());
-    area.moveTop((height() - area.height()) / 2);
-    area.setRight(width() - Inset);
+    QRectF area = textArea(bounds.width());
+    area.moveTop((bounds.height() - area.height()) / 2);
+    area.setRight(bounds.width() - Inset);
     painter.drawText(area, Qt::TextWordWrap, text_);
     const double lineMiddle = area.top() + QFontMetricsF(font()).height() / 2;
     if (look.sign)

@@ -7,6 +7,7 @@
 #include <QPainter>
 
 #include "desktop/kit/number_text.h"
+#include "desktop/kit/zoom.h"
 
 namespace lorvane::desktop {
 
@@ -42,14 +43,14 @@ void NumberLabel::setTextRole(Role role) {
 QSize NumberLabel::sizeHint() const {
     const QFont font = textFont(style_);
     const double height = QFontMetricsF(font).height();
-    return {static_cast<int>(std::ceil(numberWidth(font, text_))), static_cast<int>(std::ceil(height))};
+    return {zoomed(*this, std::ceil(numberWidth(font, text_))), zoomed(*this, std::ceil(height))};
 }
 
 void NumberLabel::paintEvent(QPaintEvent*) {
-    QPainter painter(this);
+    ZoomedPainter painter(*this);
     painter.setFont(textFont(style_));
     painter.setPen(colour(isEnabled() ? role_ : Role::Quiet));
-    drawNumber(painter, QRectF(rect()), alignment_, text_);
+    drawNumber(painter, figureRect(*this), alignment_, text_);
 }
 
 }  // namespace lorvane::desktop

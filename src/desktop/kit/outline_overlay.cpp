@@ -6,6 +6,7 @@
 
 #include "desktop/kit/painting.h"
 #include "desktop/kit/theme.h"
+#include "desktop/kit/zoom.h"
 
 namespace lorvane::desktop {
 
@@ -14,9 +15,10 @@ namespace {
 /// The line that sets the outline off from a dark ground.
 constexpr double EdgeWidth = 1;
 
-void paintOutline(QPainter& painter, const Outline& outline) {
+void paintOutline(QPainter& painter, const Outline& outline, double zoom) {
     const int by = outline.distance;
-    const QRectF bounds = QRectF(outline.around).adjusted(-by, -by, by, by);
+    const QRectF around(QPointF(outline.around.topLeft()) / zoom, QSizeF(outline.around.size()) / zoom);
+    const QRectF bounds = around.adjusted(-by, -by, by, by);
     const QColor edge = colour(Role::ProblemOutlineEdge);
     if (edge.alpha() > 0)
         strokePlate(painter, bounds.adjusted(-EdgeWidth, -EdgeWidth, EdgeWidth, EdgeWidth),
@@ -60,10 +62,10 @@ bool OutlineOverlay::eventFilter(QObject* watched, QEvent* event) {
 }
 
 void OutlineOverlay::paintEvent(QPaintEvent*) {
-    QPainter painter(this);
+    ZoomedPainter painter(*this);
     for (const Outline& outline : outlines_)
         if (!outline.around.isEmpty())
-            paintOutline(painter, outline);
+            paintOutline(painter, outline, zoomOf(*this));
 }
 
 }  // namespace lorvane::desktop

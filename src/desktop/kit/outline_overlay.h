@@ -8,7 +8,8 @@
 
 namespace lorvane::desktop {
 
-/// What to outline, in the overlay's coordinates, and how far outside of it the outline runs.
+/// What to outline, in the overlay's coordinates, and how far outside of it the outline runs at
+/// 100 %.
 struct Outline {
     QRect around;
     int distance = 5;

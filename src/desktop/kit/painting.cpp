@@ -16,9 +16,10 @@ void fillPlate(QPainter& painter, const QRectF& bounds, double radius, const QCo
 }
 
 void strokePlate(QPainter& painter, const QRectF& bounds, double radius, const QColor& line, double width) {
-    const double half = width / 2;
+    const double shown = width > 1 ? width : width / painter.worldTransform().m11();
+    const double half = shown / 2;
     painter.setRenderHint(QPainter::Antialiasing);
-    painter.setPen(QPen(line, width));
+    painter.setPen(QPen(line, shown));
     painter.setBrush(Qt::NoBrush);
     painter.drawRoundedRect(bounds.adjusted(half, half, -half, -half), radius - half, radius - half);
 }

@@ -16,7 +16,8 @@ inline constexpr double RingWidth = 2;    ///< of the line around what has the f
 /// antialiasing changed.
 void fillPlate(QPainter& painter, const QRectF& bounds, double radius, const QColor& fill);
 
-/// A line around a plate with round corners; the whole width of the line lies within the bounds.
+/// A line around a plate with round corners; the whole width of the line lies within the bounds. A line of 1
+/// stays so thin where the painter shows everything larger.
 void strokePlate(QPainter& painter, const QRectF& bounds, double radius, const QColor& line, double width);
 
 /// A plate with a line of 1 around it, both within the bounds.

@@ -10,6 +10,7 @@
 #include "desktop/kit/number_text.h"
 #include "desktop/kit/text_style.h"
 #include "desktop/kit/theme.h"
+#include "desktop/kit/zoom.h"
 
 namespace lorvane::desktop {
 
@@ -62,13 +63,14 @@ QSize StressedLabel::sizeHint() const {
     }
     const double height = QFontMetricsF(textFont(TextStyle::BodyStrong)).height();
     const QSizeF text(std::ceil(widthOf(runs)), std::ceil(height));
-    return text.toSize().grownBy(contentsMargins());
+    return QSize(zoomed(*this, text.width()), zoomed(*this, text.height())).grownBy(contentsMargins());
 }
 
 void StressedLabel::paintEvent(QPaintEvent*) {
     const QList<Run> runs = runsOf(text_);
-    const QRectF room(contentsRect());
-    QPainter painter(this);
+    const QRectF room(QPointF(contentsRect().topLeft()) / zoomOf(*this),
+                      QSizeF(contentsRect().size()) / zoomOf(*this));
+    ZoomedPainter painter(*this);
     double x = room.center().x() - widthOf(runs) / 2;
     for (const Run& run : runs) {
         painter.setFont(run.font());

@@ -151,14 +151,16 @@ void ValueCell::activate() {
         emit activated();
 }
 
-QSize ValueCell::sizeHint() const { return large_ ? QSize(112, 32) : QSize(94, 28); }
+QSize ValueCell::sizeHint() const {
+    return {zoomed(*this, large_ ? 112 : 94), zoomed(*this, large_ ? 32 : 28)};
+}
 
-QSize ValueCell::minimumSizeHint() const { return {40, 24}; }
+QSize ValueCell::minimumSizeHint() const { return {zoomed(*this, 40), zoomed(*this, 24)}; }
 
 // Input ----------------------------------------------------------------------------------------------------
 
 int ValueCell::arrowAt(const QPointF& point) const {
-    if (!isChangeable() || point.x() < width() - SignWidth || !QRectF(rect()).contains(point))
+    if (!isChangeable() || point.x() < width() - zoomed(*this, SignWidth) || !QRectF(rect()).contains(point))
         return 0;
     return point.y() < height() / 2.0 ? 1 : -1;
 }
@@ -385,7 +387,7 @@ QColor ValueCell::textColour() const {
 }
 
 void ValueCell::paintPlate(QPainter& painter) const {
-    const QRectF bounds(rect());
+    const QRectF bounds = figureRect(*this);
     if (isChangeable() || hasFocus() || hasProblem())
         fillPlate(painter, bounds.adjusted(0.5, 0.5, -0.5, -0.5), FieldRadius, plateColour());
     const bool outlined = problem_ == Problem::Outlined;
@@ -400,7 +402,7 @@ void ValueCell::paintPlate(QPainter& painter) const {
 }
 
 void ValueCell::paintText(QPainter& painter) const {
-    const QRectF area = QRectF(rect()).adjusted(WordInset, 0, -SignWidth, 0);
+    const QRectF area = figureRect(*this).adjusted(WordInset, 0, -SignWidth, 0);
     const bool word = traitsOf(kind_).word;
     const QFont plain = textFont(large_ ? TextStyle::Effect : word ? TextStyle::Body : TextStyle::Value);
     painter.setFont(fittedFont(plain, text_, area.width()));
@@ -409,7 +411,8 @@ void ValueCell::paintText(QPainter& painter) const {
 }
 
 void ValueCell::paintArrow(QPainter& painter, int direction) const {
-    const QPointF centre(width() - SignWidth / 2, height() / 2.0);
+    const QRectF bounds = figureRect(*this);
+    const QPointF centre(bounds.width() - SignWidth / 2, bounds.height() / 2);
     const bool under = isLit() && arrowUnderPointer_ == direction;
     if (under) {
         QColor plate = colour(Role::StrongLine);
@@ -428,7 +431,8 @@ void ValueCell::paintArrow(QPainter& painter, int direction) const {
 }
 
 void ValueCell::paintLink(QPainter& painter) const {
-    const QPointF centre(width() - SignWidth / 2, height() / 2.0);
+    const QRectF bounds = figureRect(*this);
+    const QPointF centre(bounds.width() - SignWidth / 2, bounds.height() / 2.0);
     const auto around = [&](double size) {
         return QRectF(centre.x() - size / 2, centre.y() - size / 2, size, size);
     };
@@ -438,7 +442,7 @@ void ValueCell::paintLink(QPainter& painter) const {
 }
 
 void ValueCell::paintEvent(QPaintEvent*) {
-    QPainter painter(this);
+    ZoomedPainter painter(*this);
     paintPlate(painter);
     paintText(painter);
     if (isChangeable())
