@@ -27,6 +27,7 @@ struct Cell : Panel {
     std::string number;
     std::string arm;
     std::string heading;      ///< over a cell of the strip
+    std::string brief;        ///< the same in few words
     std::string words;        ///< what the value is, for people who hear the screen
     bool spinVisible = true;  ///< the cell has arrows
     CellState state = CellState::changeable;
@@ -129,6 +130,7 @@ struct MainScreen {
     Panel lblD, lblPrev, lblP2;  ///< headings of the strip that follow the study
     Panel lblAlpha{"Alpha and tails"};
     Panel pnlAlphaTails;
+    std::string alphaBrief;  ///< the same in few words
     Panel pnlAI;      ///< diagnostic: the tau-squared values of a blocked study of means
     Panel SSPanel10;  ///< metric that a binary effect implies
     Panel pnlStatus;  ///< what was done or failed last; empty otherwise

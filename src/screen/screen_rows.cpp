@@ -68,6 +68,9 @@ void writeCell(const SessionState& state, FieldRef ref, const PerLevel<double>& 
     cell.number = numberText(state, ref, models);
     cell.arm = armOf(state.study, form.form);
     cell.heading = headingOf(state.study, ref);
+    cell.brief = briefWords(state.study, ref);
+    if (cell.brief.empty())
+        cell.brief = cell.heading;
     cell.words = fieldWords(state.study, ref);
     if (form.form == CellForm::blocks)
         cell.Caption = cell.arm + " (" + cell.number + ")";
@@ -75,6 +78,10 @@ void writeCell(const SessionState& state, FieldRef ref, const PerLevel<double>& 
         cell.Caption = cell.number + " (" + cell.arm + ")";
     else
         cell.Caption = blanks(form.blanksBefore) + cell.number + blanks(form.blanksBehind);
+}
+
+std::string alphaAndTails(const Study& s) {
+    return fixedText(s.txtAlpha, 3) + (s.txtTails == Tails::one ? ", one-tailed" : ", two-tailed");
 }
 
 // A cell without arrows is the second of a linked pair where the field has a twin, and fixed otherwise.
@@ -155,14 +162,12 @@ void writeStrip(const Study& s, MainScreen& screen) {
     screen.lblP2.Caption = screen.cell("pnlP2").heading;
     screen.lblD.Caption = screen.cell("pnlD").heading;
     screen.lblOther.Caption = s.DType == DTypes::within ? "d (total)" : "d (within)";
+    screen.alphaBrief = alphaAndTails(s);
     screen.pnlAlphaTails.Caption = alphaTailsText(s);
     showStrip(s, screen);
 }
 
-std::string alphaTailsText(const Study& s) {
-    return "Alpha = " + fixedText(s.txtAlpha, 3) +
-           (s.txtTails == Tails::one ? ", one-tailed" : ", two-tailed");
-}
+std::string alphaTailsText(const Study& s) { return "Alpha = " + alphaAndTails(s); }
 
 void writeTable(const Study& s, MainScreen& screen) {
     for (int level = lowestLevel; level <= highestLevel; ++level) {

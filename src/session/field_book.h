@@ -58,6 +58,7 @@ struct FieldCell {
     std::string_view stem = {};     ///< "pnlNT"; empty: the field has no cell
     std::string_view column = {};   ///< key of the column that it stands in
     std::string_view heading = {};  ///< where neither the column's heading nor the field's words fit
+    std::string_view brief = {};    ///< the heading in few words, with places as in the field's words
     CellForm form = CellForm::plain;
     bool isMoney = false;
     int decimals = -1;  ///< -1: those of the field; -2: those of the whole effect strip

@@ -52,6 +52,8 @@ std::string fieldWords(const Study& s, FieldRef field) {
     return field->words.empty() ? field.name() : filledIn(s, field, field->words);
 }
 
+std::string briefWords(const Study& s, FieldRef field) { return filledIn(s, field, field->cell.brief); }
+
 std::string fieldHint(const SessionState& state, FieldRef field) {
     const std::string words = fieldWords(state.study, field);
     if (field->arrows == ArrowRule::twoStates)

@@ -11,6 +11,9 @@ namespace lorvane {
 /// name where there are no words for it.
 std::string fieldWords(const Study& study, FieldRef field);
 
+/// The same where there is little room, "d (total)"; empty for a field that has no fewer words.
+std::string briefWords(const Study& study, FieldRef field);
+
 /// The words with what the keys do: "ICC of Classes. Up and Down change it by 0.01. Enter opens it for
 /// typing."
 std::string fieldHint(const SessionState& state, FieldRef field);
