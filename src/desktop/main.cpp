@@ -13,6 +13,7 @@
 #include "desktop/main_window.h"
 #include "desktop/panels.h"
 #include "desktop/program_facts.h"
+#include "desktop/window_memory.h"
 #include "numerics/numeric_distribution_library.h"
 #include "os/disk_file_store.h"
 #include "os/program_folder.h"
@@ -67,9 +68,12 @@ int run(desktop::DeskApplication& qt, const QString& file) {
     qt.whenFailed(
         [&messages](const std::string& words) { messages.show(failureMessage(failureTitle, words)); });
     desktop::CrashGuard guard(desk, unsaved);
+    desktop::WindowMemory memory(settings);
+    memory.restore(window);
     window.show();
     desk.start(file);
     const int code = QApplication::exec();
+    memory.save(window);
     guard.finish();
     return code;
 }
