@@ -170,7 +170,7 @@ void GraphView::step(Qt::Key key) {
 // The chart keeps its colours, so it is told of others. A narrow window has no room for the words of its bar.
 bool GraphView::eventFilter(QObject* watched, QEvent* event) {
     if (watched == panel() && event->type() == QEvent::Resize) {
-        menus_->setWordsShown(panel()->width() >= narrow);
+        menus_->setNarrow(panel()->width() < narrow);
         fitFooter();
     }
     const bool otherColours =

@@ -7,7 +7,6 @@
 #include <QDropEvent>
 #include <QHBoxLayout>
 #include <QLabel>
-#include <QLayout>
 #include <QMenuBar>
 #include <QMimeData>
 #include <QScrollArea>
@@ -34,8 +33,6 @@ namespace {
 constexpr int pageMargin = 20;
 constexpr int widest = 1600;
 constexpr int narrow = 1180;  // below, the words of the tool bar go
-constexpr int menuHeight = 30;
-constexpr int toolHeight = 44;
 constexpr int smallestCards = 88;
 constexpr int smallestScroll = 120;
 
@@ -89,14 +86,11 @@ MainWindow::MainWindow(Desk& desk) : desk_(desk), menus_(new Menus(desk, this)) 
 
 void MainWindow::addBars() {
     menus_->fill(menuBar());
-    menuBar()->setFixedHeight(menuHeight);
     auto* bar = new QToolBar(this);
     bar->setWindowTitle(tr("Main tool bar"));
     bar->setMovable(false);
     bar->setFloatable(false);
     bar->setContextMenuPolicy(Qt::PreventContextMenu);
-    bar->setFixedHeight(toolHeight);
-    bar->layout()->setContentsMargins(0, 0, 0, 0);
     menus_->fill(bar);
     addToolBar(bar);
     setContextMenuPolicy(Qt::NoContextMenu);
@@ -216,7 +210,7 @@ void MainWindow::chooseSize() {
     const int wanted = strip + spacing.gap + table_->heightOf(compact);
     const int others = heightWith(spacing, 0) - spacing.gap;
     scroll_->setFixedHeight(std::clamp(inner - others, smallestScroll, wanted));
-    menus_->setWordsShown(width() >= narrow);
+    menus_->setNarrow(width() < narrow);
 }
 
 QWidget* MainWindow::cell(const std::string& panel) const {

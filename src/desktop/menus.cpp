@@ -13,17 +13,17 @@
 #include "desktop/kit/menu_button.h"
 #include "desktop/kit/stressed_label.h"
 #include "desktop/kit/tool_button.h"
+#include "desktop/menu_overflow.h"
 #include "screen/command_book.h"
 
 namespace lorvane::desktop {
 
 namespace {
 
-constexpr int menuHeight = 30;
-constexpr int toolHeight = 44;
 constexpr const char* powerTool = "Set power";
 constexpr const char* powerBand = "popSetPower";
 constexpr int labelMargin = 10;
+constexpr int leftSpace = 10, rightSpace = 4;  // at the ends of a tool bar
 
 struct SignIcon {
     Sign sign;
@@ -92,9 +92,9 @@ void addStretch(QToolBar* bar) {
     bar->addWidget(spacer);
 }
 
-void addSpace(QToolBar* bar) {
+void addSpace(QToolBar* bar, int width) {
     auto* spacer = new QWidget(bar);
-    spacer->setFixedWidth(10);
+    spacer->setFixedWidth(width);
     bar->addWidget(spacer);
 }
 
@@ -221,6 +221,8 @@ void Menus::fill(QMenuBar* bar) {
         if (band.kind == BandKind::menu && band.screen == screen_)
             bar->addMenu(menu(band.Name));
     }
+    overflow_ = new MenuOverflow(bar);
+    bar->setFixedHeight(menuBarHeight);
 }
 
 void Menus::addPowerButton(QToolBar* bar) {
@@ -287,13 +289,16 @@ const Band& Menus::toolBar() const {
     });
 }
 
-void Menus::setWordsShown(bool shown) {
+void Menus::setNarrow(bool narrow) {
     for (ToolButton* button : words_)
-        button->setWords(shown ? ToolButton::Words::Beside : ToolButton::Words::None);
+        button->setWords(narrow ? ToolButton::Words::None : ToolButton::Words::Beside);
+    overflow_->setNarrow(narrow);
 }
 
 void Menus::fill(QToolBar* bar) {
-    addSpace(bar);
+    bar->setFixedHeight(toolBarHeight);
+    bar->layout()->setContentsMargins(0, 0, 0, 0);
+    addSpace(bar, leftSpace);
     for (const BandEntry& entry : toolBar().entries) {
         if (entry.kind == BandEntry::Kind::line)
             bar->addSeparator();
@@ -304,18 +309,15 @@ void Menus::fill(QToolBar* bar) {
         else
             addTool(bar, entry.name);
     }
-    addSpace(bar);
+    addSpace(bar, rightSpace);
 }
 
 void Menus::addTo(QVBoxLayout* column) {
     auto* menuBar = new QMenuBar;
     fill(menuBar);
-    menuBar->setFixedHeight(menuHeight);
     column->addWidget(menuBar);
     auto* bar = new QToolBar;
     bar->setWindowTitle(shownText(toolBar().Caption));
-    bar->setFixedHeight(toolHeight);
-    bar->layout()->setContentsMargins(0, 0, 0, 0);
     fill(bar);
     column->addWidget(bar);
 }

@@ -19,8 +19,13 @@ class QVBoxLayout;
 namespace lorvane::desktop {
 
 class MenuButton;
+class MenuOverflow;
 class StressedLabel;
 class ToolButton;
+
+/// Heights of the two bars, with their lines.
+inline constexpr int menuBarHeight = 29;
+inline constexpr int toolBarHeight = 46;
 
 /// One action a command, however often it stands in menus and bars. The window owns them all.
 class Menus : public QObject {
@@ -49,8 +54,8 @@ public:
     QAction* action(const std::string& tool);
     ToolButton* button(const std::string& tool, QWidget* parent);
 
-    /// Leaves the words of the tool bar out where the window is narrow.
-    void setWordsShown(bool shown);
+    /// Leaves the words of the tool bar out and sets the menus closer, where the window is narrow.
+    void setNarrow(bool narrow);
 
     /// Copies what has changed from the tools.
     void sync();
@@ -76,6 +81,7 @@ private:
     std::map<std::string, QAction*> actions_;
     std::map<std::string, QMenu*> menus_;
     QMenuBar* menuBar_ = nullptr;
+    MenuOverflow* overflow_ = nullptr;
     MenuButton* power_ = nullptr;
     std::vector<ToolButton*> words_;
     std::map<std::string, StressedLabel*> labels_;

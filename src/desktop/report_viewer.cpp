@@ -65,7 +65,7 @@ void ReportViewer::addStatus() {
 // A narrow window has no room for the words of its bar.
 bool ReportViewer::eventFilter(QObject* watched, QEvent* event) {
     if (watched == panel() && event->type() == QEvent::Resize)
-        menus_->setWordsShown(panel()->width() >= narrow);
+        menus_->setNarrow(panel()->width() < narrow);
     return PanelView::eventFilter(watched, event);
 }
 

@@ -23,14 +23,14 @@ namespace {
 
 /// In the order of Icon.
 constexpr std::array<const char*, IconCount> Files = {
-    "add-scenario",  "arrow-down", "arrow-up", "block",  "book",    "check",   "chevron-down", "chevron-left",
-    "chevron-right", "chevron-up", "close",    "coin",   "copy",    "corner",  "cost-bar",     "cost-digits",
-    "details",       "edit",       "export",   "film",   "first",   "fit",     "float",        "font",
-    "gear",          "graph",      "guide",    "last",   "legend",  "link",    "max-cost",     "mdes",
-    "more",          "nest",       "new",      "note",   "open",    "optimal", "plus",         "power-bar",
-    "power-digits",  "print",      "redo",     "report", "restore", "save",    "scenarios",    "sections",
-    "series",        "shuffle",    "table",    "target", "trash",   "undo",    "warning",      "width",
-    "x-axis",
+    "add-scenario",  "arrow-down",   "arrow-up", "block", "book",   "check",   "chevron-down", "chevron-left",
+    "chevron-right", "chevron-up",   "close",    "coin",  "copy",   "corner",  "cost-bar",     "cost-digits",
+    "details",       "edit",         "export",   "film",  "first",  "fit",     "float",        "font",
+    "gear",          "graph",        "guide",    "last",  "legend", "link",    "max-cost",     "mdes",
+    "more",          "more-menus",   "nest",     "new",   "note",   "open",    "optimal",      "plus",
+    "power-bar",     "power-digits", "print",    "redo",  "report", "restore", "save",         "scenarios",
+    "sections",      "series",       "shuffle",  "table", "target", "trash",   "undo",         "warning",
+    "width",         "x-axis",
 };
 
 QByteArray drawing(Icon name) {

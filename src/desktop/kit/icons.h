@@ -43,6 +43,7 @@ enum class Icon {
     MaxCost,
     Mdes,
     More,
+    MoreMenus,
     Nest,
     New,
     Note,

@@ -8,8 +8,10 @@ namespace lorvane::desktop {
 namespace {
 
 constexpr const char* Sheet = R"(
-QMenuBar { background: @bar; border: none; padding: 4px 8px 0 8px; spacing: 0; }
+QMenuBar { background: @bar; border: none; padding: 3px 8px 0 8px; spacing: 0; menubar-separator: 1; }
 QMenuBar::item { background: transparent; color: @text; padding: 5px 12px; border-radius: 6px; }
+QMenuBar[narrow="true"] { padding: 3px 7px 0 7px; spacing: 6px; }
+QMenuBar[narrow="true"]::item { padding: 5px 7px; }
 QMenuBar::item:selected, QMenuBar::item:pressed { background: @field; }
 QMenuBar::item:disabled { color: @quiet; }
 
@@ -21,7 +23,7 @@ QMenu::separator { height: 1px; background: @line; margin: 6px 4px; }
 QMenu::icon { padding-left: 6px; }
 
 QToolBar { background: @bar; border: none; border-bottom: 1px solid @line; spacing: 0; padding: 0; }
-QToolBar::separator { width: 1px; background: @line; margin: 11px 9px; }
+QToolBar::separator { width: 1px; background: @line; margin: 11px 7px; }
 
 QToolButton { background: transparent; color: @text; border: none; border-radius: 6px; padding: 0 8px; }
 QToolButton:hover, QToolButton:pressed { background: @field; }
@@ -90,7 +92,7 @@ QHeaderView::section { background: transparent; color: @secondText; border: none
 QStatusBar { background: @page; color: @secondText; border-top: 1px solid @line; min-height: 27px;
              font-size: 9pt; }
 QStatusBar::item { border: none; }
-QStatusBar QLabel { color: @secondText; font-size: 9pt; padding: 0 14px; }
+QStatusBar QLabel { color: @secondText; font-size: 9pt; padding: 0 14px 0 18px; }
 )";
 
 /// The names by which the sheet calls the roles. They are replaced in this order, so a longer name such as
