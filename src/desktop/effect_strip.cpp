@@ -1,22 +1,33 @@
 // The strip of the effect.
 #include "desktop/effect_strip.h"
 
-#include <QHBoxLayout>
+#include <QFontMetricsF>
 #include <QLabel>
-#include <QVBoxLayout>
+#include <QPainter>
 #include <algorithm>
+#include <cmath>
 
 #include "desktop/kit/elided_label.h"
 #include "desktop/kit/menu_button.h"
 #include "desktop/kit/number_label.h"
 #include "desktop/kit/text_style.h"
+#include "desktop/kit/theme.h"
+#include "desktop/kit/zoom.h"
 #include "desktop/menus.h"
 
 namespace lorvane::desktop {
 
 namespace {
 
-constexpr int widestCaption = 240;
+constexpr int leftMargin = 18;
+constexpr int rightMargin = 11;
+constexpr int buttonInset = 8;   // between the edge of the button of alpha and its text
+constexpr int usualHeight = 78;  // of the strip
+constexpr int fieldHeight = 32;
+constexpr int captionHeight = 16;
+constexpr int captionGap = 4;
+constexpr int captionRoom = 1;  // so that rounding cuts nothing
+constexpr int lineHeight = 52;
 
 struct CellRow {
     const char* panel;
@@ -24,9 +35,11 @@ struct CellRow {
     int width;
 };
 
+// The scale of the outcome begins with its mean, behind a line.
+constexpr std::size_t meanRow = 6;
 constexpr CellRow cellRows[] = {{"pnlPrev", false, 94}, {"pnlD", true, 112},  {"pnlOR", true, 112},
                                 {"pnlRR", true, 112},   {"pnlRD", true, 112}, {"pnlP2", true, 112},
-                                {"pnlMean", false, 94}, {"pnlSD", false, 88}};
+                                {"pnlMean", false, 96}, {"pnlSD", false, 96}};
 
 bool isMarked(const MainScreen& screen, const std::string& panel) {
     for (int number = 1; number <= screen.outlines.last; ++number) {
@@ -43,99 +56,188 @@ const lorvane::Field& fieldOfCell(const MainScreen& screen, std::string_view pan
     return *found->field;
 }
 
-QLabel* captionLabel(QWidget* parent) {
-    auto* label = new ElidedLabel(widestCaption, parent);
-    label->setFont(textFont(TextStyle::Caption));
-    label->setProperty("second", true);
-    return label;
-}
-
-QFrame* separator(QWidget* parent) {
-    auto* line = new QFrame(parent);
-    line->setFixedWidth(1);
-    line->setObjectName(QStringLiteral("separator"));
-    line->setFrameShape(QFrame::NoFrame);
-    return line;
-}
-
 }  // namespace
 
 EffectStrip::EffectStrip(Desk& desk, Menus& menus, QWidget* parent)
     : Card(CardTone::Plain, parent), desk_(desk), menus_(menus) {
-    auto* row = new QHBoxLayout(this);
-    row->setContentsMargins(18, 9, 18, 9);
-    row->setSpacing(22);
-    cells_.reserve(std::size(cellRows));
-    for (const CellRow& cell : cellRows)
-        addCell(row, cell.panel, cell.large, cell.width);
-    addOtherForm(row);
-    row->addStretch(1);
-    row->addWidget(separator(this));
-    addAlpha(row, menus);
+    const MainScreen& screen = desk_.design().screen();
+    for (const CellRow& row : cellRows) {
+        auto* widget = new ValueCell(ValueCell::Kind::Spin, this);
+        widget->setLarge(row.large);
+        addField(widget, row.width);
+        cells_.push_back(std::make_unique<CellBinding>(
+            desk_, menus, FieldRef{&fieldOfCell(screen, row.panel), 0}, screen.cell(row.panel), widget));
+    }
+    otherForm_ = &addField(otherFormValue_ = makeNumber(), 0);
+    derived_ = &addField(derivedValue_ = makeNumber(), 0);
+    alpha_ = new MenuButton(QString(), this);
+    alpha_->setMenu(menus.menu("popAlpha"));
+    alphaField_ = &addField(alpha_, 0);
     sync();
 }
 
-EffectStrip::Field EffectStrip::addField(QHBoxLayout* row, QWidget* widget) {
-    auto* box = new QWidget(this);
-    auto* column = new QVBoxLayout(box);
-    column->setContentsMargins(0, 0, 0, 0);
-    column->setSpacing(4);
-    auto* label = captionLabel(box);
-    column->addWidget(label);
-    column->addWidget(widget, 0, Qt::AlignLeft);
-    row->addWidget(box);
-    return {box, label};
-}
-
-void EffectStrip::addCell(QHBoxLayout* row, const std::string& panel, bool large, int width) {
-    const MainScreen& screen = desk_.design().screen();
-    auto* widget = new ValueCell(ValueCell::Kind::Spin, this);
-    widget->setLarge(large);
-    widget->setFixedSize(width, 30);
-    const lorvane::Field& names = fieldOfCell(screen, panel);
-    const Field field = addField(row, widget);
-    cells_.emplace_back(
-        std::make_unique<CellBinding>(desk_, menus_, FieldRef{&names, 0}, screen.cell(panel), widget), field);
-}
-
-void EffectStrip::addOtherForm(QHBoxLayout* row) {
-    otherFormValue_ = makeNumber();
-    otherForm_ = addField(row, otherFormValue_);
-    derivedValue_ = makeNumber();
-    derived_ = addField(row, derivedValue_);
+EffectStrip::Field& EffectStrip::addField(QWidget* widget, int width) {
+    auto* caption = new ElidedLabel(QWIDGETSIZE_MAX, this);
+    setTextStyle(*caption, TextStyle::Caption);
+    caption->setProperty("second", true);
+    Field& field = fields_.emplace_back();
+    field.caption = caption;
+    field.widget = widget;
+    field.width = width;
+    return field;
 }
 
 NumberLabel* EffectStrip::makeNumber() {
     auto* label = new NumberLabel(Qt::AlignLeft, this);
     label->setTextRole(Role::SecondText);
-    label->setFixedHeight(30);
     return label;
 }
 
-void EffectStrip::addAlpha(QHBoxLayout* row, Menus& menus) {
-    alpha_ = new MenuButton(QString(), this);
-    alpha_->setMenu(menus.menu("popAlpha"));
-    alphaField_ = addField(row, alpha_);
+void EffectStrip::show(Field& field, bool shown, const std::string& words, const std::string& brief) {
+    field.shown = shown;
+    field.words = shownText(words);
+    field.brief = shownText(brief);
+    field.caption->setVisible(shown);
+    field.widget->setVisible(shown);
 }
 
 void EffectStrip::sync() {
     const MainScreen& screen = desk_.design().screen();
-    for (auto& [cell, field] : cells_) {
-        const Cell& model = screen.cell(cell->panel());
-        field.box->setVisible(model.Visible);
-        field.caption->setText(shownText(model.heading));
-        cell->sync();
-        cell->widget()->setProblem(isMarked(screen, cell->panel()) ? ValueCell::Problem::Outlined
-                                                                   : ValueCell::Problem::None);
+    for (std::size_t i = 0; i < cells_.size(); ++i) {
+        CellBinding& cell = *cells_[i];
+        const Cell& model = screen.cell(cell.panel());
+        show(fields_[i], model.Visible, model.heading, model.brief);
+        cell.sync();
+        cell.widget()->setProblem(isMarked(screen, cell.panel()) ? ValueCell::Problem::Outlined
+                                                                 : ValueCell::Problem::None);
     }
-    otherForm_.box->setVisible(screen.lblOther.Visible);
-    otherForm_.caption->setText(shownText(screen.lblOther.Caption));
+    syncOthers();
+    updateGeometry();
+    chooseForm();
+}
+
+void EffectStrip::syncOthers() {
+    const MainScreen& screen = desk_.design().screen();
+    show(*otherForm_, screen.lblOther.Visible, screen.lblOther.Caption, screen.lblOther.Caption);
     otherFormValue_->setText(shownText(screen.pnlOther.Caption));
-    derived_.box->setVisible(screen.SSPanel10.Visible);
+    show(*derived_, screen.SSPanel10.Visible, "", "");
     derivedValue_->setText(shownText(screen.SSPanel10.Caption));
-    alphaField_.caption->setText(shownText(screen.lblAlpha.Caption));
-    alpha_->setAccessibleName(alphaField_.caption->text());
-    alpha_->setText(shownText(screen.pnlAlphaTails.Caption));
+    show(*alphaField_, true, screen.lblAlpha.Caption, screen.lblAlpha.Caption);
+    alpha_->setAccessibleName(alphaField_->words);
+}
+
+const QString& EffectStrip::captionOf(const Field& field, const Form& form) {
+    return form.brief ? field.brief : field.words;
+}
+
+QString EffectStrip::alphaText(const Form& form) const {
+    const MainScreen& screen = desk_.design().screen();
+    return shownText(form.brief ? screen.alphaBrief : screen.pnlAlphaTails.Caption);
+}
+
+void EffectStrip::write(const Form& form) {
+    for (const Field& field : fields_)
+        field.caption->setText(captionOf(field, form));
+    alpha_->setText(alphaText(form));
+}
+
+int EffectStrip::widthOf(const Field& field, const Form& form) const {
+    const double words =
+        QFontMetricsF(textFont(TextStyle::Caption)).horizontalAdvance(captionOf(field, form));
+    const int caption = std::min(static_cast<int>(std::ceil(words)) + captionRoom, form.widestCaption);
+    if (field.width > 0)
+        return std::max(caption, field.width);
+    const QSize size = &field == alphaField_ ? alpha_->sizeWith(alphaText(form)) : field.widget->sizeHint();
+    return std::max(caption, static_cast<int>(std::ceil(size.width() / zoomOf(*this))));
+}
+
+int EffectStrip::widthIn(const Form& form) const {
+    int width = leftMargin + rightMargin + form.gap + 1 - buttonInset;
+    if (fields_[meanRow].shown)
+        width += 1 + form.gap;
+    for (const Field& field : fields_) {
+        if (field.shown)
+            width += widthOf(field, form) + (&field == alphaField_ ? 0 : form.gap);
+    }
+    return width;
+}
+
+QSize EffectStrip::minimumSizeHint() const {
+    return {zoomed(*this, form_->brief ? widthIn(*form_) : 0), zoomed(*this, sizes_.strip)};
+}
+
+// The roomiest form that fits.
+void EffectStrip::chooseForm() {
+    for (const Form& form : forms) {
+        if (narrow_ && &form == forms)
+            continue;
+        form_ = &form;
+        if (widthIn(form) * zoomOf(*this) <= width())
+            break;
+    }
+    write(*form_);
+    updateGeometry();
+    placeAll();
+}
+
+// Places a field and gives what stands behind it.
+int EffectStrip::place(const Field& field, int left, const Form& form) {
+    const int width = widthOf(field, form);
+    const int top = sizes_.strip - fieldHeight - (sizes_.strip < usualHeight ? 9 : 14);
+    const auto inPixels = [this](int x, int y, int w, int h) {
+        return QRect(zoomed(*this, x), zoomed(*this, y), zoomed(*this, w), zoomed(*this, h));
+    };
+    const int caption = &field == alphaField_ ? buttonInset : 0;
+    field.caption->setGeometry(
+        inPixels(left + caption, top - captionGap - captionHeight, width - caption, captionHeight));
+    field.widget->setGeometry(inPixels(left, top, field.width > 0 ? field.width : width, fieldHeight));
+    return left + width + form.gap;
+}
+
+void EffectStrip::placeAll() {
+    const Form& form = *form_;
+    const std::pair before(meanLine_, alphaLine_);
+    int left = leftMargin;
+    for (const Field& field : fields_) {
+        if (!field.shown || &field == alphaField_)
+            continue;
+        if (&field == &fields_[meanRow]) {
+            meanLine_ = left;
+            left += 1 + form.gap;
+        }
+        left = place(field, left, form);
+    }
+    const int whole = static_cast<int>(width() / zoomOf(*this));
+    const int alphaLeft =
+        std::max(left + 1 + form.gap - buttonInset, whole - rightMargin - widthOf(*alphaField_, form));
+    alphaLine_ = alphaLeft + buttonInset - form.gap - 1;
+    place(*alphaField_, alphaLeft, form);
+    if (std::pair(meanLine_, alphaLine_) != before)
+        update();
+}
+
+void EffectStrip::setSizes(const PageSizes& sizes, bool narrow) {
+    sizes_ = sizes;
+    narrow_ = narrow;
+    chooseForm();
+    update();
+}
+
+void EffectStrip::resizeEvent(QResizeEvent* event) {
+    Card::resizeEvent(event);
+    chooseForm();
+}
+
+void EffectStrip::paintEvent(QPaintEvent* event) {
+    Card::paintEvent(event);
+    QPainter painter(this);
+    const int top = zoomed(*this, sizes_.strip < usualHeight ? 8 : 12);
+    const auto paintLine = [&](int left) {
+        painter.fillRect(zoomed(*this, left), top, 1, zoomed(*this, lineHeight), colour(Role::Line));
+    };
+    if (fields_[meanRow].shown)
+        paintLine(meanLine_);
+    paintLine(alphaLine_);
 }
 
 ValueCell* EffectStrip::firstCell() const {
@@ -145,11 +247,9 @@ ValueCell* EffectStrip::firstCell() const {
 }
 
 ValueCell* EffectStrip::cell(const std::string& panel) const {
-    for (const auto& [cell, field] : cells_) {
-        if (cell->panel() == panel)
-            return cell->widget();
-    }
-    return nullptr;
+    const auto found =
+        std::find_if(cells_.begin(), cells_.end(), [&](const auto& cell) { return cell->panel() == panel; });
+    return found == cells_.end() ? nullptr : (*found)->widget();
 }
 
 }  // namespace lorvane::desktop

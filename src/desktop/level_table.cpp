@@ -4,30 +4,63 @@
 #include <QContextMenuEvent>
 #include <QLabel>
 #include <QPainter>
+#include <QScrollBar>
+#include <QSignalBlocker>
 #include <algorithm>
 #include <array>
+#include <cmath>
 
 #include "base/names.h"
 #include "desktop/kit/text_style.h"
 #include "desktop/kit/theme.h"
+#include "desktop/kit/zoom.h"
 #include "desktop/menus.h"
 
 namespace lorvane::desktop {
 
 namespace {
 
+constexpr int railLeft = 10;
 constexpr int railWidth = 50;
-constexpr int leftMargin = 10;
-constexpr int rightMargin = 14;
-constexpr int armWidth = 88;
-constexpr int armGap = 9;
+constexpr int barMargin = 5;
+constexpr int barStep = 24;
 
-// Widths of the fields; the spare width goes to the name and the gaps.
-constexpr int unitsWidth = 94, iccWidth = 82, effectWidth = 98, modelWidth = 98, covariatesWidth = 78,
-              rsqWidth = 82, costsWidth = 110;
-constexpr int nameWidth = 150;
-constexpr int smallestGap = 18;
-constexpr int pairGap = 14;  // between covariates and R-sq
+enum class Line { upper, lower, middle };
+
+// Where the cells of a level stand: the column, and the line of a pair or the middle of the row.
+struct CellPlace {
+    std::string_view stem;
+    ColumnOf column;
+    Line line;
+};
+
+constexpr CellPlace cellPlaces[] = {{"pnlNT", &TableColumns::units, Line::upper},
+                                    {"pnlNC", &TableColumns::units, Line::lower},
+                                    {"pnlNB", &TableColumns::units, Line::middle},
+                                    {"pnlICC", &TableColumns::dispersion, Line::middle},
+                                    {"pnlMRange", &TableColumns::dispersion, Line::middle},
+                                    {"pnlTauSq", &TableColumns::effect, Line::middle},
+                                    {"pnlDRange", &TableColumns::effect, Line::middle},
+                                    {"pnlOmega", &TableColumns::effect, Line::middle},
+                                    {"pnlModel", &TableColumns::model, Line::middle},
+                                    {"pnlQ", &TableColumns::covariates, Line::middle},
+                                    {"pnlRsq", &TableColumns::rsq, Line::middle},
+                                    {"pnlCostT", &TableColumns::costs, Line::upper},
+                                    {"pnlCostC", &TableColumns::costs, Line::lower},
+                                    {"pnlCostB", &TableColumns::costs, Line::middle}};
+
+// The columns of the heads behind that of the names.
+constexpr ColumnOf headColumns[] = {&TableColumns::units, &TableColumns::dispersion, &TableColumns::effect,
+                                    &TableColumns::model, &TableColumns::covariates, &TableColumns::rsq,
+                                    &TableColumns::costs};
+
+// Null for a cell that is never shown.
+const CellPlace* placeOf(const CellBinding& cell) {
+    const auto* found = std::find_if(std::begin(cellPlaces), std::end(cellPlaces), [&](const CellPlace& row) {
+        return row.stem == cell.field()->cell.stem;
+    });
+    return found == std::end(cellPlaces) ? nullptr : found;
+}
 
 LevelRail::Stop stopOf(LevelRole role) {
     switch (role) {
@@ -45,8 +78,9 @@ LevelRail::Stop stopOf(LevelRole role) {
 
 LevelTable::LevelTable(Desk& desk, Menus& menus, QWidget* parent)
     : Card(CardTone::Plain, parent), desk_(desk), menus_(menus), rail_(new LevelRail(this)),
-      overlay_(nullptr) {
+      fields_(new QWidget(this)), bar_(new QScrollBar(Qt::Horizontal, this)), overlay_(nullptr) {
     setAccessibleName(tr("Levels of the study"));
+    connect(bar_, &QScrollBar::valueChanged, this, &LevelTable::scrollTo);
     addHeads();
     for (int level = highestLevel; level >= lowestLevel; --level)
         addLevel(menus, level);
@@ -56,8 +90,8 @@ LevelTable::LevelTable(Desk& desk, Menus& menus, QWidget* parent)
 
 void LevelTable::addHeads() {
     for (std::size_t head = 0; head < headCount; ++head) {
-        auto* label = new QLabel(this);
-        label->setFont(textFont(TextStyle::CaptionStrong));
+        auto* label = new QLabel(head == 0 ? this : fields_);
+        setTextStyle(*label, TextStyle::CaptionStrong);
         label->setProperty("second", true);
         label->installEventFilter(this);
         heads_.push_back(label);
@@ -87,13 +121,15 @@ void LevelTable::addLevel(Menus& menus, int level) {
     for (const FieldCells& cells : desk_.design().screen().fields) {
         if (cells.field->index != FieldIndex::level)
             continue;
-        auto* widget = new ValueCell(ValueCell::Kind::Spin, this);
+        auto* widget = new ValueCell(ValueCell::Kind::Spin, fields_);
         cells_.push_back(
             std::make_unique<CellBinding>(desk_, menus, FieldRef{cells.field, level}, cells(level), widget));
+        connect(widget, &ValueCell::focused, this,
+                [this, cell = cells_.back().get()] { bringInSight(*cell); });
     }
     for (int arm = 0; arm < 2; ++arm) {
-        unitArms_[arm](level) = new ArmLabel(this);
-        costArms_[arm](level) = new ArmLabel(this);
+        unitArms_[arm](level) = new ArmLabel(fields_);
+        costArms_[arm](level) = new ArmLabel(fields_);
     }
 }
 
@@ -112,137 +148,138 @@ ValueCell* LevelTable::cell(const std::string& panel) const {
     return found == nullptr ? nullptr : found->widget();
 }
 
-LevelTable::Metrics LevelTable::metrics(bool compact) const {
-    if (compact)
-        return {34, 66, 26, 2};
-    return {38, rowCount() == 4 ? 78 : 86, 28, 4};
-}
+QSize LevelTable::sizeHint() const { return {zoomed(*this, 1240), zoomed(*this, sizes_.table)}; }
 
-int LevelTable::heightOf(bool compact) const {
-    const Metrics m = metrics(compact);
-    return m.head + rowCount() * m.row + 2;
-}
+QSize LevelTable::minimumSizeHint() const { return {0, zoomed(*this, sizes_.table)}; }
 
-QSize LevelTable::sizeHint() const { return {1240, heightOf(compact_)}; }
-
-QSize LevelTable::minimumSizeHint() const {
-    const Widths widths = this->widths();
-    return {widths.fixed + widths.gaps * smallestGap, heightOf(compact_)};
-}
-
-// The columns that every study shows, and that of the effect where it is shown.
-LevelTable::Widths LevelTable::widths() const {
-    const int effect = hasEffect() ? effectWidth : 0;
-    return {leftMargin + railWidth + nameWidth + 2 * (armGap + armWidth) + pairGap + rightMargin +
-                unitsWidth + dispersionWidth() + effect + modelWidth + covariatesWidth + rsqWidth +
-                costsWidth,
-            effect > 0 ? 6 : 5};
-}
-
-bool LevelTable::hasEffect() const { return desk_.design().screen().head(HeadId::effect).Visible; }
-
-// A span takes more digits than an ICC.
-int LevelTable::dispersionWidth() const {
-    return desk_.design().screen().column(ColumnId::mSpan).heading.Visible ? effectWidth : iccWidth;
-}
-
-int LevelTable::rowTop(int level) const {
-    const Metrics m = metrics(compact_);
-    return m.head + (rowCount() - level) * m.row;
-}
-
-// Columns from left to right: the spare width is shared 5 to 2 by the name and the gaps between columns.
-LevelTable::Places LevelTable::places() const {
-    Places p;
-    p.units = {0, unitsWidth, true};
-    p.dispersion = {0, dispersionWidth(), true};
-    p.effect = {0, effectWidth, hasEffect()};
-    p.model = {0, modelWidth, true};
-    p.covariates = {0, covariatesWidth, true};
-    p.rsq = {0, rsqWidth, true};
-    p.costs = {0, costsWidth, true};
-    ColumnPlace* const columns[] = {&p.units, &p.dispersion, &p.effect, &p.model, &p.covariates, &p.costs};
-    const Widths widths = this->widths();
-    const int spare = std::max(width() - widths.fixed, widths.gaps * smallestGap);
-    const int part = std::max((spare - widths.gaps * smallestGap) / (5 + 2 * widths.gaps), 0);
-    p.name = leftMargin + railWidth + 1;
-    int left = p.name + nameWidth + 5 * part;
-    for (ColumnPlace* column : columns) {
-        if (!column->shown)
-            continue;
-        column->left = left;
-        left += column->width + smallestGap + 2 * part;
-        if (column == &p.units)
-            left += armGap + armWidth;
-        if (column == &p.covariates) {
-            p.rsq.left = column->left + column->width + pairGap;
-            left += pairGap + rsqWidth;
-        }
+TableShape LevelTable::shape() const {
+    const MainScreen& screen = desk_.design().screen();
+    TableShape shape;
+    shape.span = screen.column(ColumnId::mSpan).heading.Visible;
+    shape.effect = screen.head(HeadId::effect).Visible;
+    const double zoom = zoomOf(*this);
+    const auto longest = [zoom](int so, const QWidget& words) {
+        return std::max(so, static_cast<int>(std::ceil(words.sizeHint().width() / zoom)));
+    };
+    for (int level = lowestLevel; level <= rowCount(); ++level) {
+        shape.name = longest(shape.name, *names_(level));
+        for (const auto& arm : unitArms_)
+            shape.arm = longest(shape.arm, *arm(level));
     }
-    p.costs.left = width() - rightMargin - armWidth - armGap - costsWidth;
-    return p;
+    return shape;
 }
 
-void LevelTable::placeSingle(CellBinding* cell, int left, int width, int middle) {
-    const int height = metrics(compact_).field;
-    cell->widget()->setGeometry(left, middle - height / 2, width, height);
-}
-
-void LevelTable::placePair(CellBinding* upper, CellBinding* lower, CellBinding* single, int left, int width,
-                           int middle) {
-    const Metrics m = metrics(compact_);
-    upper->widget()->setGeometry(left, middle - m.gap / 2 - m.field, width, m.field);
-    lower->widget()->setGeometry(left, middle + m.gap / 2, width, m.field);
-    placeSingle(single, left, width, middle);
-}
-
-void LevelTable::placeRow(int level) {
-    const Places p = places();
-    const Metrics m = metrics(compact_);
-    const int middle = rowTop(level) + m.row / 2;
-    const bool blocked = desk_.design().screen().roles(level) == LevelRole::blocked;
-    names_(level)->setGeometry(p.name, middle - m.row / 2 + 1, p.units.left - p.name - 8, m.row - 2);
-    placePair(binding("pnlNT", level), binding("pnlNC", level), binding("pnlNB", level), p.units.left,
-              p.units.width, middle);
-    placePair(binding("pnlCostT", level), binding("pnlCostC", level), binding("pnlCostB", level),
-              p.costs.left, p.costs.width, middle);
-    placeSingle(binding("pnlICC", level), p.dispersion.left, p.dispersion.width, middle);
-    placeSingle(binding("pnlMRange", level), p.dispersion.left, p.dispersion.width, middle);
-    for (const char* stem : {"pnlTauSq", "pnlDRange", "pnlOmega"})
-        placeSingle(binding(stem, level), p.effect.left, p.effect.width, middle);
-    placeSingle(binding("pnlModel", level), p.model.left, p.model.width, middle);
-    placeSingle(binding("pnlQ", level), p.covariates.left, p.covariates.width, middle);
-    placeSingle(binding("pnlRsq", level), p.rsq.left, p.rsq.width, middle);
-    for (int arm = 0; arm < 2; ++arm) {
-        const int top =
-            blocked ? middle - m.field / 2 : (arm == 0 ? middle - m.gap / 2 - m.field : middle + m.gap / 2);
-        unitArms_[arm](level)->setGeometry(p.units.left + p.units.width + armGap, top, armWidth, m.field);
-        costArms_[arm](level)->setGeometry(p.costs.left + p.costs.width + armGap, top, armWidth, m.field);
-    }
+QRect LevelTable::inPixels(int left, int top, int width, int height) const {
+    return {zoomed(*this, left), zoomed(*this, top), zoomed(*this, width), zoomed(*this, height)};
 }
 
 void LevelTable::placeRail() {
-    const Metrics m = metrics(compact_);
     QList<LevelRail::Stop> stops;
     QList<int> centres;
     for (int level = rowCount(); level >= 1; --level) {
         stops.append(stopOf(desk_.design().screen().roles(level)));
-        centres.append(rowTop(level) + m.row / 2);
+        centres.append(rowTop(level) + sizes_.row / 2);
     }
-    rail_->setGeometry(leftMargin, 0, railWidth, height());
+    rail_->setGeometry(inPixels(railLeft, 0, railWidth, sizes_.table));
     rail_->setStops(stops, centres);
 }
 
+// The top of the field of an arm: 0 for the upper, 1 for the lower one.
+int LevelTable::topOf(int level, int arm) const {
+    const int middle = rowTop(level) + sizes_.row / 2;
+    return arm == 0 ? middle - sizes_.pairGap / 2 - sizes_.field : middle + sizes_.pairGap / 2;
+}
+
+void LevelTable::placeCells() {
+    for (const auto& cell : cells_) {
+        const CellPlace* place = placeOf(*cell);
+        if (place == nullptr)
+            continue;
+        const ColumnPlace& column = shifted_.*(place->column);
+        const int level = cell->field().index;
+        const int middle = rowTop(level) + sizes_.row / 2 - sizes_.field / 2;
+        const int top =
+            place->line == Line::middle ? middle : topOf(level, place->line == Line::upper ? 0 : 1);
+        cell->widget()->setGeometry(inPixels(column.left, top, column.width, sizes_.field));
+    }
+}
+
+void LevelTable::placeArms(int level) {
+    const bool blocked = desk_.design().screen().roles(level) == LevelRole::blocked;
+    const int middle = rowTop(level) + sizes_.row / 2 - sizes_.field / 2;
+    for (int arm = 0; arm < 2; ++arm) {
+        const int top = blocked ? middle : topOf(level, arm);
+        const auto behind = [&](const ColumnPlace& column, int width) {
+            return inPixels(column.left + column.width + shifted_.armGap, top, width, sizes_.field);
+        };
+        unitArms_[arm](level)->setGeometry(behind(shifted_.units, shifted_.unitArm));
+        costArms_[arm](level)->setGeometry(behind(shifted_.costs, shifted_.costArm));
+    }
+}
+
+void LevelTable::placeLevel(int level) {
+    names_(level)->setGeometry(
+        inPixels(columns_.name, rowTop(level) + 1, columns_.nameWidth, sizes_.row - 2));
+    placeArms(level);
+}
+
+void LevelTable::placeHeads() {
+    const auto place = [&](QLabel* head, int left) {
+        head->setGeometry(zoomed(*this, left), 1, head->sizeHint().width(), zoomed(*this, sizes_.head) - 1);
+    };
+    place(heads_[0], columns_.name);
+    for (std::size_t column = 0; column < std::size(headColumns); ++column)
+        place(heads_[column + 1], (shifted_.*headColumns[column]).left);
+}
+
 void LevelTable::placeAll() {
-    const Places p = places();
-    const int lefts[headCount] = {p.name,       p.units.left,      p.dispersion.left, p.effect.left,
-                                  p.model.left, p.covariates.left, p.rsq.left,        p.costs.left};
-    for (std::size_t head = 0; head < headCount; ++head)
-        heads_[head]->setGeometry(lefts[head], 1, 150, metrics(compact_).head - 1);
+    const double zoom = zoomOf(*this);
+    const TableColumns before = columns_;
+    columns_ = tableColumns(shape(), static_cast<int>(width() / zoom));
+    if (columns_ != before)
+        update();
+    const int left = zoomed(*this, columns_.fields);
+    fields_->setGeometry(left, 0, width() - left - 1, height());
+    shift_ = nearestShift(columns_, shift_, fieldsWidth());
+    shifted_ = scrolledColumns(columns_, shift_, fieldsWidth());
+    placeBar();
+    placeHeads();
+    placeCells();
     for (int level = lowestLevel; level <= rowCount(); ++level)
-        placeRow(level);
+        placeLevel(level);
     placeRail();
     syncOutlines();
+}
+
+int LevelTable::fieldsWidth() const { return static_cast<int>(fields_->width() / zoomOf(*this)); }
+
+void LevelTable::placeBar() {
+    const QSignalBlocker blocker(bar_);
+    const int room = fieldsWidth();
+    bar_->setVisible(columns_.sideways);
+    bar_->setGeometry(inPixels(columns_.fields, rowTop(0) - 1, room - barMargin, tableBarHeight));
+    bar_->setRange(0, lastShift(columns_, room));
+    bar_->setPageStep(room);
+    bar_->setSingleStep(barStep);
+    if (!bar_->isSliderDown())
+        bar_->setValue(shift_);
+}
+
+// The bar moves by pixels, the columns from one to the next.
+void LevelTable::scrollTo(int position) {
+    const int shift = nearestShift(columns_, position, fieldsWidth());
+    if (shift == shift_)
+        return;
+    shift_ = shift;
+    placeAll();
+}
+
+void LevelTable::bringInSight(const CellBinding& cell) {
+    const int shift = shiftToShow(columns_, placeOf(cell)->column, shift_, fieldsWidth());
+    if (shift == shift_)
+        return;
+    shift_ = shift;
+    placeAll();
 }
 
 void LevelTable::sync() {
@@ -276,7 +313,7 @@ void LevelTable::sync() {
     placeAll();
 }
 
-// The shown cells that an outline goes around.
+// The shown cells that an outline goes around, without those that are scrolled out of sight.
 QList<QWidget*> LevelTable::tint(const std::vector<std::string>& panels) {
     QList<QWidget*> around;
     for (const std::string& panel : panels) {
@@ -284,7 +321,8 @@ QList<QWidget*> LevelTable::tint(const std::vector<std::string>& panels) {
         if (found == nullptr || found->isHidden())
             continue;
         found->setProblem(ValueCell::Problem::Tinted);
-        around.append(found);
+        if (fields_->rect().contains(found->geometry()))
+            around.append(found);
     }
     return around;
 }
@@ -303,28 +341,33 @@ void LevelTable::syncOutlines() {
     overlay_->setOutlines(outlines);
 }
 
-void LevelTable::setCompact(bool compact) {
-    if (compact_ == compact)
-        return;
-    compact_ = compact;
+void LevelTable::setSizes(const PageSizes& sizes) {
+    sizes_ = sizes;
     updateGeometry();
     placeAll();
+    update();
 }
 
 void LevelTable::resizeEvent(QResizeEvent* event) {
     Card::resizeEvent(event);
     placeAll();
+    for (const auto& cell : cells_) {
+        if (cell->widget()->hasFocus())
+            bringInSight(*cell);
+    }
 }
 
 void LevelTable::paintEvent(QPaintEvent* event) {
     Card::paintEvent(event);
     QPainter painter(this);
-    const Metrics m = metrics(compact_);
-    const int nameLeft = places().name;
-    painter.fillRect(QRect(1, m.head - 1, width() - 2, 1), colour(Role::Line));
+    const QColor line = colour(Role::Line);
+    const int left = zoomed(*this, columns_.name);
+    const int right = width() - zoomed(*this, columns_.rightMargin);
+    painter.fillRect(QRect(1, zoomed(*this, sizes_.head), width() - 2, 1), line);
     for (int level = rowCount() - 1; level >= 1; --level)
-        painter.fillRect(QRect(nameLeft, rowTop(level), width() - nameLeft - rightMargin, 1),
-                         colour(Role::Line));
+        painter.fillRect(QRect(left, zoomed(*this, rowTop(level)), right - left, 1), line);
+    if (columns_.sideways)
+        painter.fillRect(inPixels(columns_.fields - 1, 0, 1, rowTop(0)), line);
 }
 
 }  // namespace lorvane::desktop

@@ -10,12 +10,16 @@
 #include "desktop/kit/level_name.h"
 #include "desktop/kit/level_rail.h"
 #include "desktop/kit/outline_overlay.h"
+#include "desktop/page_sizes.h"
+#include "desktop/table_columns.h"
 
 class QLabel;
+class QScrollBar;
 
 namespace lorvane::desktop {
 
-/// A card that paints heads, lines and rail itself and places the cells of all levels in columns.
+/// A card that paints heads, lines and rail itself and places the cells of all levels in columns. Where they
+/// do not all fit, whole columns scroll behind a line, and the cell with the focus is always in sight.
 class LevelTable : public Card {
     Q_OBJECT
 
@@ -25,9 +29,11 @@ public:
     /// Copies what has changed from the models.
     void sync();
 
-    /// Smaller rows, for small screens.
-    void setCompact(bool compact);
-    int heightOf(bool compact) const;
+    /// The height of head, rows and fields.
+    void setSizes(const PageSizes& sizes);
+
+    /// What the columns depend on, at 100 %.
+    TableShape shape() const;
 
     /// The cell of a panel's name, such as "pnlNT(2)"; null when there is none.
     ValueCell* cell(const std::string& panel) const;
@@ -41,50 +47,37 @@ protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
-    struct Metrics {
-        int head, row, field, gap;
-    };
-    Metrics metrics(bool compact) const;
     int rowCount() const { return desk_.study().NumLevels; }
-    int rowTop(int level) const;
+    int rowTop(int level) const { return sizes_.head + (rowCount() - level) * sizes_.row; }
+    QRect inPixels(int left, int top, int width, int height) const;
 
     void addHeads();
     void addLevel(Menus& menus, int level);
     void placeAll();
-    void placeRow(int level);
-    void placePair(CellBinding* upper, CellBinding* lower, CellBinding* single, int left, int width,
-                   int middle);
-    void placeSingle(CellBinding* cell, int left, int width, int middle);
+    void placeLevel(int level);
+    void placeArms(int level);
+    int topOf(int level, int arm) const;
+    void placeCells();
+    void placeHeads();
     void placeRail();
     QList<QWidget*> tint(const std::vector<std::string>& panels);
     void syncOutlines();
     CellBinding* binding(std::string_view stem, int level) const;
 
-    /// A column by what stands in it, where it begins and how wide its field is.
-    struct ColumnPlace {
-        int left = 0;
-        int width = 0;
-        bool shown = false;
-    };
-    struct Places {
-        int name = 0;
-        ColumnPlace units, dispersion, effect, model, covariates, rsq, costs;
-    };
-    Places places() const;
-
-    /// What the columns take at least, and the gaps between them that share the rest.
-    struct Widths {
-        int fixed;
-        int gaps;
-    };
-    Widths widths() const;
-    int dispersionWidth() const;
-    bool hasEffect() const;
+    int fieldsWidth() const;
+    void scrollTo(int position);
+    void bringInSight(const CellBinding& cell);
+    void placeBar();
 
     Desk& desk_;
     Menus& menus_;
-    bool compact_ = false;
+    PageSizes sizes_ = pageSizes({});
+    TableColumns columns_;  ///< while nothing is scrolled
+    TableColumns shifted_;  ///< as they stand on the widget of the fields
+    int shift_ = 0;         ///< how far the columns are scrolled
     LevelRail* rail_;
+    QWidget* fields_;  ///< behind the names; what stands out of it is not seen
+    QScrollBar* bar_;
     std::vector<QLabel*> heads_;
     PerLevel<LevelName*> names_;
     PerLevel<ArmLabel*> unitArms_[2];

@@ -9,6 +9,7 @@
 #include <QLabel>
 #include <QMenuBar>
 #include <QMimeData>
+#include <QScreen>
 #include <QScrollArea>
 #include <QStatusBar>
 #include <QTimer>
@@ -22,6 +23,7 @@
 #include "desktop/kit/notice_card.h"
 #include "desktop/kit/plain_text.h"
 #include "desktop/kit/text_style.h"
+#include "desktop/kit/zoom.h"
 #include "desktop/level_table.h"
 #include "desktop/menus.h"
 #include "desktop/result_cards.h"
@@ -30,29 +32,19 @@ namespace lorvane::desktop {
 
 namespace {
 
+constexpr QSize firstSize(1280, 800);
+constexpr int frameRoom = 40;  // for the frame of the window system, where the screen is small
+constexpr QSize largeFrom(2200, 1200);
+constexpr double largeZoom = 1.25;
 constexpr int pageMargin = 20;
-constexpr int widest = 1600;
-constexpr int narrow = 1180;  // below, the words of the tool bar go
-constexpr int smallestCards = 88;
-constexpr int smallestScroll = 120;
+constexpr int widest = 1760;
+constexpr int narrowBelow = 1180;  // the words of the tool bar do not fit
+constexpr int statusHeight = 28;
+constexpr int smallestCards = 80;
 
-// Margins and gaps of the page, and the height of the title block.
-struct Spacing {
-    int top, bottom, gap, title;
-};
-constexpr Spacing usual{18, 18, 14, 46};
-constexpr Spacing tight{10, 12, 10, 39};
-
-// Height of a page whose strip and table together have a height.
-int heightWith(const Spacing& spacing, int stripAndTable) {
-    return spacing.top + spacing.title + 3 * spacing.gap + stripAndTable + smallestCards + spacing.bottom;
-}
-
-constexpr int widestSavedWords = 500;
-
-QLabel* textLabel(TextStyle style, int width = QWIDGETSIZE_MAX) {
-    auto* label = new ElidedLabel(width);
-    label->setFont(textFont(style));
+QLabel* textLabel(TextStyle style) {
+    auto* label = new ElidedLabel;
+    setTextStyle(*label, style);
     return label;
 }
 
@@ -69,18 +61,17 @@ MainWindow::MainWindow(Desk& desk) : desk_(desk), menus_(new Menus(desk, this)) 
     setObjectName(QStringLiteral("Design"));
     addBars();
     setCentralWidget(makeContent());
-    hint_ = textLabel(TextStyle::Caption);
-    saved_ = textLabel(TextStyle::Caption, widestSavedWords);
     notice_ = new NoticeCard(centralWidget());
     connect(notice_, &NoticeCard::closeRequested, this, [this] { desk_.click("cmdNotice"); });
-    statusBar()->addWidget(hint_, 1);
-    statusBar()->addPermanentWidget(saved_);
-    statusBar()->setSizeGripEnabled(false);
-    statusBar()->setFixedHeight(28);
+    centralWidget()->installEventFilter(this);
+    addStatus();
     setAcceptDrops(true);
-    resize(1280, 800);
+    openInScreen();
     connect(&desk_, &Desk::shown, this, &MainWindow::sync);
-    connect(qApp, &QApplication::focusChanged, this, &MainWindow::syncStatus);
+    connect(qApp, &QApplication::focusChanged, this, [this](QWidget*, QWidget* now) {
+        syncStatus();
+        keepInSight(now);
+    });
     sync();
 }
 
@@ -100,24 +91,38 @@ void MainWindow::addTitle(QVBoxLayout* column) {
     title_ = textLabel(TextStyle::Title);
     sense_ = textLabel(TextStyle::Body);
     sense_->setProperty("second", true);
-    auto* block = new QVBoxLayout;
+    titles_ = new QWidget;
+    auto* block = new QVBoxLayout(titles_);
+    block->setContentsMargins(0, 0, 0, 0);
     block->setSpacing(0);
     block->addWidget(title_);
+    block->addStretch(1);
     block->addWidget(sense_);
-    column->addLayout(block);
+    column->addWidget(titles_);
+}
+
+// What has the focus stands at the left and gives way; how the study stands on the disk is always in sight.
+void MainWindow::addStatus() {
+    hint_ = textLabel(TextStyle::Caption);
+    saved_ = textLabel(TextStyle::Caption);
+    saved_->setSizePolicy(QSizePolicy::Minimum, QSizePolicy::Preferred);
+    statusBar()->addWidget(hint_, 1);
+    statusBar()->addPermanentWidget(saved_);
+    statusBar()->setSizeGripEnabled(false);
+    statusBar()->setFixedHeight(statusHeight);
+}
+
+// In the middle of the free area, and no larger than it.
+void MainWindow::openInScreen() {
+    const QRect free = screen()->availableGeometry();
+    const QSize size = firstSize.boundedTo(free.size() - QSize(0, frameRoom));
+    resize(size);
+    move(free.topLeft() + QPoint((free.width() - size.width()) / 2,
+                                 std::max(0, (free.height() - frameRoom - size.height()) / 2)));
 }
 
 // Strip and table scroll where the window is too small for them; power and cost always stay in sight.
-QWidget* MainWindow::makeContent() {
-    auto* content = new QWidget;
-    content->setMinimumHeight(heightWith(tight, smallestScroll));
-    auto* outer = new QHBoxLayout(content);
-    outer->setContentsMargins(0, 0, 0, 0);
-    auto* page = new QWidget;
-    page->setMaximumWidth(widest);
-    page_ = new QVBoxLayout(page);
-    addTitle(page_);
-
+QWidget* MainWindow::makeUpper() {
     auto* upper = new QWidget;
     upper_ = new QVBoxLayout(upper);
     upper_->setContentsMargins(0, 0, 0, 0);
@@ -132,15 +137,22 @@ QWidget* MainWindow::makeContent() {
     scroll_->viewport()->setAutoFillBackground(false);
     upper->setAutoFillBackground(false);
     scroll_->setFocusPolicy(Qt::NoFocus);
-    page_->addWidget(scroll_);
+    return scroll_;
+}
 
+QWidget* MainWindow::makeContent() {
+    auto* content = new QWidget;
+    auto* outer = new QHBoxLayout(content);
+    outer->setContentsMargins(0, 0, 0, 0);
+    sheet_ = new QWidget;
+    page_ = new QVBoxLayout(sheet_);
+    addTitle(page_);
+    page_->addWidget(makeUpper());
     results_ = new ResultCards(desk_);
-    results_->setMinimumHeight(smallestCards);
-    results_->setMaximumHeight(200);
     page_->addWidget(results_, 1);
     page_->addStretch(0);
     outer->addStretch(0);
-    outer->addWidget(page, 1);
+    outer->addWidget(sheet_, 1);
     outer->addStretch(0);
     return content;
 }
@@ -196,21 +208,65 @@ void MainWindow::syncNotice() {
     notice_->setVisible(screen.pnlNotice.Visible && !desk_.design().isOpen(WindowId::frmStart));
 }
 
-// The rows get smaller as soon as they do not fit otherwise; smaller still, strip and table scroll.
+// On a very large screen the middle and the docks are shown larger; bars, dialogs and status line stay.
+void MainWindow::chooseZoom() {
+    const double zoom = size().expandedTo(largeFrom) == size() ? largeZoom : 1;
+    if (zoom == zoom_)
+        return;
+    zoom_ = zoom;
+    setZoom(*centralWidget(), zoom);
+    emit zoomChanged(zoom);
+}
+
 void MainWindow::chooseSize() {
-    const int inner = centralWidget()->height();
-    const int strip = strip_->sizeHint().height();
-    const bool compact = inner < heightWith(usual, strip + table_->heightOf(false));
-    const Spacing& spacing = compact ? tight : usual;
-    table_->setCompact(compact);
-    page_->setSpacing(spacing.gap);
-    page_->setContentsMargins(pageMargin, spacing.top, pageMargin, spacing.bottom);
-    upper_->setSpacing(spacing.gap);
-    title_->setFont(textFont(compact ? TextStyle::CompactTitle : TextStyle::Title));
-    const int wanted = strip + spacing.gap + table_->heightOf(compact);
-    const int others = heightWith(spacing, 0) - spacing.gap;
-    scroll_->setFixedHeight(std::clamp(inner - others, smallestScroll, wanted));
-    menus_->setNarrow(width() < narrow);
+    chooseZoom();
+    const auto figure = [this](int pixels) { return static_cast<int>(pixels / zoom_); };
+    const QSize middle = centralWidget()->size();
+    const int width = std::min(figure(middle.width()), widest) - 2 * pageMargin;
+    const TableColumns columns = tableColumns(table_->shape(), width);
+    const PageRoom room{figure(middle.height()), desk_.study().NumLevels, columns.narrow,
+                        columns.sideways ? tableBarHeight : 0};
+    const Laid laid{pageSizes(room), columns.narrow, zoom_};
+    if (laid != laid_)
+        place(laid);
+    title_->setToolTip(laid.sizes.sense ? QString() : sense_->text());
+    menus_->setNarrow(columns.narrow || this->width() < narrowBelow);
+    saved_->setMaximumWidth(this->width() * 2 / 5);
+}
+
+void MainWindow::place(const Laid& laid) {
+    laid_ = laid;
+    const PageSizes& sizes = laid.sizes;
+    const auto zoomed = [this](int length) { return desktop::zoomed(*sheet_, length); };
+    sheet_->setMaximumWidth(zoomed(widest));
+    centralWidget()->setMinimumHeight(zoomed(smallestPage()));
+    page_->setSpacing(zoomed(sizes.gap));
+    page_->setContentsMargins(zoomed(pageMargin), zoomed(sizes.top), zoomed(pageMargin),
+                              zoomed(sizes.bottom));
+    upper_->setSpacing(zoomed(sizes.gap));
+    titles_->setFixedHeight(zoomed(sizes.title));
+    setTextStyle(*title_, sizes.compact ? TextStyle::CompactTitle : TextStyle::Title);
+    sense_->setVisible(sizes.sense);
+    strip_->setSizes(sizes, laid.narrow);
+    table_->setSizes(sizes);
+    strip_->setFixedHeight(zoomed(sizes.strip));
+    table_->setFixedHeight(zoomed(sizes.table));
+    const bool scrolls = sizes.upper < sizes.strip + sizes.gap + sizes.table;
+    const int whole = strip_->minimumHeight() + upper_->spacing() + table_->minimumHeight();
+    scroll_->setFixedHeight(scrolls ? zoomed(sizes.upper) : whole);
+    results_->setMinimumHeight(zoomed(smallestCards));
+    results_->setMaximumHeight(zoomed(sizes.cards));
+}
+
+void MainWindow::keepInSight(QWidget* focused) {
+    if (focused != nullptr && scroll_->widget()->isAncestorOf(focused))
+        scroll_->ensureWidgetVisible(focused, 0, pageMargin);
+}
+
+int MainWindow::roomyMiddle() const { return zoomed(*sheet_, wideTable(table_->shape()) + 2 * pageMargin); }
+
+int MainWindow::smallestMiddle() const {
+    return zoomed(*sheet_, narrowTable(table_->shape()) + 2 * pageMargin);
 }
 
 QWidget* MainWindow::cell(const std::string& panel) const {
@@ -219,10 +275,16 @@ QWidget* MainWindow::cell(const std::string& panel) const {
     return strip_->cell(panel);
 }
 
+// Docks take room from the middle while the window keeps its size.
+bool MainWindow::eventFilter(QObject* watched, QEvent* event) {
+    if (watched == centralWidget() && event->type() == QEvent::Resize)
+        chooseSize();
+    return QMainWindow::eventFilter(watched, event);
+}
+
 void MainWindow::resizeEvent(QResizeEvent* event) {
     QMainWindow::resizeEvent(event);
-    if (table_ != nullptr)
-        chooseSize();
+    chooseSize();
 }
 
 // Minimised, the floating windows make way; maximised, they come back.

@@ -1,9 +1,5 @@
-// The windows as such: floating ones open, close and make way; the end asks; nothing is cut off or pale.
-#include <QLabel>
-#include <QScrollArea>
-
+// The windows as such: floating ones open, close and make way; the end asks; nothing is pale.
 #include "desktop/desk_application.h"
-#include "desktop/effect_strip.h"
 #include "desktop/kit/theme.h"
 #include "desktop/level_table.h"
 #include "desktop_bench.h"
@@ -85,33 +81,6 @@ protected:
         const QPixmap picture = window.grab();
         return picture.toImage().pixelColor((QPointF(point) * picture.devicePixelRatio()).toPoint());
     }
-    static bool isWhole(const QWidget& widget) {
-        return widget.visibleRegion().boundingRect() == widget.rect();
-    }
-
-    /// Visible widgets that stand out of their parent where nothing scrolls, and labels too small for their
-    /// words.
-    std::string cutOff() const {
-        std::string found;
-        for (const QWidget* widget : window.findChildren<QWidget*>()) {
-            if (!widget->isVisible() || widget->isWindow())
-                continue;
-            const auto* area = qobject_cast<QScrollArea*>(widget->parentWidget()->parentWidget());
-            const auto* label = qobject_cast<const QLabel*>(widget);
-            const bool scrolls = area != nullptr && area->widget() == widget;
-            if (!scrolls && !widget->parentWidget()->rect().contains(widget->geometry()))
-                found.append(widget->metaObject()->className()).append("; ");
-            if (label != nullptr && !label->wordWrap() && label->sizeHint().width() > label->width())
-                found.append(label->text().toStdString()).append("; ");
-        }
-        QRegion taken;
-        for (const ValueCell* cell : window.findChild<LevelTable*>()->findChildren<ValueCell*>()) {
-            if (cell->isVisible() && taken.intersects(cell->geometry()))
-                found.append(cell->accessibleName().toStdString()).append("; ");
-            taken += cell->isVisible() ? cell->geometry() : QRect();
-        }
-        return found;
-    }
 };
 
 TEST_F(Look, TheDarkSetRepaintsEverything) {
@@ -124,26 +93,6 @@ TEST_F(Look, TheDarkSetRepaintsEverything) {
                   QColor(dark ? "#1F2228" : "#FFFFFF"));
         EXPECT_EQ(pixel(cell("pnlNT(1)").mapTo(&window, QPoint(12, 14))),
                   QColor(dark ? "#2A2E36" : "#F1F3F7"));
-    }
-}
-
-TEST_F(Look, NothingIsCutOffOnSmallScreens) {
-    for (const double levels : {2.0, 3.0, 4.0}) {
-        for (const QSize size : {QSize(1920, 1080), QSize(1280, 720), QSize(1280, 650), QSize(1000, 600)}) {
-            set({{"NumLevels", levels}, {"RandomizedLevel", 2.0}});
-            window.resize(size);
-            settle();
-            const std::string where =
-                QStringLiteral("%1, height %2").arg(levels).arg(size.height()).toStdString();
-            EXPECT_EQ(window.size(), size) << where << ", is " << window.height();
-            EXPECT_EQ(cutOff(), "") << where;
-            for (const FigureCard* card : window.findChildren<FigureCard*>())
-                EXPECT_TRUE(isWhole(*card) && card->height() >= 88) << where;
-            if (size.width() >= 1280) {
-                EXPECT_TRUE(isWhole(*window.findChild<LevelTable*>())) << where;
-                EXPECT_TRUE(isWhole(*window.findChild<EffectStrip*>())) << where;
-            }
-        }
     }
 }
 

@@ -28,8 +28,12 @@ QString ElidedLabel::fitting() const {
 bool ElidedLabel::event(QEvent* event) {
     if (event->type() != QEvent::ToolTip)
         return QLabel::event(event);
-    const QString rest = fitting() == text() ? QString() : text();
-    QToolTip::showText(static_cast<QHelpEvent*>(event)->globalPos(), rest, this);
+    QStringList lines;
+    if (fitting() != text())
+        lines.append(text());
+    if (!toolTip().isEmpty())
+        lines.append(toolTip());
+    QToolTip::showText(static_cast<QHelpEvent*>(event)->globalPos(), lines.join(QLatin1Char('\n')), this);
     return true;
 }
 
