@@ -4,7 +4,6 @@
 #include <QApplication>
 #include <QDataStream>
 #include <QIODevice>
-#include <QMainWindow>
 #include <QPointer>
 #include <QScopedValueRollback>
 #include <QScreen>
@@ -15,6 +14,7 @@
 #include "desktop/floating_stage.h"
 #include "desktop/kit/panel_dock.h"
 #include "desktop/kit/zoom.h"
+#include "desktop/main_window.h"
 #include "desktop/panel_view.h"
 
 namespace lorvane::desktop {
@@ -31,7 +31,6 @@ constexpr DockRow rows[] = {
 
 constexpr int usualWidth = 400, smallestWidth = 360, largestWidth = 480;
 constexpr int separator = 1;
-constexpr int leastMiddle = 964;
 constexpr int floatingHeight = 396;  // of a panel without a height of its own
 
 // Widths and heights in both directions at once.
@@ -48,8 +47,7 @@ const DockRow* dockRowOf(std::string_view window) {
     return found == std::end(rows) ? nullptr : found;
 }
 
-Docks::Docks(QMainWindow& window, std::function<int()> roomyMiddle)
-    : window_(window), roomyMiddle_(std::move(roomyMiddle)) {
+Docks::Docks(MainWindow& window) : window_(window) {
     window.setDockOptions(QMainWindow::AllowTabbedDocks | QMainWindow::AllowNestedDocks);
     window.setCorner(Qt::TopRightCorner, Qt::RightDockWidgetArea);
     window.setTabPosition(Qt::RightDockWidgetArea, QTabWidget::North);
@@ -95,7 +93,7 @@ bool Docks::standsAside(const PanelView& view) const { return isShown(view) && !
 void Docks::show(PanelView& view) {
     const QScopedValueRollback busy(busy_, true);
     Entry& entry = entryOf(view);
-    if (!entry.floats.value_or(!makeRoom(entry, roomyMiddle_())))
+    if (!entry.floats.value_or(!makeRoom(entry, window_.roomyMiddle())))
         dockIn(entry);
     else
         floatOut(entry);
@@ -155,7 +153,7 @@ void Docks::movedByUser(Entry& entry, bool floats) {
         const QScopedValueRollback busy(busy_, true);
         if (floats)
             lorvane::desktop::setZoom(*entry.dock, 1);
-        else if (!makeRoom(entry, leastMiddle))
+        else if (!makeRoom(entry, window_.smallestMiddle()))
             entry.dock->setFloating(true);
         const bool isFloating = entry.dock->isFloating();
         if (isFloating)
@@ -207,11 +205,14 @@ bool Docks::makeRoom(const Entry& newcomer, int least) {
     return true;
 }
 
-// The window keeps the width that the user has given it since.
 void Docks::giveRoomBack() {
-    if (grown_ == 0 || !docked().empty())
-        return;
-    if (window_.width() == widthGrownTo_ && !window_.isMaximized())
+    if (docked().empty())
+        shrinkWindow();
+}
+
+// The window keeps the width that the user has given it since.
+void Docks::shrinkWindow() {
+    if (grown_ > 0 && window_.width() == widthGrownTo_ && !window_.isMaximized())
         window_.resize(window_.width() - grown_, window_.height());
     grown_ = 0;
 }
@@ -328,7 +329,7 @@ QByteArray Docks::state() const {
     QByteArray bytes;
     QDataStream stream(&bytes, QIODevice::WriteOnly);
     for (const Entry& entry : entries_) {
-        const bool isFloating = entry.dock->isVisible() && entry.dock->isFloating();
+        const bool isFloating = !entry.dock->isHidden() && entry.dock->isFloating();
         stream << QByteArray(entry.row->window.data()) << entry.floats.has_value()
                << entry.floats.value_or(false) << (isFloating ? entry.dock->geometry() : entry.place);
     }

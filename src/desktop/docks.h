@@ -2,7 +2,6 @@
 // are.
 #pragma once
 
-#include <functional>
 #include <optional>
 #include <string_view>
 #include <vector>
@@ -14,10 +13,9 @@
 #include "desktop/dock_plan.h"
 #include "desktop/panel_stage.h"
 
-class QMainWindow;
-
 namespace lorvane::desktop {
 
+class MainWindow;
 class PanelDock;
 
 /// A panel that docks.
@@ -37,8 +35,7 @@ class Docks final : public QObject, public PanelStage {
     Q_OBJECT
 
 public:
-    /// The middle of the window is roomy from a width on, which depends on the study.
-    Docks(QMainWindow& window, std::function<int()> roomyMiddle);
+    explicit Docks(MainWindow& window);
 
     /// Takes the panel of a view in, hidden.
     void add(PanelView& view, const DockRow& row);
@@ -54,6 +51,9 @@ public:
 
     /// Moves floating ones away from what is worked on and outlined.
     void keepClear();
+
+    /// Takes back what the window has grown by for its docks, before its width is remembered.
+    void shrinkWindow();
 
     /// Where the user has put the panels, and back again. What does not fit is left out.
     QByteArray state() const;
@@ -89,8 +89,7 @@ private:
     void arrangeSoon();
     int scaled(int length) const;
 
-    QMainWindow& window_;
-    std::function<int()> roomyMiddle_;
+    MainWindow& window_;
     std::vector<Entry> entries_;
     std::vector<std::vector<PanelDock*>> arranged_;  ///< as they are stacked now
     double zoom_ = 1;

@@ -70,9 +70,12 @@ int run(desktop::DeskApplication& qt, const QString& file) {
     desktop::CrashGuard guard(desk, unsaved);
     desktop::WindowMemory memory(settings);
     memory.restore(window);
+    panels.docks().restore(memory.state("Docks"));
     window.show();
     desk.start(file);
     const int code = QApplication::exec();
+    memory.setState("Docks", panels.docks().state());
+    panels.docks().shrinkWindow();
     memory.save(window);
     guard.finish();
     return code;

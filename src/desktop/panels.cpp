@@ -18,16 +18,6 @@
 
 namespace lorvane::desktop {
 
-namespace {
-
-// A table of two or three levels without dispersion of effects is narrower.
-int roomyMiddle(const Desk& desk) {
-    const bool isNarrow = desk.study().NumLevels <= 3 && !desk.design().screen().head(HeadId::effect).Visible;
-    return isNarrow ? 1014 : 1130;
-}
-
-}  // namespace
-
 template <typename View, typename... More>
 void Panels::add(FirstPlace place, More&&... more) {
     auto* panel = new ToolPanel(QString(), &window_);
@@ -45,14 +35,15 @@ void Panels::add(FirstPlace place, More&&... more) {
 }
 
 Panels::Panels(Desk& desk, MainWindow& window)
-    : desk_(desk), window_(window), docks_(window, [&desk] { return roomyMiddle(desk); }),
-      floating_{FloatingStage(window, FirstPlace::centre), FloatingStage(window, FirstPlace::besideCell),
-                FloatingStage(window, FirstPlace::clearSight)},
+    : desk_(desk), window_(window), docks_(window), floating_{FloatingStage(window, FirstPlace::centre),
+                                                              FloatingStage(window, FirstPlace::besideCell),
+                                                              FloatingStage(window, FirstPlace::clearSight)},
       ring_(window) {
     addStudyPanels();
     addScreens();
     addDialogs();
     connect(&desk_, &Desk::shown, this, &Panels::follow);
+    connect(&window_, &MainWindow::zoomChanged, &docks_, &Docks::setZoom);
     connect(&ring_, &FocusRing::movedInMainWindow, this, &Panels::keepClear);
     follow();
 }

@@ -271,7 +271,9 @@ TEST_F(SizesLook, TheWordsAtTheRightDoNotMove) {
     const auto labels = window.statusBar()->findChildren<QLabel*>();
     QLabel* saved = labels.last();
     const QRect place = saved->geometry();
-    emit desk.hinted(QStringLiteral("A hint that is much longer than the line. ").repeated(6));
+    cell("pnlD").setAccessibleDescription(
+        QStringLiteral("A hint that is much longer than the line. ").repeated(6));
+    cell("pnlD").setFocus();
     settle();
     EXPECT_EQ(saved->geometry(), place);
     EXPECT_GE(saved->width(), saved->sizeHint().width());
