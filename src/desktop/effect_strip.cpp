@@ -242,8 +242,8 @@ void EffectStrip::paintEvent(QPaintEvent* event) {
 
 ValueCell* EffectStrip::firstCell() const {
     const auto shown = std::find_if(cells_.begin(), cells_.end(),
-                                    [](const auto& entry) { return !entry.second.box->isHidden(); });
-    return shown == cells_.end() ? nullptr : shown->first->widget();
+                                    [](const auto& cell) { return !cell->widget()->isHidden(); });
+    return shown == cells_.end() ? nullptr : (*shown)->widget();
 }
 
 ValueCell* EffectStrip::cell(const std::string& panel) const {

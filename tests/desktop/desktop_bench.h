@@ -68,12 +68,14 @@ struct PaperlessPress final : DocumentPress {
     std::unique_ptr<DocumentSurface> start(const PageSetup& page) override { return inner.start(page); }
     std::string pdf(const Document& document) override { return inner.pdf(document); }
     std::string picture(const Document& document, int page) override { return inner.picture(document, page); }
-    bool print(const Document&, std::optional<int>) override {
+    bool print(const Document& document, std::optional<int>) override {
         ++asked;
+        last = document;
         return false;
     }
     QtDocumentPress inner;
     int asked = 0;  ///< to print
+    Document last;  ///< that was to be printed
 };
 
 class DesktopBench : public testing::Test {

@@ -243,6 +243,7 @@ TEST_F(Messages, AboutAndTheKeysAreReachedFromHelp) {
     }
     desk.click("frmKeyboard.cmdPrint");
     EXPECT_EQ(press.asked, 1);
+    EXPECT_TRUE(press.inner.pdf(press.last).starts_with("%PDF"));
 }
 
 }  // namespace

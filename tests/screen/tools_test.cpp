@@ -58,8 +58,7 @@ struct Tools : ScreenTest {
     }
 
     const std::vector<Texts> groups = choiceGroups();
-    const std::set<std::string> speaking = {"Exit", "About",  "Clear",           "Open",
-                                            "Save", "SaveAs", "Restore scenario"};
+    const std::set<std::string> speaking = {"Exit", "Clear", "Open", "Save", "SaveAs", "Restore scenario"};
 };
 
 TEST_F(Tools, EachOneInEveryDesign) {
