@@ -3,10 +3,12 @@
 #include "desktop/kit/kit_style.h"
 
 #include <QDialogButtonBox>
+#include <QMenu>
 #include <QPainter>
 #include <QStyleOption>
 
 #include "desktop/kit/icons.h"
+#include "desktop/kit/menu_painting.h"
 #include "desktop/kit/painting.h"
 #include "desktop/kit/plain_text.h"
 #include "desktop/kit/theme.h"
@@ -54,9 +56,9 @@ void paintCheck(QPainter& painter, const QStyleOption& option) {
         drawIcon(painter, Icon::Check, area.adjusted(1, 1, -1, -1), colour(Role::OnAccent));
 }
 
-void paintMenuCheck(QPainter& painter, const QStyleOption& option) {
-    drawIcon(painter, Icon::Check, signArea(option), colour(Role::Accent));
-}
+void paintSheet(QPainter& painter, const QStyleOption& option) { paintMenuSheet(painter, option.rect); }
+
+void paintNothing(QPainter&, const QStyleOption&) {}
 
 struct SignPainter {
     QStyle::PrimitiveElement element;
@@ -66,7 +68,8 @@ struct SignPainter {
 constexpr SignPainter SignPainters[] = {
     {QStyle::PE_IndicatorRadioButton, paintRadio},
     {QStyle::PE_IndicatorCheckBox, paintCheck},
-    {QStyle::PE_IndicatorMenuCheckMark, paintMenuCheck},
+    {QStyle::PE_PanelMenu, paintSheet},
+    {QStyle::PE_FrameMenu, paintNothing},
 };
 
 struct Metric {
@@ -75,9 +78,11 @@ struct Metric {
 };
 
 constexpr Metric Metrics[] = {
-    {QStyle::PM_ExclusiveIndicatorWidth, SignSize},  {QStyle::PM_ExclusiveIndicatorHeight, SignSize},
-    {QStyle::PM_IndicatorWidth, SignSize},           {QStyle::PM_IndicatorHeight, SignSize},
-    {QStyle::PM_RadioButtonLabelSpacing, SignSpace}, {QStyle::PM_CheckBoxLabelSpacing, SignSpace},
+    {QStyle::PM_ExclusiveIndicatorWidth, SignSize}, {QStyle::PM_ExclusiveIndicatorHeight, SignSize},
+    {QStyle::PM_IndicatorWidth, SignSize},          {QStyle::PM_IndicatorHeight, SignSize},
+    {QStyle::PM_MenuPanelWidth, MenuFrame},         {QStyle::PM_MenuHMargin, 0},
+    {QStyle::PM_MenuVMargin, MenuPadding},          {QStyle::PM_RadioButtonLabelSpacing, SignSpace},
+    {QStyle::PM_CheckBoxLabelSpacing, SignSpace},
 };
 
 }  // namespace
@@ -86,6 +91,8 @@ KitStyle::KitStyle() : QProxyStyle(QStringLiteral("Fusion")) {}
 
 void KitStyle::polish(QWidget* widget) {
     keepPlain(*widget);
+    if (auto* menu = qobject_cast<QMenu*>(widget))
+        menu->setAttribute(Qt::WA_TranslucentBackground);
     QProxyStyle::polish(widget);
 }
 
@@ -116,6 +123,26 @@ void KitStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* optio
                 return painter->restore();
             }
     QProxyStyle::drawPrimitive(element, option, painter, widget);
+}
+
+QSize KitStyle::sizeFromContents(ContentsType type, const QStyleOption* option, const QSize& contents,
+                                 const QWidget* widget) const {
+    const auto* entry = qstyleoption_cast<const QStyleOptionMenuItem*>(option);
+    if (type != CT_MenuItem || entry == nullptr || Theme::current().isHighContrast())
+        return QProxyStyle::sizeFromContents(type, option, contents, widget);
+    return menuEntrySize(*entry, contents.width());
+}
+
+void KitStyle::drawControl(ControlElement element, const QStyleOption* option, QPainter* painter,
+                           const QWidget* widget) const {
+    const auto* entry = qstyleoption_cast<const QStyleOptionMenuItem*>(option);
+    if (Theme::current().isHighContrast() || (element != CE_MenuItem && element != CE_MenuEmptyArea))
+        return QProxyStyle::drawControl(element, option, painter, widget);
+    if (element == CE_MenuEmptyArea || entry == nullptr)
+        return;
+    painter->save();
+    paintMenuEntry(*painter, *entry, styleHint(SH_UnderlineShortcut, option, widget));
+    painter->restore();
 }
 
 }  // namespace lorvane::desktop

@@ -1,5 +1,5 @@
-// The application style: Fusion, with radio and check signs that keep their outline in the dark set, and with
-// labels that are plain.
+// The application style: Fusion, with radio and check signs that keep their outline in the dark set, with
+// menus of our own, and with labels that are plain.
 #pragma once
 
 #include <QProxyStyle>
@@ -14,7 +14,7 @@ class KitStyle : public QProxyStyle {
 public:
     KitStyle();
 
-    /// Makes labels plain.
+    /// Makes labels plain and the corners of menus round.
     using QProxyStyle::polish;
     void polish(QWidget* widget) override;
 
@@ -27,6 +27,12 @@ public:
     int pixelMetric(PixelMetric metric, const QStyleOption* option, const QWidget* widget) const override;
     void drawPrimitive(PrimitiveElement element, const QStyleOption* option, QPainter* painter,
                        const QWidget* widget) const override;
+
+    /// The entries of menus: how large they are, and their painting.
+    QSize sizeFromContents(ContentsType type, const QStyleOption* option, const QSize& contents,
+                           const QWidget* widget) const override;
+    void drawControl(ControlElement element, const QStyleOption* option, QPainter* painter,
+                     const QWidget* widget) const override;
 };
 
 }  // namespace lorvane::desktop

@@ -15,12 +15,7 @@ QMenuBar[narrow="true"]::item { padding: 5px 7px; }
 QMenuBar::item:selected, QMenuBar::item:pressed { background: @field; }
 QMenuBar::item:disabled { color: @quiet; }
 
-QMenu { background: @card; border: 1px solid @line; padding: 6px; }
-QMenu::item { color: @text; padding: 6px 22px 6px 10px; border-radius: 4px; min-width: 150px; }
-QMenu::item:selected { background: @accentTint; }
-QMenu::item:disabled { color: @quiet; background: transparent; }
-QMenu::separator { height: 1px; background: @line; margin: 6px 4px; }
-QMenu::icon { padding-left: 6px; }
+QToolTip { background: @card; color: @text; border: 1px solid @strongLine; padding: 4px 7px; }
 
 QToolBar { background: @bar; border: none; border-bottom: 1px solid @line; spacing: 0; padding: 0; }
 QToolBar::separator { width: 1px; background: @line; margin: 11px 7px; }

@@ -86,6 +86,8 @@ constexpr PaletteEntry PaletteTable[] = {
     {QPalette::HighlightedText, Role::OnAccent},
     {QPalette::Link, Role::Accent},
     {QPalette::LinkVisited, Role::Accent},
+    {QPalette::ToolTipBase, Role::Card},
+    {QPalette::ToolTipText, Role::Text},
 };
 
 constexpr PaletteEntry DisabledTable[] = {

@@ -18,7 +18,7 @@ constexpr int AloneWidth = 38;
 
 ToolButton::ToolButton(QAction* action, Words words, QWidget* parent) : QToolButton(parent) {
     setDefaultAction(action);
-    setAccessibleName(action->toolTip());
+    setAccessibleName(action->statusTip().isEmpty() ? action->toolTip() : action->statusTip());
     setWords(words);
 }
 
