@@ -68,6 +68,8 @@ void CellBinding::connectEvents(Menus& menus) {
     });
     QObject::connect(widget_, &ValueCell::stepFinished, &desk_, [this] { desk_.spinReleased(); });
     QObject::connect(widget_, &ValueCell::activated, &desk_, [this] { desk_.openValue(field_.name()); });
+    QObject::connect(widget_, &ValueCell::typed, &desk_,
+                     [this](const QString& text) { desk_.openValue(field_.name(), text.toStdString()); });
     QObject::connect(widget_, &ValueCell::linkToggled, &desk_, [this] { desk_.toggleLink(field_); });
     QObject::connect(widget_, &ValueCell::clicked, &desk_, [this] { desk_.click(panel_); });
     QObject::connect(widget_, &ValueCell::contextMenuRequested, &desk_,

@@ -9,6 +9,7 @@
 #include <QLabel>
 #include <QMenuBar>
 #include <QMimeData>
+#include <QPointer>
 #include <QScreen>
 #include <QScrollArea>
 #include <QStatusBar>
@@ -53,6 +54,15 @@ QString studyOf(const QMimeData* dragged) {
     const QList<QUrl> urls = dragged->urls();
     const QString path = urls.size() == 1 ? urls.constFirst().toLocalFile() : QString();
     return path.endsWith(QLatin1String(".Lorvane"), Qt::CaseInsensitive) ? path : QString();
+}
+
+// What is told of a widget with the focus ring.
+QString hintOf(const QWidget& widget) {
+    for (const QString& text : {widget.accessibleDescription(), widget.toolTip()}) {
+        if (!text.isEmpty())
+            return text;
+    }
+    return widget.accessibleName();
 }
 
 }  // namespace
@@ -159,6 +169,7 @@ QWidget* MainWindow::makeContent() {
 
 void MainWindow::sync() {
     const MainScreen& screen = desk_.design().screen();
+    const QPointer<QWidget> focus = focusWidget();
     setWindowTitle(literalTitle(shownText(desk_.design().SetCaption())));
     title_->setText(shownText(screen.pnlTitle.Caption));
     sense_->setText(shownText(screen.pnlSense.Caption));
@@ -167,6 +178,7 @@ void MainWindow::sync() {
     results_->sync();
     menus_->sync();
     saved_->setText(shownText(desk_.design().savedWords()));
+    keepFocus(focus);
     syncStatus();
     syncNotice();
     chooseSize();
@@ -182,8 +194,26 @@ void MainWindow::syncStatus() {
     if (!status.isEmpty())
         hint_->setText(status);
     else if (focus != nullptr)
-        hint_->setText(focus->accessibleDescription().isEmpty() ? focus->toolTip()
-                                                                : focus->accessibleDescription());
+        hint_->setText(hintOf(*focus));
+}
+
+// Where the value with the focus is no longer shown, the nearest one takes its place.
+void MainWindow::keepFocus(QWidget* former) {
+    if (qobject_cast<ValueCell*>(former) == nullptr || !former->isHidden())
+        return;
+    const QPoint place = former->mapTo(this, former->rect().center());
+    ValueCell* nearest = nullptr;
+    const auto distance = [&](const QWidget* cell) {
+        return (cell->mapTo(this, cell->rect().center()) - place).manhattanLength();
+    };
+    for (ValueCell* cell : findChildren<ValueCell*>()) {
+        const bool takesTab =
+            cell->isVisible() && cell->window() == this && cell->focusPolicy() == Qt::StrongFocus;
+        if (takesTab && (nearest == nullptr || distance(cell) < distance(nearest)))
+            nearest = cell;
+    }
+    if (nearest != nullptr)
+        nearest->setFocus(Qt::OtherFocusReason);
 }
 
 // The keyboard begins each study at its first value. The widgets know by then what they show.

@@ -76,6 +76,7 @@ private:
     void focusFirstValue();
     void syncNotice();
     void chooseZoom();
+    void keepFocus(QWidget* former);
     void chooseSize();
     void place(const Laid& laid);
     void keepInSight(QWidget* focused);
