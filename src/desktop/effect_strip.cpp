@@ -1,8 +1,10 @@
 // The strip of the effect.
 #include "desktop/effect_strip.h"
 
+#include <QContextMenuEvent>
 #include <QFontMetricsF>
 #include <QLabel>
+#include <QMouseEvent>
 #include <QPainter>
 #include <algorithm>
 #include <cmath>
@@ -33,13 +35,15 @@ struct CellRow {
     const char* panel;
     bool large;
     int width;
+    const char* headMenu;  ///< band of a right click on the caption
 };
 
 // The scale of the outcome begins with its mean, behind a line.
 constexpr std::size_t meanRow = 6;
-constexpr CellRow cellRows[] = {{"pnlPrev", false, 94}, {"pnlD", true, 112},  {"pnlOR", true, 112},
-                                {"pnlRR", true, 112},   {"pnlRD", true, 112}, {"pnlP2", true, 112},
-                                {"pnlMean", false, 96}, {"pnlSD", false, 96}};
+constexpr CellRow cellRows[] = {{"pnlPrev", false, 94, "popPrevalence"}, {"pnlD", true, 112, "popDesign"},
+                                {"pnlOR", true, 112, "popDesign"},       {"pnlRR", true, 112, "popDesign"},
+                                {"pnlRD", true, 112, "popDesign"},       {"pnlP2", true, 112, "popDesign"},
+                                {"pnlMean", false, 96, "popMean"},       {"pnlSD", false, 96, "popSD"}};
 
 bool isMarked(const MainScreen& screen, const std::string& panel) {
     for (int number = 1; number <= screen.outlines.last; ++number) {
@@ -64,7 +68,7 @@ EffectStrip::EffectStrip(Desk& desk, Menus& menus, QWidget* parent)
     for (const CellRow& row : cellRows) {
         auto* widget = new ValueCell(ValueCell::Kind::Spin, this);
         widget->setLarge(row.large);
-        addField(widget, row.width);
+        addField(widget, row.width).caption->installEventFilter(this);
         cells_.push_back(std::make_unique<CellBinding>(
             desk_, menus, FieldRef{&fieldOfCell(screen, row.panel), 0}, screen.cell(row.panel), widget));
     }
@@ -85,6 +89,21 @@ EffectStrip::Field& EffectStrip::addField(QWidget* widget, int width) {
     field.widget = widget;
     field.width = width;
     return field;
+}
+
+// A click on a caption asks for the details of its value, a right click opens its menu.
+bool EffectStrip::eventFilter(QObject* watched, QEvent* event) {
+    const auto field = std::find_if(fields_.begin(), fields_.end(),
+                                    [&](const Field& entry) { return entry.caption == watched; });
+    const auto number = static_cast<std::size_t>(field - fields_.begin());
+    if (number >= cells_.size())
+        return Card::eventFilter(watched, event);
+    if (event->type() == QEvent::MouseButtonPress &&
+        static_cast<QMouseEvent*>(event)->button() == Qt::LeftButton)
+        desk_.click(cells_[number]->panel());
+    if (event->type() == QEvent::ContextMenu)
+        menus_.popup(cellRows[number].headMenu, static_cast<QContextMenuEvent*>(event)->globalPos());
+    return false;
 }
 
 NumberLabel* EffectStrip::makeNumber() {
@@ -120,8 +139,8 @@ void EffectStrip::syncOthers() {
     const MainScreen& screen = desk_.design().screen();
     show(*otherForm_, screen.lblOther.Visible, screen.lblOther.Caption, screen.lblOther.Caption);
     otherFormValue_->setText(shownText(screen.pnlOther.Caption));
-    show(*derived_, screen.SSPanel10.Visible, "", "");
-    derivedValue_->setText(shownText(screen.SSPanel10.Caption));
+    show(*derived_, screen.lblDerived.Visible, screen.lblDerived.Caption, screen.lblDerived.Caption);
+    derivedValue_->setText(shownText(screen.pnlDerived.Caption));
     show(*alphaField_, true, screen.lblAlpha.Caption, screen.lblAlpha.Caption);
     alpha_->setAccessibleName(alphaField_->words);
 }

@@ -42,6 +42,9 @@ protected:
     void resizeEvent(QResizeEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
 
+protected:
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
 private:
     /// A caption over a widget, shown and hidden together. A width of 0 is that of the widget's text.
     struct Field {

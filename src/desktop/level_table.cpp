@@ -3,6 +3,7 @@
 
 #include <QContextMenuEvent>
 #include <QLabel>
+#include <QMouseEvent>
 #include <QPainter>
 #include <QScrollBar>
 #include <QSignalBlocker>
@@ -98,13 +99,19 @@ void LevelTable::addHeads() {
     }
 }
 
-// A click on a head asks for the details of its column, a right click opens its menu.
+// A click on a head or a name asks for the details of its column, a right click on a head opens its menu.
 bool LevelTable::eventFilter(QObject* watched, QEvent* event) {
+    const bool clicked = event->type() == QEvent::MouseButtonPress &&
+                         static_cast<QMouseEvent*>(event)->button() == Qt::LeftButton;
+    for (int level = lowestLevel; clicked && level <= highestLevel; ++level) {
+        if (watched == names_(level))
+            desk_.click(indexedName("pnlName", level));
+    }
     const auto head = std::find(heads_.begin(), heads_.end(), watched);
     if (head == heads_.end())
         return Card::eventFilter(watched, event);
     const Head& model = desk_.design().screen().heads[static_cast<std::size_t>(head - heads_.begin())];
-    if (event->type() == QEvent::MouseButtonPress)
+    if (clicked)
         desk_.click(model.column);
     if (event->type() == QEvent::ContextMenu)
         menus_.popup(model.menu, static_cast<QContextMenuEvent*>(event)->globalPos());
@@ -113,6 +120,7 @@ bool LevelTable::eventFilter(QObject* watched, QEvent* event) {
 
 void LevelTable::addLevel(Menus& menus, int level) {
     names_(level) = new LevelName(this);
+    names_(level)->installEventFilter(this);
     names_(level)->setContextMenuPolicy(Qt::CustomContextMenu);
     connect(names_(level), &QWidget::customContextMenuRequested, this,
             [this, &menus, level](const QPoint& at) {

@@ -76,12 +76,19 @@ void ComputeES(Study& study) {
         study.ComputedOR = withoutRounding(oddsRatioOfRates(p, q));
 }
 
-std::string derivedEffectText(const Study& study) {
-    const int decimals = study.decimals.txtPrev;
+std::string derivedEffectName(const Study& study) {
     if (study.BinaryType == BinaryTypes::twoRisks)
-        return "Odds ratio " + fixedText(study.ComputedOR, decimals);
-    return "Event rate in " + lowerCased(study.treatedName()) + " group " +
-           fixedText(study.txtEvent2, decimals);
+        return "Odds ratio";
+    return "Event rate in " + lowerCased(study.treatedName()) + " group";
+}
+
+std::string derivedEffectNumber(const Study& study) {
+    const bool isRatio = study.BinaryType == BinaryTypes::twoRisks;
+    return fixedText(isRatio ? study.ComputedOR : study.txtEvent2, study.decimals.txtPrev);
+}
+
+std::string derivedEffectText(const Study& study) {
+    return derivedEffectName(study) + " " + derivedEffectNumber(study);
 }
 
 std::string effectProblemTitle(const Study& study) {

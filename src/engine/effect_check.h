@@ -16,6 +16,10 @@ void ComputeES(Study& study);
 /// risks the odds ratio.
 std::string derivedEffectText(const Study& study);
 
+/// Its two parts: what it is, and the number.
+std::string derivedEffectName(const Study& study);
+std::string derivedEffectNumber(const Study& study);
+
 /// Title and text for an effect whose rates lie outside the limits. When both rates do, the text asks for
 /// another treated rate.
 std::string effectProblemTitle(const Study& study);

@@ -109,6 +109,8 @@ void Design::writeEffect() {
         return;
     const bool good = s.result.ValidES;
     screen_.SSPanel10.Caption = good ? derivedEffectText(s) : "";
+    screen_.lblDerived.Caption = derivedEffectName(s);
+    screen_.pnlDerived.Caption = good ? derivedEffectNumber(s) : "";
     screen_.SSPanel10.ForeColor = good ? black : problemColour;
     if (good)
         return;

@@ -126,6 +126,8 @@ void addPanels(ControlRegistry& registry, const MainScreen& s) {
                                                            {"pnlAlphaTails", &s.pnlAlphaTails},
                                                            {"pnlAI", &s.pnlAI},
                                                            {"SSPanel10", &s.SSPanel10},
+                                                           {"lblDerived", &s.lblDerived},
+                                                           {"pnlDerived", &s.pnlDerived},
                                                            {"pnlStatus", &s.pnlStatus},
                                                            {"pnlNoticeTitle", &s.pnlNoticeTitle},
                                                            {"pnlNotice", &s.pnlNotice}};

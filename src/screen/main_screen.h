@@ -130,10 +130,11 @@ struct MainScreen {
     Panel lblD, lblPrev, lblP2;  ///< headings of the strip that follow the study
     Panel lblAlpha{"Alpha and tails"};
     Panel pnlAlphaTails;
-    std::string alphaBrief;  ///< the same in few words
-    Panel pnlAI;      ///< diagnostic: the tau-squared values of a blocked study of means
-    Panel SSPanel10;  ///< metric that a binary effect implies
-    Panel pnlStatus;  ///< what was done or failed last; empty otherwise
+    std::string alphaBrief;        ///< the same in few words
+    Panel pnlAI;                   ///< diagnostic: the tau-squared values of a blocked study of means
+    Panel SSPanel10;               ///< metric that a binary effect implies
+    Panel lblDerived, pnlDerived;  ///< its two parts: what it is, and the number
+    Panel pnlStatus;               ///< what was done or failed last; empty otherwise
 
     Panel pnlNoticeTitle{"", false};  ///< the card that tells why a file could not be opened
     Panel pnlNotice{"", false};

@@ -129,6 +129,7 @@ void showStrip(const Study& s, MainScreen& screen) {
     screen.pnldW.Visible = means && s.DType == DTypes::total;
     screen.lblOther.Visible = screen.pnlOther.Visible = means;
     screen.lblPrev.Visible = screen.SSPanel10.Visible = !means;
+    screen.lblDerived.Visible = screen.pnlDerived.Visible = !means;
     screen.lblP2.Visible = !means && s.BinaryType == BinaryTypes::twoRisks;
 }
 
