@@ -4,6 +4,7 @@
 #include <set>
 #include <utility>
 
+#include "app/window_rows.h"
 #include "base/arithmetic_fault.h"
 #include "base/names.h"
 #include "base/number_text.h"
@@ -129,9 +130,21 @@ void Application::tool(const std::string& name) {
         throw UseProblem("There is no tool " + inQuotes(name) + "; the nearest is \"" +
                          commands_.nearest(name) + "\".");
     if (!tool->Enabled)
-        throw UseProblem("The tool \"" + name + "\" is not on offer as the study stands (" +
-                         tool->ToolTipText + ").");
+        throw UseProblem("The tool \"" + name + "\" is not on offer as the study stands (" + tool->Reason +
+                         ").");
     handle([&] { commands_.run(name); });
+}
+
+bool Application::closesForm(const std::string& name) const {
+    const Tool* form = commands_.find(name);
+    return form != nullptr && form->Checked && !windowOfForm(name).empty();
+}
+
+void Application::toggleForm(const std::string& name) {
+    if (closesForm(name))
+        close(windowOfForm(name));
+    else
+        tool(name);
 }
 
 void Application::click(const std::string& control) {

@@ -108,6 +108,10 @@ public:
     /// is not known and ArithmeticFault when the computation cannot go on; the entered values stay then.
     void tool(const std::string& name);
     void click(const std::string& control);
+
+    /// A command of the menu of all windows: closes its window where that is open, which closesForm tells.
+    void toggleForm(const std::string& name);
+    bool closesForm(const std::string& name) const;
     void type(const std::string& control, const std::string& text);
     void select(const std::string& grid, const std::vector<std::size_t>& rows);
     void close(const std::string& window);

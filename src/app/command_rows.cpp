@@ -1,18 +1,22 @@
 // The rows of the book of commands: key, caption, tip, what it runs, how it stands, sign, keys.
 #include "app/command_rows.h"
 
+#include <algorithm>
 #include <string>
 #include <utility>
 
 #include "app/command_table.h"
 #include "app/graph_rows.h"
 #include "app/report_rows.h"
+#include "app/value_rows.h"
+#include "app/window_rows.h"
 #include "base/money.h"
 #include "base/number_text.h"
 #include "base/utf8.h"
 #include "screen/questions.h"
 #include "screen/study_text.h"
 #include "session/assignments.h"
+#include "session/field_words.h"
 
 namespace lorvane {
 
@@ -29,6 +33,14 @@ using P = const Program&;
 template <WindowId window>
 ToolState isOpen(P p) {
     return checkedIf(p.design.isOpen(window));
+}
+
+// A window of a part that some studies have nothing for.
+template <WindowId window>
+ToolState hasSubject(P p) {
+    return {.checked = p.design.isOpen(window),
+            .enabled = p.design.hasSubject(window),
+            .reason = p.design.whyNoSubject(window)};
 }
 
 template <WindowId window>
@@ -56,6 +68,9 @@ ToolState isMetricOfRisks(P p, BinaryTypes type) {
     return checkedIf(s.isBinary() && s.BinaryType == type);
 }
 
+// What the program has no text or view for yet.
+ToolState notThere(P) { return {.enabled = false, .reason = "This version does not have it"}; }
+
 // Such studies come from files; no command leads to them.
 ToolState onlyFromFiles(P p, BinaryTypes type) {
     ToolState state = isMetricOfRisks(p, type);
@@ -74,13 +89,32 @@ ToolState isTauSqMetric(P p) {
 
 std::string percentText(double power) { return shortestText(roundHalfToEven(power * 100)) + "%"; }
 
-// Undo and redo are named after the step.
 // Names of levels can be long, and the menu stays narrow.
-ToolState stepState(bool possible, const char* word, const std::string& name) {
+std::string stepCaption(const char* word, const std::string& name) {
     std::string caption = word;
     if (!name.empty())
         caption.append(" ").append(plainCaption(cutInMiddle(name, longestStepName)));
-    return {.enabled = possible, .caption = std::move(caption)};
+    return caption;
+}
+
+// Undo and redo are named after the step; menus tell the values before and after it, too.
+ToolState stepState(const char* word, const std::string& name, const SessionState* from,
+                    const SessionState* to, const char* reason) {
+    ToolState state = enabledIf(from != nullptr && to != nullptr, reason);
+    state.caption = state.shown = stepCaption(word, name);
+    if (state.enabled)
+        state.shown = stepCaption(word, beginSentence(name) + valueChange(*from, *to));
+    return state;
+}
+
+ToolState undoState(P p) {
+    return stepState("&Undo", p.session.undoName(), p.session.beforeUndo(), &p.session.state(),
+                     "Nothing was changed yet");
+}
+
+ToolState redoState(P p) {
+    return stepState("&Redo", p.session.redoName(), &p.session.state(), p.session.afterRedo(),
+                     "Nothing was undone");
 }
 
 void allowLowCellCounts(P p, bool allow) {
@@ -109,7 +143,7 @@ const CommandRow commandTable[] = {
      file,
      [](P p) { p.files.askAndOpen(""); },
      nullptr,
-     {Sign::open, false, "Ctrl+O"}},
+     {Sign::open, false, "Ctrl+O", "", true}},
     {"Save",
      "&Save",
      "Save the study",
@@ -123,7 +157,7 @@ const CommandRow commandTable[] = {
      file,
      [](P p) { p.files.FileSave(SaveMode::saveAs); },
      nullptr,
-     {Sign::none, false, "Ctrl+Shift+S"}},
+     {Sign::none, false, "Ctrl+Shift+S", "", true}},
     {"Exit",
      "E&xit",
      "Close the program",
@@ -137,17 +171,17 @@ const CommandRow commandTable[] = {
      "Take the last step back",
      command,
      [](P p) { p.session.undo(); },
-     [](P p) { return stepState(p.session.undoDepth() > 0, "&Undo", p.session.undoName()); },
+     undoState,
      {Sign::undo, false, "Ctrl+Z"}},
     {"Redo",
      "&Redo",
      "Take the step that was undone again",
      command,
      [](P p) { p.session.redo(); },
-     [](P p) { return stepState(p.session.canRedo(), "&Redo", p.session.redoName()); },
+     redoState,
      {Sign::redo, false, "Ctrl+Shift+Z Ctrl+Y"}},
     {"Copy",
-     "&Copy",
+     "&Copy result",
      "Copy power and cost as a line of text",
      command,
      [](P p) {
@@ -160,19 +194,22 @@ const CommandRow commandTable[] = {
     // Structure
     {"Add a level", "&Add a level", "Add a level at the top of the study", command,
      [](P p) { addLevel(p.session); },
-     [](P p) { return enabledIf(p.session.study().NumLevels < highestLevel); }},
+     [](P p) {
+         return enabledIf(p.session.study().NumLevels < highestLevel, "A study has four levels at most");
+     }},
     {"Remove a level", "&Remove a level", "Remove the top level of the study", command,
-     [](P p) { removeLevel(p.session); }, [](P p) { return enabledIf(p.session.study().NumLevels > 2); }},
+     [](P p) { removeLevel(p.session); },
+     [](P p) { return enabledIf(p.session.study().NumLevels > 2, "A study has two levels at least"); }},
     {"Debug ICC", "Table of the &ICC", "The raw table of the ICC", window,
      [](P p) { p.dialogs.openSpreadICC(); }},
     {"Debug Tau-sq", "Table of the &effects", "The raw table of the effects", window,
      [](P p) { p.dialogs.openSpreadTauSq(); }},
     {"OD", "Example of the optimal design", "Two levels, for the example of the optimal design", command,
-     [](P p) { p.dialogs.openExample(); }},
+     [](P p) { p.dialogs.openExample(); }, nullptr, {.opensDialog = true}},
     {"gfrmLevelNames", "Edit level &names", "Name the units of every level", window,
-     [](P p) { p.dialogs.openLevelNames(); }, isOpen<frmLevelNames>},
+     [](P p) { p.dialogs.openLevelNames(); }, isOpen<frmLevelNames>, {.opensDialog = true}},
     {"gfrmGroupNames", "Edit group &names", "Name the two groups", window,
-     [](P p) { p.dialogs.openGroupNames(); }, isOpen<frmGroupNames>},
+     [](P p) { p.dialogs.openGroupNames(); }, isOpen<frmGroupNames>, {.opensDialog = true}},
     {"Mean difference W", "Mean difference d (&within)", "Means, d on the standard deviation within cells",
      choice,
      [](P p) {
@@ -184,7 +221,8 @@ const CommandRow commandTable[] = {
          askAndChangeDataType(p.design, {DataTypes::means, DTypes::total, BinaryTypes::oddsRatio});
      },
      [](P p) { return isMetricOfMeans(p, DTypes::total); }},
-    {"PDF d", "About the two forms of &d", "Open the note on d within and d total", help},
+    {"PDF d", "About the two forms of &d", "Open the note on d within and d total", help, nullptr,
+     notThere},
     {"Odds ratio", "&Odds ratio", "Binary outcome, effect as an odds ratio", choice,
      [](P p) {
          askAndChangeDataType(p.design, {DataTypes::binary, DTypes::total, BinaryTypes::oddsRatio});
@@ -213,8 +251,11 @@ const CommandRow commandTable[] = {
     {"Enter limits", "Enter &limits", "Enter the range of risks by its limits", choice,
      [](P p) { p.dialogs.enterLimits(); },
      [](P p) -> ToolState {
-         return {.checked = entersLimits(p.session.study()), .enabled = p.session.study().isBinary()};
-     }},
+         return {.checked = entersLimits(p.session.study()),
+                 .enabled = p.session.study().isBinary(),
+                 .reason = "Only a risk has limits, and the outcome is a mean"};
+     },
+     {.opensDialog = true}},
     {"ICC Schematic always off", "Schematic always o&ff", "Never open the picture of the ICC", choice,
      [](P p) { p.design.setIccSchematic(S::off); }, isMode<&D::ShowIccSchematic, S::off>},
     {"ICC Schematic automatic", "Schematic a&utomatic", "Open the picture when an ICC is changed", choice,
@@ -249,18 +290,25 @@ const CommandRow commandTable[] = {
          return {.checked = p.design.isOpen(frmDelta),
                  .caption = "Modify limits for risks (currently " + fixedText(delta, 4) + " to " +
                             fixedText(1 - delta, 4) + ")"};
-     }},
+     },
+     {.opensDialog = true}},
     {"gfrmControlMean", "Set &mean and span", "Set the scale on which means are stated", window,
      [](P p) { p.dialogs.openMean(); },
      [](P p) -> ToolState {
-         return {.checked = p.design.isOpen(frmSetMean), .enabled = p.session.study().isMeans()};
-     }},
+         const Study& s = p.session.study();
+         return {.checked = p.design.isOpen(frmSetMean),
+                 .enabled = s.isMeans(),
+                 .caption = "Set &mean and span for " + plainCaption(s.controlName()),
+                 .reason = "A binary outcome has no scale"};
+     },
+     {.opensDialog = true}},
     {"gfrmAlpha", "&Custom alpha...", "Test at a level of your own", window,
      [](P p) { p.dialogs.openAlpha(); },
      [](P p) -> ToolState {
          const bool open = p.design.isOpen(frmAlpha);
          return {.checked = open, .caption = open ? "In process ..." : ""};
-     }},
+     },
+     {.opensDialog = true}},
     {"Set power",
      "80%",
      "Set the power that the searches aim at",
@@ -315,7 +363,7 @@ const CommandRow commandTable[] = {
      window,
      [](P p) { p.dialogs.openMaxCost(); },
      nullptr,
-     {Sign::maximumCost}},
+     {Sign::maximumCost, false, "", "", true}},
     // Cell counts
     {"Counts Schematic always off", "Cell counts always o&ff", "Never open the cell counts", choice,
      [](P p) { p.design.setShowCellCounts(S::off); }, isMode<&D::ShowCellCounts, S::off>},
@@ -329,7 +377,8 @@ const CommandRow commandTable[] = {
      [](P p) { p.design.setCellCountDetail(DetailLevels::moderate); }, isDetail<DetailLevels::moderate>},
     {"Level of detail - Full", "Level of detail - Fu&ll", "Show all numbers", choice,
      [](P p) { p.design.setCellCountDetail(DetailLevels::full); }, isDetail<DetailLevels::full>},
-    {"PDF Low cell counts", "About &low cell counts", "Open the note on low cell counts", help},
+    {"PDF Low cell counts", "About &low cell counts", "Open the note on low cell counts", help,
+     nullptr, notThere},
     {"Allow low cell counts", "&Allow low cell counts", "Let the searches give low cell counts", choice,
      [](P p) { allowLowCellCounts(p, true); },
      [](P p) { return checkedIf(p.session.settings().AllowLowCellCounts); }},
@@ -385,8 +434,10 @@ const CommandRow commandTable[] = {
      "Open or close the guide",
      window,
      nullptr,
-     isOpen<frmTips>,
-     {Sign::guide, true, "F1"}},
+     [](P p) -> ToolState {
+         return {.checked = p.design.isOpen(frmTips), .reason = "This version has no guide"};
+     },
+     {Sign::guide, true}},
     {"gfrmDetails",
      "&Details",
      "Open or close the details",
@@ -394,26 +445,30 @@ const CommandRow commandTable[] = {
      [](P p) { p.details.toggle(); },
      isOpen<frmDetails>,
      {Sign::details, true}},
-    {"Program manual", "&Program manual", "Open the manual", help},
+    {"Program manual", "&Program manual", "Open the manual", help, nullptr, notThere},
     {"Keyboard", "&Keyboard", "All keys of the program", help, [](P p) { p.keyboard.open(); }},
     {"About", "&About Lorvane", "Version and licence", help, [](P p) { p.about.open(); }},
-    {"gDesign", "Study", "The study screen", window, nullptr, isOpen<WindowId::Design>},
+    {"gDesign", "&Study", "The study screen", window, open<WindowId::Design>, isOpen<WindowId::Design>},
     {"gfrmDisplayICC", "&ICC and range", "The picture of the ICC", window, open<frmDisplayICC>,
      isOpen<frmDisplayICC>},
     {"gfrmDisplayTauSq", "&Tau-squared and range", "The picture of the effects", window,
-     open<frmDisplayTauSq>, isOpen<frmDisplayTauSq>},
-
+     open<frmDisplayTauSq>, hasSubject<frmDisplayTauSq>},
     {"gfrmScenariosName", "Name of a scenario", "Name and describe a scenario", window, nullptr,
-     isOpen<frmScenariosName>},
+     [](P p) -> ToolState {
+         return {.checked = p.design.isOpen(frmScenariosName), .reason = "The list of scenarios opens it"};
+     }},
     {"gfrmProblems", "&Problem", "Why the study gives no power", window, open<frmProblems>,
-     isOpen<frmProblems>},
+     hasSubject<frmProblems>},
     {"gfrmProblemES", "Problem with the &effect", "Why the effect is not admissible", window,
-     open<frmProblemES>, isOpen<frmProblemES>},
-    {"gfrmTipsGraph", "Guide of the graph", "The guide of the graph", window, nullptr, isOpen<frmTipsGraph>},
+     open<frmProblemES>, hasSubject<frmProblemES>},
+    {"gfrmTipsGraph", "Guide of the graph", "The guide of the graph", window, nullptr,
+     [](P p) -> ToolState {
+         return {.checked = p.design.isOpen(frmTipsGraph), .reason = "This version has no guide"};
+     }},
     {"gfrmOpenWizard", "S&tart", "The start screen", window, [](P p) { p.start.open(); }, isOpen<frmStart>},
-    {"gfrmCounts", "&Cell counts", "The cell counts", window, open<frmCounts>, isOpen<frmCounts>},
+    {"gfrmCounts", "&Cell counts", "The cell counts", window, open<frmCounts>, hasSubject<frmCounts>},
     {"FrmLimits", "&Limits of risks", "The limits of the risks by level", window,
-     [](P p) { p.dialogs.openLimits(); }},
+     [](P p) { p.dialogs.openLimits(); }, nullptr, {.opensDialog = true}},
 };
 
 // Commands that give a field one value
@@ -440,7 +495,7 @@ constexpr ChoiceRow choiceTable[] = {
     {"Two-tailed test", "&Two-tailed test", "Test both directions of the effect", "txtTails", 2},
     {"Set power 80", "&80%", "Aim at a power of 80%", "ReqPower", 0.80},
     {"Set power 85", "8&5%", "Aim at a power of 85%", "ReqPower", 0.85},
-    {"Set power 90", "&90%", "Aim at a power of 90%", "ReqPower", 0.90},
+    {"Set power 90", "9&0%", "Aim at a power of 90%", "ReqPower", 0.90},
     {"Set power 95", "95&%", "Aim at a power of 95%", "ReqPower", 0.95},
     {"Set power 99", "&99%", "Aim at a power of 99%", "ReqPower", 0.99},
     {"For optimal design use 5 iterations", "Use &5 iterations", "Try 5 sizes of the top level",
@@ -555,6 +610,8 @@ constexpr const char* detailColumns[] = {"colBlocked", "colLevels", "colUnits", 
 // Keys
 // ---------------------------------------------------------------------------------------------------------
 
+using Keys = std::vector<std::string>;
+
 std::string ofLevel(std::string_view pattern, int level) {
     std::string key(pattern);
     return key.replace(key.find("{}"), 2, std::to_string(level));
@@ -572,6 +629,18 @@ std::string stepKey(const SteppedField& field, const StepChoice& choice) {
 std::string detailsKey(std::string_view column) { return "Show details " + std::string(column); }
 
 constexpr int mostDecimalsOfField = 4;
+
+// Values on the scale of the scores are often whole numbers.
+int fewestDecimals(const Field& field) {
+    return field.step == StepSource::mean || field.step == StepSource::sd ? 0 : 1;
+}
+
+Keys decimalsKeys(const Field& field) {
+    Keys keys;
+    for (int n = fewestDecimals(field); !field.decimalsWord.empty() && n <= mostDecimalsOfField; ++n)
+        keys.push_back(decimalsKey(field.decimalsWord, n));
+    return keys;
+}
 
 // From rows to commands
 // ----------------------------------------------------------------------------------------
@@ -604,7 +673,7 @@ void addLevelCommands(std::vector<Command>& commands, P p) {
 
 void addDecimals(std::vector<Command>& commands, P p) {
     for (const Field& field : fieldBook()) {
-        for (int n = 1; !field.decimalsWord.empty() && n <= mostDecimalsOfField; ++n) {
+        for (int n = fewestDecimals(field); !field.decimalsWord.empty() && n <= mostDecimalsOfField; ++n) {
             const std::string key = decimalsKey(field.decimalsWord, n);
             commands.push_back(
                 {toolOf(key, key, "Decimals shown; one click changes the last one", increment),
@@ -649,8 +718,6 @@ void addDetails(std::vector<Command>& commands, P p) {
 // Menus
 // --------------------------------------------------------------------------------------------------------
 
-using Keys = std::vector<std::string>;
-
 // The commands of some patterns for one level.
 Keys forLevel(std::initializer_list<const char*> patterns, int level) {
     Keys keys;
@@ -680,7 +747,11 @@ std::vector<MenuRow> menuTable() {
     using enum BandKind;
     return {
         {"bndFile", "&File", menu, {"Clear", "Open", "-", "Save", "SaveAs", "-", "Exit"}},
-        {"bndEdit", "&Edit", menu, {"Undo", "Redo", "-", "Copy", "Copy study"}},
+        {"bndEdit",
+         "&Edit",
+         menu,
+         {"Undo", "Redo", "-", "Enter value", "Link or unlink groups", "Copy", "Copy study", "-",
+          "Details of value"}},
         {"popLevels", "&Levels", menu, {"Add a level", "Remove a level", "-", "gfrmLevelNames"}},
         {"popRandomize", "&Randomize", menu,
          joined(forAllLevels({"Randomize Level {}"}), {"-", "Show details colBlocked"})},
@@ -732,12 +803,7 @@ std::vector<MenuRow> menuTable() {
           "PDF Low cell counts", "-", "Allow low cell counts", "Do not allow low cell counts"}},
         {"popScenarios", "&Scenarios", menu, {"gfrmScenarios", "Add scenario", "Restore scenario"}},
         {"popReport", "Re&port", menu, joined({"gfrmPrint", "Copy paragraph"}, reportSettingKeys())},
-        {"popViewForms",
-         "For&ms",
-         menu,
-         {"gfrmDisplayICC", "gfrmDisplayTauSq", "gfrmCounts", "gfrmProblems", "gfrmProblemES", "-",
-          "gfrmScenarios", "gfrmOptimal", "gfrmMDES", "gxPlot", "gfrmTable", "-", "gfrmTips", "gfrmDetails",
-          "gfrmOpenWizard"}},
+        {"popViewForms", "For&ms", menu, formKeys()},
         {"popHelp",
          "&Help",
          menu,
@@ -792,28 +858,33 @@ void addLevelPopups(std::vector<MenuRow>& rows, int level) {
     add("popLinkN{}B", steps);
     add("popLinkCost{}", joined(joined(costLinks, {"-"}), costSteps));
     add("popCostB{}", costSteps);
+    add("popModel{}", {modelKey(false, level), modelKey(true, level), "-", "Show details colModel"});
+}
+
+Keys stepKeys(const SteppedField& field) {
+    Keys keys;
+    for (const StepChoice& choice : stepChoices) {
+        if (offers(field, choice))
+            keys.push_back(stepKey(field, choice));
+    }
+    return keys;
+}
+
+const SteppedField* steppedOf(const Field& field) {
+    const auto found = std::find_if(std::begin(steppedFields), std::end(steppedFields),
+                                    [&](const SteppedField& row) { return field.stem == row.field; });
+    return found == std::end(steppedFields) ? nullptr : found;
 }
 
 // The right clicks on values that have decimals or a step; the details are those of the field's column.
 void addFieldPopups(std::vector<MenuRow>& rows) {
     for (const Field& field : fieldBook()) {
-        if (field.decimalsWord.empty())
-            continue;
-        Keys keys;
-        for (int n = 1; n <= mostDecimalsOfField; ++n)
-            keys.push_back(decimalsKey(field.decimalsWord, n));
-        rows.push_back({std::string(field.cell.menu), "", BandKind::popup,
-                        joined(keys, {"-", detailsKey(field.cell.column)})});
-    }
-    for (const SteppedField& field : steppedFields) {
-        Keys keys;
-        for (const StepChoice& choice : stepChoices) {
-            if (offers(field, choice))
-                keys.push_back(stepKey(field, choice));
-        }
-        const FieldCell& cell = fieldOf(field.field).cell;
-        rows.push_back(
-            {std::string(cell.menu), "", BandKind::popup, joined(keys, {"-", detailsKey(cell.column)})});
+        Keys keys = decimalsKeys(field);
+        if (const SteppedField* stepped = steppedOf(field))
+            keys = joined(keys.empty() ? keys : joined(keys, {"-"}), stepKeys(*stepped));
+        if (!keys.empty())
+            rows.push_back({std::string(field.cell.menu), "", BandKind::popup,
+                            joined(keys, {"-", detailsKey(field.cell.column)})});
     }
 }
 
@@ -824,6 +895,7 @@ std::vector<Command> commandRows(const Program& program) {
     addCommands(commands, program, commandTable);
     addGraphCommands(commands, program);
     addReportCommands(commands, program);
+    addValueCommands(commands, program);
     addChoices(commands, program);
     addLevelCommands(commands, program);
     addDecimals(commands, program);
@@ -838,8 +910,10 @@ std::vector<Band> bandRows() {
         addLevelPopups(rows, level);
     addFieldPopups(rows);
     std::vector<Band> bands;
-    for (const MenuRow& row : rows)
+    for (const MenuRow& row : rows) {
         bands.push_back(bandOf(row));
+        bands.back().toggles = row.name == "popViewForms";
+    }
     for (const auto& bandsOfScreen : {graphBands(), reportBands()})
         bands.insert(bands.end(), bandsOfScreen.begin(), bandsOfScreen.end());
     return bands;

@@ -27,8 +27,9 @@ std::string plainCaption(std::string name) {
 
 Tool toolOf(std::string key, std::string caption, const char* tip, ToolCategory category,
             const Looks& looks) {
-    return {std::move(key), std::move(caption), tip,        category,
-            looks.sign,     looks.withWord,     looks.word, looks.shortcut};
+    return {std::move(key),  std::move(caption), tip,        category,
+            looks.sign,      looks.withWord,     looks.word, looks.shortcut,
+            looks.keyOfCell, looks.opensDialog};
 }
 
 void addCommands(std::vector<Command>& commands, const Program& program, std::span<const CommandRow> rows) {

@@ -15,7 +15,9 @@ struct Looks {
     Sign sign = Sign::none;
     bool withWord = false;
     const char* shortcut = "";
-    const char* word = "";  ///< a shorter caption for the tool bar
+    const char* word = "";       ///< a shorter caption for the tool bar
+    bool opensDialog = false;    ///< its caption in menus ends in three dots
+    const char* keyOfCell = "";  ///< key that the cell with the focus takes by itself
 };
 
 struct CommandRow {
@@ -38,7 +40,11 @@ struct MenuRow {
 
 inline ToolState checkedIf(bool checked) { return {.checked = checked}; }
 inline ToolState visibleIf(bool visible) { return {.visible = visible}; }
-inline ToolState enabledIf(bool enabled) { return {.enabled = enabled}; }
+
+/// On offer or not, and why not.
+inline ToolState enabledIf(bool enabled, const char* reason) {
+    return {.enabled = enabled, .reason = reason};
+}
 
 /// A name that a user gave as a caption: an "&" in it is shown, not taken for a mnemonic.
 std::string plainCaption(std::string name);

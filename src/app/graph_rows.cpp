@@ -19,11 +19,13 @@ constexpr const char* graphScreen = "xPlot";
 // How commands stand
 // -----------------------------------------------------------------------------------------
 
-ToolState ifGraph(P p) { return enabledIf(p.graph.hasGraph()); }
+constexpr const char* noGraph = "There is no graph yet";
+
+ToolState ifGraph(P p) { return enabledIf(p.graph.hasGraph(), noGraph); }
 
 template <WindowId window>
 ToolState isOpen(P p) {
-    return {.checked = p.design.isOpen(window), .enabled = p.graph.hasGraph()};
+    return {.checked = p.design.isOpen(window), .enabled = p.graph.hasGraph(), .reason = noGraph};
 }
 
 // A setting of the look with one of its values, as a choice of a menu.
@@ -53,7 +55,9 @@ void move(P p) {
     p.graph.move(direction);
 }
 
-ToolState ifSeveralLines(P p) { return enabledIf(p.graph.hasGraph() && p.graph.state().NumLines >= 2); }
+ToolState ifSeveralLines(P p) {
+    return enabledIf(p.graph.hasGraph() && p.graph.state().NumLines >= 2, "The graph has one line");
+}
 
 // The window that a command of the list of windows brings up.
 void openGraph(P p) {
@@ -71,12 +75,24 @@ const CommandRow graphTable[] = {
     {"gxPlot", "Gra&ph", "The graph", window, openGraph, [](P p) { return checkedIf(p.graph.isOpen()); }},
     {"gfrmTable", "&Table of the graph", "The table of the graph", window,
      [](P p) { p.design.SynchForms(WindowId::frmTable, WindowAction::open); }, isOpen<WindowId::frmTable>},
-    {"gfrmXVar", "Range of the X-axis", "The range of the X-axis", window, [](P p) { p.graph.SetXVar(); },
-     isOpen<WindowId::frmXVar>},
-    {"gfrmLVar", "Values of the series", "The values of the series", window, [](P p) { p.graph.SetLVar(); },
+    {"gfrmXVar",
+     "Range of the X-axis",
+     "The range of the X-axis",
+     window,
+     [](P p) { p.graph.SetXVar(); },
+     isOpen<WindowId::frmXVar>,
+     {.opensDialog = true}},
+    {"gfrmLVar",
+     "Values of the series",
+     "The values of the series",
+     window,
+     [](P p) { p.graph.SetLVar(); },
      [](P p) -> ToolState {
-         return {.checked = p.design.isOpen(WindowId::frmLVar), .enabled = bool(p.graph.state().LVar)};
-     }},
+         return {.checked = p.design.isOpen(WindowId::frmLVar),
+                 .enabled = bool(p.graph.state().LVar),
+                 .reason = "The graph has no series"};
+     },
+     {.opensDialog = true}},
     // Files
     {"Save graph (PowerPoint)",
      "&Save graph (PowerPoint)",
@@ -84,9 +100,14 @@ const CommandRow graphTable[] = {
      file,
      [](P p) { p.graph.SaveGraph(PictureSizes::slide); },
      ifGraph,
-     {Sign::saveGraph, true, "Ctrl+S", "Save graph"}},
-    {"Save graph (Word)", "Save graph (&Word)", "Save the graph in the size of a page", file,
-     [](P p) { p.graph.SaveGraph(PictureSizes::page); }, ifGraph},
+     {Sign::saveGraph, true, "Ctrl+S", "Save graph", true}},
+    {"Save graph (Word)",
+     "Save graph (&Word)",
+     "Save the graph in the size of a page",
+     file,
+     [](P p) { p.graph.SaveGraph(PictureSizes::page); },
+     ifGraph,
+     {.opensDialog = true}},
     {"Copy graph to clipboard (PowerPoint)",
      "&Copy graph to clipboard (PowerPoint)",
      "Copy the graph in the size of a slide",
@@ -97,10 +118,20 @@ const CommandRow graphTable[] = {
     {"Copy graph to clipboard (Word)", "Copy graph to clipboard (Wor&d)",
      "Copy the graph in the size of a page", file, [](P p) { p.graph.copyGraph(PictureSizes::page); },
      ifGraph},
-    {"Save table", "Save &table", "Save the numbers of the graph", file,
-     [](P p) { p.graph.SaveTable(Then::stay); }, ifGraph},
-    {"Save table and open in Excel (TM)", "Save table and open in &Excel (TM)",
-     "Save the numbers and open them", file, [](P p) { p.graph.SaveTable(Then::open); }, ifGraph},
+    {"Save table",
+     "Save &table",
+     "Save the numbers of the graph",
+     file,
+     [](P p) { p.graph.SaveTable(Then::stay); },
+     ifGraph,
+     {.opensDialog = true}},
+    {"Save table and open in Excel (TM)",
+     "Save table and open in &Excel (TM)",
+     "Save the numbers and open them",
+     file,
+     [](P p) { p.graph.SaveTable(Then::open); },
+     ifGraph,
+     {.opensDialog = true}},
     {"Copy table to clipboard",
      "Copy ta&ble to clipboard",
      "Copy the numbers, for a spreadsheet or a text",
@@ -108,8 +139,13 @@ const CommandRow graphTable[] = {
      [](P p) { p.graph.copyTable(); },
      ifGraph,
      {Sign::none, false, "Ctrl+Shift+C"}},
-    {"Save header and footer", "Save &header and footer", "Save the texts around the graph", file,
-     [](P p) { p.graph.SaveHeader(); }, ifGraph},
+    {"Save header and footer",
+     "Save &header and footer",
+     "Save the texts around the graph",
+     file,
+     [](P p) { p.graph.SaveHeader(); },
+     ifGraph,
+     {.opensDialog = true}},
     {"Copy header and footer to clipboard", "Copy header and &footer to clipboard",
      "Copy the texts around the graph", file, [](P p) { p.graph.copyHeader(); }, ifGraph},
     {"Draw again",
@@ -133,7 +169,7 @@ const CommandRow graphTable[] = {
      window,
      [](P p) { p.graph.SetXVar(); },
      isOpen<WindowId::frmXVar>,
-     {Sign::axis, true, "Ctrl+R", "Modify range"}},
+     {Sign::axis, true, "Ctrl+R", "Modify range", true}},
     {"Set range for X-axis automatically", "Set range for X-axis &automatically",
      "Let the program choose the range", choice, [](P p) { p.graph.SetXAuto(true); },
      [](P p) { return checkedIf(!p.graph.rangeIsByHand()); }},
@@ -251,7 +287,9 @@ const CommandRow graphTable[] = {
      "Open or close the guide of the graph",
      window,
      nullptr,
-     isOpen<WindowId::frmTipsGraph>,
+     [](P p) -> ToolState {
+         return {.checked = p.design.isOpen(WindowId::frmTipsGraph), .reason = "This version has no guide"};
+     },
      {Sign::guide, true, "F1", "Guide"}},
 };
 
@@ -272,7 +310,8 @@ ToolState standOf(P p, const GraphKey& key, const GraphVariable& own, const Grap
     return {.checked = key.holds(own),
             .visible = offered,
             .enabled = offered && !key.holds(other),
-            .caption = titleOf(p, key)};
+            .caption = titleOf(p, key),
+            .reason = "The other menu varies this already"};
 }
 
 void addVariables(std::vector<Command>& commands, P p) {

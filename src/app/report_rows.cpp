@@ -16,17 +16,25 @@ constexpr const char* reportScreen = "frmPrint";
 // How commands stand
 // -----------------------------------------------------------------------------------------
 
-ToolState ifReport(P p) { return enabledIf(p.report.hasReport()); }
+constexpr const char* noReport = "There is no report yet";
 
-ToolState ifPagesBefore(P p) { return enabledIf(p.report.view().CurrentPage > 1); }
+ToolState ifReport(P p) { return enabledIf(p.report.hasReport(), noReport); }
 
-ToolState ifPagesAfter(P p) { return enabledIf(p.report.view().CurrentPage < p.report.view().pages); }
+ToolState ifPagesBefore(P p) {
+    return enabledIf(p.report.view().CurrentPage > 1, "No page comes before this one");
+}
 
-ToolState ifMatches(P p) { return enabledIf(p.report.hasReport() && !p.report.txtFind().Text.empty()); }
+ToolState ifPagesAfter(P p) {
+    return enabledIf(p.report.view().CurrentPage < p.report.view().pages, "No page follows this one");
+}
+
+ToolState ifMatches(P p) {
+    return enabledIf(p.report.hasReport() && !p.report.txtFind().Text.empty(), "Find a text first");
+}
 
 template <Zooms zoom>
 ToolState isZoom(P p) {
-    return {.checked = p.report.view().zoom == zoom, .enabled = p.report.hasReport()};
+    return {.checked = p.report.view().zoom == zoom, .enabled = p.report.hasReport(), .reason = noReport};
 }
 
 template <int font>
@@ -72,7 +80,9 @@ template <Inclusions spans>
 ToolState areSpans(P p) {
     const bool open = spansAreOpen(p.session.study());
     const Inclusions told = spansToTell(p.session.state());
-    return {.checked = told == spans, .enabled = open};
+    return {.checked = told == spans,
+            .enabled = open,
+            .reason = "The report decides this, unless ICCs of means are entered"};
 }
 
 template <int pages>
@@ -103,24 +113,29 @@ const CommandRow reportTable[] = {
      file,
      [](P p) { p.report.SaveRTF(); },
      ifReport,
-     {Sign::saveGraph, true, "Ctrl+S", "Save as RTF"}},
+     {Sign::saveGraph, true, "Ctrl+S", "Save as RTF", true}},
     {"PDF Save",
      "Save as &PDF ...",
      "Save the report as pages that look the same everywhere",
      file,
      [](P p) { p.report.SaveFilePDF(); },
      ifReport,
-     {Sign::saveGraph, true, "Ctrl+Shift+S", "Save as PDF"}},
+     {Sign::saveGraph, true, "Ctrl+Shift+S", "Save as PDF", true}},
     {"RTF open", "Open the report", "The report is open already", file, [](P) {}},
-    {"Print page", "Print pa&ge ...", "Print the page that is shown", file,
-     [](P p) { p.report.print(p.report.view().CurrentPage); }, ifReport},
+    {"Print page",
+     "Print pa&ge ...",
+     "Print the page that is shown",
+     file,
+     [](P p) { p.report.print(p.report.view().CurrentPage); },
+     ifReport,
+     {.opensDialog = true}},
     {"Print all",
      "Print &all ...",
      "Print the whole report",
      file,
      [](P p) { p.report.print({}); },
      ifReport,
-     {Sign::print, true, "Ctrl+P", "Print"}},
+     {Sign::print, true, "Ctrl+P", "Print", true}},
     {"frmPrint.Copy",
      "&Copy page",
      "Copy the page as a picture",
@@ -133,7 +148,9 @@ const CommandRow reportTable[] = {
      "Copy the executive summary, for a protocol",
      file,
      [](P p) { p.report.copySummary(); },
-     [](P p) { return enabledIf(p.report.isOpen() || p.session.study().result.xValid); },
+     [](P p) {
+         return enabledIf(p.report.isOpen() || p.session.study().result.xValid, "The study has no power");
+     },
      {Sign::none, false, "Ctrl+Shift+C"}},
     {"Make again",
      "Make a&new",

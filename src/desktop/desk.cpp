@@ -31,6 +31,10 @@ void Desk::tool(const std::string& name) {
     act([&] { application_.tool(name); });
 }
 
+void Desk::toggleForm(const std::string& name) {
+    act([&] { application_.toggleForm(name); });
+}
+
 void Desk::click(const std::string& control) {
     act([&] { application_.click(control); });
 }

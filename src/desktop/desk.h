@@ -27,6 +27,9 @@ public:
     void tool(const std::string& name);
     void click(const std::string& control);
 
+    /// A command of the menu of all windows, which closes what is open.
+    void toggleForm(const std::string& name);
+
     /// The text of a box as it was typed; it is read when a button is pressed.
     void type(const std::string& control, const QString& text);
 

@@ -38,11 +38,10 @@ public:
 
     /// The first of the cells that are shown.
     ValueCell* firstCell() const;
+
 protected:
     void resizeEvent(QResizeEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
-
-protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:

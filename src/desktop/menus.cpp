@@ -14,6 +14,7 @@
 #include "desktop/kit/stressed_label.h"
 #include "desktop/kit/tool_button.h"
 #include "desktop/menu_overflow.h"
+#include "desktop/mnemonics.h"
 #include "screen/command_book.h"
 
 namespace lorvane::desktop {
@@ -60,6 +61,8 @@ constexpr SignIcon signIcons[] = {{Sign::open, Icon::Open},
                                   {Sign::up, Icon::ChevronUp},
                                   {Sign::down, Icon::ChevronDown},
                                   {Sign::close, Icon::Close},
+                                  {Sign::edit, Icon::Edit},
+                                  {Sign::link, Icon::Link},
                                   {Sign::print, Icon::Print},
                                   {Sign::first, Icon::First},
                                   {Sign::last, Icon::Last},
@@ -79,6 +82,27 @@ QList<QKeySequence> keysOf(const Tool& tool) {
     for (const QString& key : shownText(tool.shortcut).split(QLatin1Char(' '), Qt::SkipEmptyParts))
         keys.append(QKeySequence(key));
     return keys;
+}
+
+// A key as people read it, "Ctrl+Z"; the first one where there are several.
+QString keyWords(const Tool& tool) {
+    const QList<QKeySequence> keys = keysOf(tool);
+    return keys.isEmpty() ? shownText(tool.keyOfCell) : keys.constFirst().toString(QKeySequence::NativeText);
+}
+
+// What a command does and its key; where it is not on offer, why.
+QString tipOf(const Tool& tool) {
+    const QString key = keyWords(tool);
+    if (!tool.Enabled || key.isEmpty())
+        return shownText(tool.Enabled ? tool.ToolTipText : tool.Reason);
+    return shownText(tool.ToolTipText) + QStringLiteral("  ") + key;
+}
+
+// The caption without what belongs to menus.
+QString plainWord(const Tool& tool) {
+    if (!tool.word.empty())
+        return shownText(tool.word);
+    return withoutMnemonic(shownText(tool.Caption));
 }
 
 bool isCheckable(const Tool& tool) {
@@ -168,11 +192,7 @@ QAction* Menus::action(const std::string& name) {
 }
 
 void Menus::sync(QAction* action, const Tool& tool) {
-    action->setText(shownText(tool.Caption));
-    if (!tool.word.empty())
-        action->setIconText(shownText(tool.word));
-    action->setToolTip(shownText(tool.ToolTipText));
-    action->setStatusTip(shownText(tool.ToolTipText));
+    show(action, tool);
     action->setVisible(tool.Visible);
     action->setEnabled(tool.Enabled);
     // A choice is marked also where it is not on offer; a window without a view counts as open in vain.
@@ -180,7 +200,41 @@ void Menus::sync(QAction* action, const Tool& tool) {
         action->setChecked(tool.Checked && (tool.Enabled || tool.Category == ToolCategory::choice));
 }
 
+// Keys that an action does not hear by itself stand behind its text.
+void Menus::show(QAction* action, const Tool& tool) {
+    const bool told = !action->shortcut().isEmpty() || keyWords(tool).isEmpty();
+    action->setText(shownText(tool.Shown) + (told ? QString() : QLatin1Char('\t') + keyWords(tool)));
+    action->setIconText(plainWord(tool));
+    action->setToolTip(tipOf(tool));
+    action->setStatusTip(shownText(tool.Enabled ? tool.ToolTipText : tool.Reason));
+}
+
+// An entry of the menu of all windows; one that is open can be closed, whatever opens it.
+QAction* Menus::form(const std::string& name) {
+    QAction*& action = forms_[name];
+    if (action != nullptr)
+        return action;
+    action = new QAction(window_);
+    action->setObjectName(QStringLiteral("toggle ") + QString::fromStdString(name));
+    action->setCheckable(true);
+    connect(action, &QAction::triggered, this, [this, name] {
+        desk_.toggleForm(name);
+        syncForm(forms_.at(name), *desk_.application().commands().find(name));
+    });
+    syncForm(action, *desk_.application().commands().find(name));
+    return action;
+}
+
+void Menus::syncForm(QAction* action, const Tool& tool) {
+    const bool closes = desk_.application().closesForm(tool.Name);
+    show(action, tool);
+    action->setEnabled(tool.Enabled || closes);
+    action->setChecked(tool.Checked && action->isEnabled());
+}
+
 void Menus::sync() {
+    for (const auto& [name, action] : forms_)
+        syncForm(action, *desk_.application().commands().find(name));
     for (const auto& [name, action] : actions_)
         sync(action, *desk_.application().commands().find(name));
     if (power_ != nullptr)
@@ -196,7 +250,7 @@ void Menus::addEntries(QMenu* menu, const Band& band) {
         else if (entry.kind == BandEntry::Kind::band)
             menu->addMenu(this->menu(entry.name));
         else if (desk_.application().commands().find(entry.name)->Category != ToolCategory::display)
-            menu->addAction(action(entry.name));
+            menu->addAction(band.toggles ? form(entry.name) : action(entry.name));
     }
 }
 
@@ -212,6 +266,7 @@ QMenu* Menus::menu(const std::string& name) {
     menu->setSeparatorsCollapsible(true);
     menus_.emplace(name, menu);
     addEntries(menu, *band);
+    connect(menu, &QMenu::aboutToShow, this, [menu] { giveMnemonics(menu->actions()); });
     return menu;
 }
 
@@ -230,7 +285,7 @@ void Menus::addPowerButton(QToolBar* bar) {
     power_->setSign(Icon::Target);
     power_->setMenu(menu(powerBand));
     power_->setAccessibleName(tr("Required power"));
-    power_->setToolTip(shownText(desk_.application().commands().find(powerTool)->ToolTipText));
+    power_->setToolTip(tipOf(*desk_.application().commands().find(powerTool)));
     bar->addWidget(power_);
 }
 

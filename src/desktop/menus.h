@@ -67,6 +67,9 @@ private:
     QAction* ownActionOf(const QKeySequence& key) const;
     QAction* ownMenuOf(const QKeySequence& key) const;
     void sync(QAction* action, const Tool& tool);
+    void show(QAction* action, const Tool& tool);
+    QAction* form(const std::string& tool);
+    void syncForm(QAction* action, const Tool& tool);
     void addEntries(QMenu* menu, const Band& band);
     void addPowerButton(QToolBar* bar);
     const Band& toolBar() const;
@@ -79,6 +82,7 @@ private:
     QWidget* window_;
     std::string screen_;
     std::map<std::string, QAction*> actions_;
+    std::map<std::string, QAction*> forms_;  ///< entries that close what is open
     std::map<std::string, QMenu*> menus_;
     QMenuBar* menuBar_ = nullptr;
     MenuOverflow* overflow_ = nullptr;

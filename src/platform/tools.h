@@ -42,6 +42,8 @@ enum class Sign {
     up,
     down,
     close,
+    edit,
+    link,
     print,
     first,
     last,
@@ -59,6 +61,10 @@ struct Tool {
     bool withWord = false;  ///< the tool bar shows its caption beside the sign
     std::string word;       ///< a shorter caption for the tool bar; empty: the caption
     std::string shortcut;   ///< keys, "Ctrl+Z"; several are parted by blanks
+    std::string keyOfCell;  ///< key that the cell with the focus takes by itself, "Enter"
+    bool opensDialog = false;
+    std::string Shown = {};   ///< the caption as menus show it, with its dots
+    std::string Reason = {};  ///< why it is not on offer; empty while it is
     bool Checked = false;
     bool Visible = true;
     bool Enabled = true;
@@ -79,6 +85,7 @@ struct Band {
     std::string Caption;
     BandKind kind = BandKind::menu;
     std::vector<BandEntry> entries;
+    bool toggles = false;     ///< its entries close what is open
     std::string screen = {};  ///< window that it belongs to, "xPlot"; empty: the main one
     Sign sign = Sign::none;   ///< of the button on a tool bar that opens it
     std::string word = {};    ///< caption of that button

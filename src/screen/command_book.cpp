@@ -14,6 +14,15 @@ namespace {
 // Screens with commands of their own.
 constexpr std::string_view screens[] = {"xPlot.", "frmPrint."};
 
+constexpr const char* dots = "\u2026";
+
+// A caption as menus show it: what opens a dialog ends in three dots.
+std::string shownCaption(std::string caption, bool opensDialog) {
+    if (opensDialog)
+        caption = caption.substr(0, caption.find_last_not_of(" .") + 1) + dots;
+    return caption;
+}
+
 }  // namespace
 
 CommandBook::CommandBook(std::vector<Command> commands, std::vector<Band> bands)
@@ -69,6 +78,8 @@ void CommandBook::sync() {
         tool.Visible = state.visible;
         tool.Enabled = state.enabled && command.run != nullptr;
         tool.Caption = state.caption.empty() ? command.tool.Caption : state.caption;
+        tool.Shown = shownCaption(state.shown.empty() ? tool.Caption : state.shown, tool.opensDialog);
+        tool.Reason = tool.Enabled ? "" : state.reason.empty() ? tool.ToolTipText : state.reason;
     }
 }
 
@@ -103,6 +114,8 @@ void CommandBook::registerNames(ControlRegistry& registry) const {
         registry.add(name + ".Checked", &tool.Checked);
         registry.add(name + ".Visible", &tool.Visible);
         registry.add(name + ".Enabled", &tool.Enabled);
+        registry.add(name + ".Shown", &tool.Shown);
+        registry.add(name + ".Reason", &tool.Reason);
     }
 }
 

@@ -19,6 +19,8 @@ struct ToolState {
     bool visible = true;
     bool enabled = true;
     std::string caption = {};  ///< empty: the one of its row
+    std::string reason = {};   ///< why it is not on offer; empty: its tip tells
+    std::string shown = {};    ///< the caption in menus, where it tells more; empty: the caption
 };
 
 /// One row of the book.

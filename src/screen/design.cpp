@@ -229,6 +229,20 @@ bool Design::problemIsDrawn(WindowId window) const {
     return isOpen(window) && (saysMore || windows_.isAskedFor(window));
 }
 
+std::string Design::whyNoSubject(WindowId window) const {
+    const Study& s = study();
+    const bool isProblem = window == frmProblems || window == frmProblemES;
+    if (window == frmDisplayTauSq && s.isHierarchical())
+        return "Only blocked levels have effects that vary, and no level is blocked";
+    if (window == frmCounts && s.isMeans())
+        return "Only a binary outcome has cell counts";
+    if (window == frmProblemES && s.isBinary() && !s.result.ValidES)
+        return "";
+    if (window == frmProblems && session_.computation().outcome.obstacle == Obstacle::data)
+        return "";
+    return isProblem ? "The study has no such problem" : "";
+}
+
 void Design::closeUnfit() {
     const auto closeIf = [&](bool close, WindowId window) {
         if (close)
@@ -237,7 +251,7 @@ void Design::closeUnfit() {
     const bool isComputed = session_.faultWords().empty();
     closeIf(study().isHierarchical(), frmDisplayTauSq);
     closeIf(study().isMeans(), frmCounts);
-    closeIf(study().isBinary() && study().result.ValidES, frmProblemES);
+    closeIf(!hasSubject(frmProblemES), frmProblemES);
     closeIf(isComputed && session_.computation().outcome.obstacle == Obstacle::none, frmProblems);
 }
 

@@ -97,6 +97,10 @@ public:
     /// was asked for.
     bool problemIsDrawn(WindowId window) const;
 
+    /// Whether the study has something for a window to show, and why not. Most windows have.
+    bool hasSubject(WindowId window) const { return whyNoSubject(window).empty(); }
+    std::string whyNoSubject(WindowId window) const;
+
     /// Puts all windows back into earlier states.
     void putBack(const WindowRegistry& windows) { windows_ = windows; }
 

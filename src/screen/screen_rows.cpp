@@ -60,7 +60,7 @@ std::string armOf(const Study& s, CellForm form) {
 std::string headingOf(const Study& s, FieldRef ref) {
     if (ref->index != FieldIndex::none)
         return "";
-    return ref->cell.heading.empty() ? fieldWords(s, ref) : std::string(ref->cell.heading);
+    return ref->cell.heading.empty() ? fieldWords(s, ref) : filledIn(s, ref, ref->cell.heading);
 }
 
 void writeCell(const SessionState& state, FieldRef ref, const PerLevel<double>& models, Cell& cell) {

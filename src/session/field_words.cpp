@@ -6,6 +6,7 @@
 
 #include "base/letter_case.h"
 #include "base/number_text.h"
+#include "session/currency.h"
 
 namespace lorvane {
 
@@ -25,10 +26,38 @@ std::string filling(const Study& s, FieldRef field, std::string_view place) {
         return lowerCased(s.txtName(field.index));
     if (place == "arm")
         return armWords(s, field);
+    if (place == "Control")
+        return s.controlName();
     if (place == "form")
         return s.DType == DTypes::within ? "within" : "total";
     return lowerCased(place == "control" ? s.controlName() : s.treatedName());
 }
+
+// The step of the arrows in the field's own unit.
+double stepSize(const SessionState& state, FieldRef field) {
+    return stepOf(state.settings, field) / std::pow(10, decimalsOf(state.study, *field.field));
+}
+
+// A value that stands on the screen and is no copy of its twin.
+bool isOwnOnScreen(const Study& s, FieldRef field) {
+    const FieldCell& cell = field->cell;
+    const bool shown = !cell.stem.empty() && field.index <= s.NumLevels &&
+                       (cell.shown == nullptr || cell.shown(s, field.index));
+    const bool copied = cell.form == CellForm::controlArm && field->isLinked(s, field.index);
+    return shown && !copied;
+}
+
+std::string valueText(const SessionState& state, FieldRef field) {
+    const double value = readNumberField(state, field);
+    if (field->arrows == ArrowRule::twoStates)
+        return value == SamplingModels::fixed ? "Fixed" : "Random";
+    if (field->cell.isMoney)
+        return amountText(value, state.settings.currency);
+    return field->decimals == nullptr ? shortestText(value)
+                                      : fixedText(value, decimalsOf(state.study, *field.field));
+}
+
+}  // namespace
 
 std::string filledIn(const Study& s, FieldRef field, std::string_view pattern) {
     std::string words;
@@ -40,13 +69,6 @@ std::string filledIn(const Study& s, FieldRef field, std::string_view pattern) {
     }
     return words.append(pattern);
 }
-
-// The step of the arrows in the field's own unit.
-double stepSize(const SessionState& state, FieldRef field) {
-    return stepOf(state.settings, field) / std::pow(10, decimalsOf(state.study, *field.field));
-}
-
-}  // namespace
 
 std::string fieldWords(const Study& s, FieldRef field) {
     return field->words.empty() ? field.name() : filledIn(s, field, field->words);
@@ -72,6 +94,29 @@ std::string stepWords(const Study& s, FieldRef field) {
     if (field->isLinked != nullptr && field->isLinked(s, field.index) && pattern.ends_with(arm))
         pattern.remove_suffix(arm.size());
     return inSentence(filledIn(s, field, pattern));
+}
+
+std::string valueChange(const SessionState& from, const SessionState& to) {
+    std::optional<FieldRef> changed;
+    int count = 0;
+    forEachField([&](FieldRef field) {
+        if (!field->isDesignChoice && !isOwnOnScreen(to.study, field))
+            return;
+        if (readField(from, field) == readField(to, field))
+            return;
+        ++count;
+        if (!field->isDesignChoice)
+            changed = field;
+    });
+    if (count != 1 || !changed)
+        return "";
+    return ", " + valueText(from, *changed) + " to " + valueText(to, *changed);
+}
+
+std::string beginSentence(std::string text) {
+    if (!text.empty())
+        text[0] = static_cast<char>(std::toupper(static_cast<unsigned char>(text[0])));
+    return text;
 }
 
 std::string inSentence(std::string text) {

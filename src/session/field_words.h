@@ -14,6 +14,9 @@ std::string fieldWords(const Study& study, FieldRef field);
 /// The same where there is little room, "d (total)"; empty for a field that has no fewer words.
 std::string briefWords(const Study& study, FieldRef field);
 
+/// A pattern such as "Number of {units}" with the study's names in it.
+std::string filledIn(const Study& study, FieldRef field, std::string_view pattern);
+
 /// The words with what the keys do: "ICC of Classes. Up and Down change it by 0.01. Enter opens it for
 /// typing."
 std::string fieldHint(const SessionState& state, FieldRef field);
@@ -23,6 +26,13 @@ std::string linkWords(const Study& study, FieldRef field);
 
 /// The words inside a sentence, without the arms where they are linked: "number of schools".
 std::string stepWords(const Study& study, FieldRef field);
+
+/// What became of the one value on the screen that differs between two states: ", 14 to 15". Empty where none
+/// or several do.
+std::string valueChange(const SessionState& from, const SessionState& to);
+
+/// A text with its first letter in upper case.
+std::string beginSentence(std::string text);
 
 /// A text with its first letter in lower case, unless it is a sign or an abbreviation ("ICC", "R-sq").
 std::string inSentence(std::string text);

@@ -37,6 +37,9 @@ public:
     /// Where the last step began; there must be one.
     const Moment& beforeLast() const { return past_.back().moment; }
 
+    /// Where the next step leads that can be redone; there must be one.
+    const Moment& afterNext() const { return future_.back().moment; }
+
     void clear();
 
     /// Steps between the present and the state of a revision, before or after it; nothing when it is gone.

@@ -131,6 +131,12 @@ public:
     std::string undoName() const { return history_.undoName(); }
     std::string redoName() const { return history_.redoName(); }
 
+    /// The states that undo and redo would go to; null where there is none.
+    const SessionState* beforeUndo() const {
+        return history_.depth() == 0 ? nullptr : &history_.beforeLast().state;
+    }
+    const SessionState* afterRedo() const { return canRedo() ? &history_.afterNext().state : nullptr; }
+
     // The file ----------------------------------------------------------------------------------------------
 
     /// Path of the open file; empty for a new study.

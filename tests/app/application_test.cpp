@@ -310,7 +310,7 @@ TEST_F(App, ToolsWithoutASubjectAreThereAndDisabled) {
         EXPECT_FALSE(tool->Enabled) << name;
         EXPECT_EQ(problemOf([&] { app.tool(name); }), "The tool \"" + std::string(name) +
                                                           "\" is not on offer as the study stands (" +
-                                                          tool->ToolTipText + ").");
+                                                          tool->Reason + ").");
     }
     app.tool("Add a level");
     EXPECT_FALSE(app.commands().find("gfrmTips")->Enabled) << "also after an event";

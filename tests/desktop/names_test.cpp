@@ -195,6 +195,9 @@ TEST_F(Names, AreShownLetterByLetterInEveryWindow) {
     for (const char* box : {"frmScenariosName.txtScenariosName", "frmScenariosName.txtScenariosDesc"})
         desk.type(box, QString::fromStdString(picture));
     runClick("frmScenariosName.cmdScenarioNameOk(0)");
+    set({{"txtRsq(2)", 0.5}});
+    inspect();
+    set({{"txtRsq(2)", 0.0}});
     runTool("gfrmDetails");
     forEachField([&](FieldRef field) {
         if (field->cell.stem.empty())
@@ -223,6 +226,10 @@ TEST_F(Names, AreShownLetterByLetterInEveryWindow) {
         if (desk.application().commands().find(tool.Name)->Enabled && tool.Name != "Exit")
             runTool(tool.Name);
     }
+    set({{"DataType", 2.0}, {"BinaryType", 1.0}, {"txtOR", 1000.0}});
+    inspect();
+    set({{"txtOR", 2.0}});
+    runTool("gfrmCounts");
     EXPECT_TRUE(window.isVisible());
     EXPECT_GT(hostile, 100);
     EXPECT_FALSE(tips.isEmpty());

@@ -174,7 +174,7 @@ TEST(Windows, MakeWayBySetsAndComeBack) {
 }
 
 TEST_F(Screen, MessageStandsAlone) {
-    load("DataType=2 txtOR=2");
+    load("RandomizedLevel=1 DataType=2 txtOR=2");
     for (const char* window : {"gfrmDisplayICC", "gfrmDisplayTauSq", "gfrmLevelNames", "gfrmDetails"})
         app.tool(window);
     app.close("frmDisplayICC");
