@@ -28,8 +28,13 @@ const Padding& paddingOf(bool narrow) { return narrow ? narrowPadding : wide; }
 
 MenuOverflow::MenuOverflow(QMenuBar* bar)
     : QObject(bar), bar_(bar), more_(new QMenu(bar)), line_(new QAction(this)) {
-    for (QAction* action : bar->actions())
-        menus_.append(action->menu());
+    for (QAction* action : bar->actions()) {
+        QMenu* menu = action->menu();
+        auto* letter = new QShortcut(QKeySequence::mnemonic(menu->title()), bar);
+        connect(letter, &QShortcut::activated, this, [this, menu] { open(menu); });
+        menus_.append(menu);
+        letters_.append(letter);
+    }
     more_->setTitle(tr("More menus"));
     more_->menuAction()->setIcon(icon(Icon::MoreMenus));
     // What follows a line stands at the right end of the bar.
@@ -87,20 +92,15 @@ void MenuOverflow::fill(qsizetype count) {
     if (count == count_)
         return;
     count_ = count;
-    qDeleteAll(shortcuts_);
-    shortcuts_.clear();
     more_->clear();
     bar_->clear();
     for (qsizetype i = 0; i < menus_.size(); ++i) {
         QMenu* menu = menus_[i];
-        if (i < count) {
+        letters_[i]->setEnabled(i >= count);
+        if (i < count)
             bar_->addMenu(menu);
-            continue;
-        }
-        more_->addMenu(menu);
-        auto* shortcut = new QShortcut(QKeySequence::mnemonic(menu->title()), bar_->window());
-        connect(shortcut, &QShortcut::activated, this, [this, menu] { open(menu); });
-        shortcuts_.append(shortcut);
+        else
+            more_->addMenu(menu);
     }
     if (count == menus_.size())
         return;

@@ -41,7 +41,7 @@ private:
     QList<QMenu*> menus_;
     QMenu* more_;
     QAction* line_;
-    QList<QShortcut*> shortcuts_;
+    QList<QShortcut*> letters_;  ///< with Alt, for menus under the sign
     bool narrow_ = false;
     qsizetype count_ = -1;  ///< how many stand in the bar
 };

@@ -260,6 +260,13 @@ TEST_F(SizesLook, EveryMenuCanBeReached) {
     }
     const auto* own = window.menuBar()->findChild<QWidget*>(QStringLiteral("qt_menubar_ext_button"));
     EXPECT_TRUE(own == nullptr || own->isHidden()) << "the bar hides nothing by itself";
+    MainWindow narrowAtOnce(desk);
+    narrowAtOnce.resize(640, 480);
+    narrowAtOnce.show();
+    settle();
+    narrowAtOnce.hide();
+    window.activateWindow();
+    settle();
     key(Qt::Key_H, Qt::AltModifier);
     EXPECT_TRUE(overflow.more()->isVisible());
     EXPECT_EQ(overflow.more()->activeAction()->text(), all.last());
