@@ -34,7 +34,7 @@ namespace lorvane::desktop {
 namespace {
 
 constexpr QSize firstSize(1280, 800);
-constexpr int frameRoom = 40;  // for the frame of the window system, where the screen is small
+constexpr QSize frameRoom(8, 40);  // for the frame of the window system, where the screen is small
 constexpr QSize largeFrom(2200, 1200);
 constexpr double largeZoom = 1.25;
 constexpr int pageMargin = 20;
@@ -125,10 +125,10 @@ void MainWindow::addStatus() {
 // In the middle of the free area, and no larger than it.
 void MainWindow::openInScreen() {
     const QRect free = screen()->availableGeometry();
-    const QSize size = firstSize.boundedTo(free.size() - QSize(0, frameRoom));
+    const QSize size = firstSize.boundedTo(free.size() - frameRoom);
     resize(size);
-    move(free.topLeft() + QPoint((free.width() - size.width()) / 2,
-                                 std::max(0, (free.height() - frameRoom - size.height()) / 2)));
+    const QSize rest = free.size() - frameRoom - size;
+    move(free.topLeft() + QPoint(rest.width(), rest.height()) / 2);
 }
 
 // Strip and table scroll where the window is too small for them; power and cost always stay in sight.
