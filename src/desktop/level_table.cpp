@@ -360,7 +360,7 @@ void LevelTable::resizeEvent(QResizeEvent* event) {
     Card::resizeEvent(event);
     placeAll();
     for (const auto& cell : cells_) {
-        if (cell->widget()->hasFocus())
+        if (cell->widget() == window()->focusWidget())
             bringInSight(*cell);
     }
 }

@@ -216,6 +216,14 @@ TEST_F(SizesLook, TheSmallestWindowScrollsColumnsBehindTheNames) {
     show({1024, 660});
     EXPECT_FALSE(bar.isVisible());
     EXPECT_TRUE(isWhole(cell("pnlNB(4)")));
+    cell("pnlNB(4)").setFocus();
+    show({800, 600});
+    EXPECT_TRUE(isWhole(cell("pnlNB(4)")));
+    show({1024, 660});
+    tool("gfrmDetails");
+    cell("pnlCostB(4)").setFocus();
+    show({800, 600});
+    EXPECT_TRUE(isWhole(cell("pnlCostB(4)"))) << "also while another window has the keyboard";
 }
 
 TEST_F(SizesLook, AVeryLargeWindowShowsItsMiddleLargerAndKeepsItsArrows) {
