@@ -78,10 +78,6 @@ ToolState onlyFromFiles(P p, BinaryTypes type) {
     return state;
 }
 
-bool entersLimits(const Study& s) {
-    return s.IccMetric == IccMetrics::span && s.isBinary() && s.limits.RangeMode == RangeModes::limits;
-}
-
 template <TauSqMetrics metric>
 ToolState isTauSqMetric(P p) {
     return checkedIf(p.session.study().TauSqMetric == metric);
@@ -245,13 +241,13 @@ const CommandRow commandTable[] = {
      choice, [](P p) { enterSpan(p.session, RangeModes::span); },
      [](P p) -> ToolState {
          const Study& s = p.session.study();
-         return {.checked = s.IccMetric == IccMetrics::span && !entersLimits(s),
+         return {.checked = s.IccMetric == IccMetrics::span && !s.entersLimits(),
                  .caption = s.isMeans() ? "Enter &span of means" : "Enter &span of risks"};
      }},
     {"Enter limits", "Enter &limits", "Enter the range of risks by its limits", choice,
      [](P p) { p.dialogs.enterLimits(); },
      [](P p) -> ToolState {
-         return {.checked = entersLimits(p.session.study()),
+         return {.checked = p.session.study().entersLimits(),
                  .enabled = p.session.study().isBinary(),
                  .reason = "Only a risk has limits, and the outcome is a mean"};
      },

@@ -50,6 +50,9 @@ void CellBinding::sync() {
     widget_->setLinkWords(linkWords());
     if (widget_->window()->focusWidget() == widget_)
         widget_->setAccessibleDescription(desk_.hintOf(field_));
+    const QString rest = shownText(model_.rest);
+    if (widget_->toolTip() != rest)
+        widget_->setToolTip(rest);
     const QString words = shownText(model_.words);
     if (widget_->accessibleName() != words)
         widget_->setAccessibleName(words);

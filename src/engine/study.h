@@ -237,6 +237,10 @@ struct Study {
     bool isHierarchical() const { return RandomizedLevel == NumLevels; }
     bool isMeans() const { return DataType == DataTypes::means; }
     bool isBinary() const { return DataType == DataTypes::binary; }
+    /// The risks of the levels are entered as limits; spans and ICCs follow from them.
+    bool entersLimits() const {
+        return isBinary() && IccMetric == IccMetrics::span && limits.RangeMode == RangeModes::limits;
+    }
     /// A risk ratio and two risks come from files and have no test of their own.
     bool isTested() const {
         return isMeans() || BinaryType == BinaryTypes::oddsRatio || BinaryType == BinaryTypes::riskDifference;

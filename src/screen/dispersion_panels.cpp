@@ -67,6 +67,7 @@ void writeCell(const Study& s, const CellContent& content, Cell& cell) {
     cell.Caption = content.shown ? content.told : "";
     cell.number = content.shown && content.entered ? content.written : cell.Caption;
     cell.words = fieldWords(s, content.field);
+    cell.rest = restWords(s, content.field);
     cell.spinVisible = content.shown && content.entered;
     cell.state = cell.spinVisible ? CellState::changeable : CellState::fixed;
     cell.trouble = cell.spinVisible && content.atFault;
@@ -114,7 +115,7 @@ void writeIccRow(const Study& s, IccPanel& panel, int level, bool used) {
     writeCell(s, icc, panel.pnlICC(level));
     CellContent span{{&fieldOf("txtMRange"), level},
                      used && (level > 1 || s.isMeans()),
-                     !iccEntered || level == 1,
+                     !s.entersLimits() && (!iccEntered || level == 1),
                      isAtFault(s, level),
                      {},
                      {}};

@@ -29,6 +29,7 @@ struct Cell : Panel {
     std::string heading;      ///< over a cell of the strip
     std::string brief;        ///< the same in few words
     std::string words;        ///< what the value is, for people who hear the screen
+    std::string rest;         ///< why its arrows rest; empty where they do not
     bool spinVisible = true;  ///< the cell has arrows
     CellState state = CellState::changeable;
 };

@@ -72,6 +72,7 @@ void writeCell(const SessionState& state, FieldRef ref, const PerLevel<double>& 
     if (cell.brief.empty())
         cell.brief = cell.heading;
     cell.words = fieldWords(state.study, ref);
+    cell.rest = restWords(state.study, ref);
     if (form.form == CellForm::blocks)
         cell.Caption = cell.arm + " (" + cell.number + ")";
     else if (!cell.arm.empty())

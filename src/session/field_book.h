@@ -106,6 +106,8 @@ struct Field {
     bool (*isLinked)(const Study&, int level) = nullptr;
     FieldPanel panel = FieldPanel::none;
     std::string_view words = {};  ///< what it is, see fieldWords
+    std::string_view sense = {};  ///< what it means, for the dialog that asks for it
+    std::string_view unit = {};   ///< behind the number there
     FieldCell cell = {};
     FilePlace place = {};
 };

@@ -24,6 +24,17 @@ std::string fieldHint(const SessionState& state, FieldRef field);
 /// What toggling the link of its two arms does: "Unlink the two groups". The field must have a twin.
 std::string linkWords(const Study& study, FieldRef field);
 
+/// What the dialog that asks for a value says of it: the words without the arms, "Number of schools"; what it
+/// means, "Treated group. Control is linked and takes the same value."; the unit behind the number, "schools
+/// per group", empty without one; what can be entered, "a whole number from 1 to 1000000".
+std::string fieldHeading(const Study& study, FieldRef field);
+std::string fieldSense(const Study& study, FieldRef field);
+std::string fieldUnit(const SessionState& state, FieldRef field);
+std::string entryWords(const Study& study, FieldRef field);
+
+/// Why the arrows of a value that another entry decides rest, and where to change that; empty for any other.
+std::string restWords(const Study& study, FieldRef field);
+
 /// The words inside a sentence, without the arms where they are linked: "number of schools".
 std::string stepWords(const Study& study, FieldRef field);
 
