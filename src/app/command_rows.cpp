@@ -294,7 +294,7 @@ const CommandRow commandTable[] = {
          const Study& s = p.session.study();
          return {.checked = p.design.isOpen(frmSetMean),
                  .enabled = s.isMeans(),
-                 .caption = "Set &mean and span for " + plainCaption(s.controlName()),
+                 .caption = "Set mean and span for " + plainCaption(s.controlName()),
                  .reason = "A binary outcome has no scale"};
      },
      {.opensDialog = true}},
@@ -568,6 +568,8 @@ const LevelRow levelTable[] = {
     stepRow<setStepOfCosts, &StudySettings::IncCost, 100>("Increment Level {} cost by 100",
                                                           "Increment cost of ", " by 100",
                                                           "One click changes the cost by 100"),
+    {"Find N for Level {}", "Find number of ", "", "Find the number that the required power needs", command,
+     [](P p, int) { p.optimal.open(); }, [](P p, int level) { return visibleIf(isUsed(p, level)); }},
 };
 
 // Commands that choose what one click of the arrows does
@@ -797,6 +799,7 @@ std::vector<MenuRow> menuTable() {
          {"Counts Schematic always off", "Counts Schematic automatic", "Counts Schematic always on", "-",
           "Level of detail - None", "Level of detail - Moderate", "Level of detail - Full", "-",
           "PDF Low cell counts", "-", "Allow low cell counts", "Do not allow low cell counts"}},
+        {"popOD", "Find number", popup, joined({"OD", "-"}, forAllLevels({"Find N for Level {}"}))},
         {"popScenarios", "&Scenarios", menu, {"gfrmScenarios", "Add scenario", "Restore scenario"}},
         {"popReport", "Re&port", menu, joined({"gfrmPrint", "Copy paragraph"}, reportSettingKeys())},
         {"popViewForms", "For&ms", menu, formKeys()},
