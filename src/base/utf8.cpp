@@ -115,6 +115,13 @@ std::size_t shownWidth(std::string_view text) {
     return width;
 }
 
+std::string_view firstLetters(std::string_view text, std::size_t letters) {
+    std::size_t end = 0;
+    for (std::size_t i = 0; i < letters && end < text.size(); ++i)
+        end += std::max<std::size_t>(letterLength(text.substr(end)), 1);
+    return text.substr(0, end);
+}
+
 std::string cutInMiddle(std::string_view text, std::size_t letters) {
     std::vector<std::size_t> ends = {0};
     while (ends.back() < text.size())

@@ -27,6 +27,9 @@ std::string printable(std::string_view text, LineEnds ends = LineEnds::escaped);
 /// East Asian one.
 std::size_t shownWidth(std::string_view text);
 
+/// The text up to so many letters.
+std::string_view firstLetters(std::string_view text, std::size_t letters);
+
 /// The text with at most so many letters, 3 or more; a longer one has an ellipsis in place of its middle.
 std::string cutInMiddle(std::string_view text, std::size_t letters);
 

@@ -1,20 +1,19 @@
-// The small dialogs: a heading, a line of sense, the fields, their limits, the buttons. One class serves all.
+// The small dialogs: a heading, a line of sense, the fields, their limits, the buttons. One class serves all
+// that have no table.
 #pragma once
 
 #include <functional>
-#include <string>
 #include <vector>
 
+#include "desktop/dialog_frame.h"
 #include "desktop/panel_view.h"
-#include "screen/dialog.h"
 
-class QLabel;
-class QLayout;
+class QGridLayout;
 class QRadioButton;
 
 namespace lorvane::desktop {
 
-class PushButton;
+class ElidedLabel;
 class TextField;
 
 /// Any small dialog, made from its model.
@@ -31,8 +30,9 @@ private:
     void prepareClose() override;
 
     struct FieldView {
-        QLabel* label;
+        ElidedLabel* label;
         TextField* field;
+        ElidedLabel* unit;
         std::string shown;  ///< text of the model that the field shows
     };
     struct OptionView {
@@ -40,24 +40,22 @@ private:
         QRadioButton* button;
     };
     void addOptions();
-    void addField(const DialogField& model);
-    PushButton* makeButton(const DialogButton& button, bool primary);
-    /// The buttons that end the dialog stand at the right, the last one being primary; others at the left.
-    QLayout* makeRow(const std::vector<DialogButton>& buttons, bool ends = false);
+    void addFields();
+    void addField(QGridLayout* grid, const DialogField& model);
     void press(const DialogButton& button);
+    void typeAll();
     void syncField(std::size_t number, bool opened);
-    void syncNote();
+    void showRefusal();
     void focusFirst();
 
     const Dialog& model_;
     std::function<bool()> isOpen_;
-    QLabel* heading_;
-    QLabel* sense_;
-    QLabel* limits_;
+    DialogFrame frame_;
     std::vector<OptionView> options_;
     std::vector<FieldView> fields_;
     bool wasOpen_ = false;
     int openings_ = 0;
+    std::string refusal_;  ///< that was shown last
 };
 
 }  // namespace lorvane::desktop

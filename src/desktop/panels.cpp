@@ -7,6 +7,7 @@
 #include "desktop/graph_table_view.h"
 #include "desktop/graph_view.h"
 #include "desktop/keyboard_view.h"
+#include "desktop/limits_view.h"
 #include "desktop/main_window.h"
 #include "desktop/mdes_view.h"
 #include "desktop/message_views.h"
@@ -85,6 +86,7 @@ void Panels::addDialogs() {
     const GraphScreen& graph = desk_.application().graph();
     addDialog(graph.axisDialog().dialog(), [&graph] { return graph.axisDialog().isOpen(); });
     addDialog(graph.lineDialog().dialog(), [&graph] { return graph.lineDialog().isOpen(); });
+    add<LimitsView>(centre);
     const SmallDialogs& dialogs = desk_.application().dialogs();
     for (const Dialog* dialog : dialogs.all())
         addDialog(*dialog, [&dialogs, dialog] { return dialogs.isOpen(*dialog); });

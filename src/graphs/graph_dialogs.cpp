@@ -81,6 +81,7 @@ void GraphDialog::close() { design_.SynchForms(*dialog_.window, WindowAction::un
 
 void GraphDialog::openDialog() {
     Init();
+    dialog_.begin();
     design_.SynchForms(*dialog_.window, WindowAction::open);
 }
 

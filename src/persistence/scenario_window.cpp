@@ -58,6 +58,7 @@ Dialog ScenarioWindow::makeNameDialog() {
         DialogField field;
         field.control = control;
         field.label.Caption = label;
+        field.entry = DialogEntry::text;
         dialog.fields.push_back(std::move(field));
     }
     dialog.title.Caption = "Edit row";
@@ -86,7 +87,7 @@ void ScenarioWindow::registerEvents(EventRegistry& events) {
     events.addGrid("frmScenarios.vsNames", vsNames_);
     name_.registerEvents(events, [this] { return nameIsOpen(); });
     events.onClose("frmScenariosName", [this] {
-        if (nameIsOpen() && nameHasChanged())
+        if (nameIsOpen() && name_.isChanged())
             askToApply(design_, WindowId::frmScenariosName, applyNamesQuestion, [this] { applyName(); });
         else
             closeName();
@@ -238,13 +239,8 @@ void ScenarioWindow::ScenariosEdit() {
     editedRow_ = *row;
     name_.box(nameBox).Text = vsNames_.rows[*row][nameColumn];
     name_.box(descriptionBox).Text = vsNames_.rows[*row][descriptionOfList];
+    name_.begin();
     design_.SynchForms(WindowId::frmScenariosName, WindowAction::open);
-}
-
-bool ScenarioWindow::nameHasChanged() const {
-    const Grid::Row& row = vsNames_.rows[editedRow_];
-    return name_.box(nameBox).Text != row[nameColumn] ||
-           name_.box(descriptionBox).Text != row[descriptionOfList];
 }
 
 // The name of the screen's own state counts as taken: a save would write over it.
@@ -263,7 +259,7 @@ void ScenarioWindow::applyName() {
     const std::string name(trimmed(name_.box(nameBox).Text));
     const std::string description(trimmed(name_.box(descriptionBox).Text));
     if (nameExists(name)) {
-        design_.ask("Edit row", "Name exists");
+        refuse(design_, name_, "Edit row", "Name exists", {nameBox});
         return;
     }
     const std::size_t place = placeOf(editedRow_);

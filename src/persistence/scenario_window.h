@@ -9,7 +9,7 @@
 #include "platform/control_registry.h"
 #include "platform/event_registry.h"
 #include "screen/design.h"
-#include "screen/dialog.h"
+#include "screen/dialog_window.h"
 #include "screen/part.h"
 
 namespace lorvane {
@@ -71,7 +71,6 @@ private:
     void ShowProgress(std::size_t row, ProgressFlight::Direction direction);
     void applyName();
     void closeName();
-    bool nameHasChanged() const;
 
     Design& design_;
     Session& session_;

@@ -345,6 +345,10 @@ Answer Design::ask(std::string title, std::string text, std::vector<MessageButto
     return ask({std::move(title), std::move(text), std::move(buttons), preset});
 }
 
+void Design::tellRefusal(std::string title, std::string text) {
+    messages_.show({std::move(title), std::move(text), {Answer::OK}, {}, MessageKind::formality});
+}
+
 void Design::ShowICC(bool show) {
     if (!show)
         SynchForms(frmDisplayICC, WindowAction::withdrawForGood);

@@ -117,6 +117,9 @@ public:
     Answer ask(std::string title, std::string text, std::vector<MessageButton> buttons = {Answer::OK},
                std::optional<Answer> preset = {});
 
+    /// Tells that a dialog refuses what was typed. The dialog stays where it is and shows the reason itself.
+    void tellRefusal(std::string title, std::string text);
+
     /// Ends the program. Whoever calls it has asked about unsaved work.
     void close() noexcept { closed_ = true; }
     bool isClosed() const noexcept { return closed_; }

@@ -17,34 +17,25 @@ namespace lorvane {
 namespace {
 
 constexpr int mostDecimals = 4;
-constexpr const char* notANumber = "Please enter a number              ";
 
 constexpr const char* alphaBox = "frmAlpha.txtAlpha";
 constexpr const char* deltaBox = "frmDelta.txtDelta";
 constexpr const char* meanBox = "frmSetMean.txtMean";
 constexpr const char* spanBox = "frmSetMean.txtSpan";
 constexpr const char* maxCostBox = "txtMaxCost";
-constexpr const char* valueBox = "frmValue.txtValue";
+
+constexpr const char* limitsHelp =
+    "The risks of a level spread around the event rate. On the scale of log odds a risk of 0 or 1 has no "
+    "place, so every risk is kept at a small distance from both.\n\n"
+    "Where the span of a level would go beyond these limits, it is shifted, not shortened: it keeps its "
+    "width, "
+    "and no longer has the event rate in its middle. The panel of the ICC tells so. A span that is wider "
+    "than "
+    "the room between the limits gives no power. Neither does an event rate beyond them.\n\n"
+    "The distance is 0.001 in a new study. Any distance from 0.0001 to 0.1 can be set.";
 
 std::string groupBox(int group) { return indexedName("frmGroupNames.txtGroupName", group); }
 std::string levelBox(int level) { return indexedName("frmLevelNames.txtLevelNames", level); }
-std::string lowerBox(int level) { return indexedName("frmLimits.txtLL", level); }
-std::string upperBox(int level) { return indexedName("frmLimits.txtUL", level); }
-
-Panel panel(std::string caption) {
-    Panel made;
-    made.Caption = std::move(caption);
-    return made;
-}
-
-DialogField field(std::string control, Panel label = {}, std::string labelName = {}) {
-    DialogField made;
-    made.control = std::move(control);
-    made.label = std::move(label);
-    made.labelName = std::move(labelName);
-    return made;
-}
-
 // Decimals of a number as it was typed, 0 to 4.
 int typedDecimals(const std::string& text) {
     const std::string_view body = trimmed(text);
@@ -54,6 +45,12 @@ int typedDecimals(const std::string& text) {
     return std::min(static_cast<int>(body.size() - point - 1), mostDecimals);
 }
 
+// The text that gives the decimals shown back when it is applied, unless it would lose some of the number.
+std::string withDecimals(double value, int decimals) {
+    const std::string text = fixedText(value, decimals);
+    return readNumber(text) == value ? text : shortestText(value);
+}
+
 // What the rows of the level names stand for, the individuals first.
 const char* levelRole(int level, int levels) {
     if (level == 1)
@@ -61,18 +58,19 @@ const char* levelRole(int level, int levels) {
     return level == levels ? "Cluster" : "Next level";
 }
 
-std::string typedName(const TextBox& box) { return std::string(trimmed(box.Text)); }
-
-std::string capitalised(std::string text) {
-    text[0] = static_cast<char>(text[0] - 'a' + 'A');
-    return text;
+// A name that nobody has touched stays as it is, blanks and all.
+std::string typedName(const DialogField& field) {
+    return field.box.Text == field.atOpening ? field.atOpening : std::string(trimmed(field.box.Text));
 }
-
-// "From 0.001 to 0.49"
-std::string rangeWords(std::string_view field) { return capitalised(fieldOf(field).limits.words()); }
 
 // A share as the messages write it, ".49".
 std::string pointNumber(double share) { return shortestText(share).substr(1); }
+
+DialogField nameField(std::string control, std::string labelName = {}) {
+    DialogField made = dialogField(std::move(control), {}, std::move(labelName));
+    made.entry = DialogEntry::name;
+    return made;
+}
 
 }  // namespace
 
@@ -81,38 +79,57 @@ std::string pointNumber(double share) { return shortestText(share).substr(1); }
 
 SmallDialogs::SmallDialogs(Design& design)
     : design_(design), session_(design.session()), alpha_(makeAlpha()), delta_(makeDelta()),
-      mean_(makeMean()), groupNames_(makeGroupNames()), levelNames_(makeLevelNames()), limits_(makeLimits()),
-      maxCost_(makeMaxCost()), example_(makeExample()), value_(makeValue()), error_(makeError()) {}
+      deltaHelp_(makeHelp()), mean_(makeMean()), groupNames_(makeGroupNames()), levelNames_(makeLevelNames()),
+      maxCost_(makeMaxCost()), example_(makeExample()), error_(makeError()), value_(design), limits_(design) {
+}
 
 Dialog SmallDialogs::makeAlpha() {
+    const FieldLimits& limits = fieldOf("txtAlpha").limits;
     return {"frmAlpha",
             WindowId::frmAlpha,
             "pnlLimits",
-            {field(alphaBox, panel("Alpha"))},
-            {{"frmAlpha.cmdOK", "OK", [this] { applyAlpha(); }}},
+            {dialogField(alphaBox, panelOf("Alpha"))},
+            {{"frmAlpha.cmdCancel", "Cancel", [this] { close(alpha_); }},
+             {"frmAlpha.cmdOK", "OK", [this] { applyAlpha(); }}},
             false,
-            panel("Alpha"),
-            panel("The criterion for statistical significance"),
-            panel(rangeWords("txtAlpha"))};
+            panelOf("Alpha"),
+            panelOf("The criterion for significance of the test"),
+            panelOf("From " + pointNumber(limits.low) + " to " + pointNumber(limits.high))};
 }
 
 Dialog SmallDialogs::makeDelta() {
-    return {"frmDelta",
-            WindowId::frmDelta,
-            "pnlLimits",
-            {field(deltaBox, panel("Distance"))},
-            {{"frmDelta.Command1", "OK", [this] { applyDelta(); }}},
+    Dialog dialog{"frmDelta",
+                  WindowId::frmDelta,
+                  "pnlLimits",
+                  {dialogField(deltaBox, panelOf("Distance"))},
+                  {{"frmDelta.cmdCancel", "Cancel", [this] { close(delta_); }},
+                   {"frmDelta.Command1", "OK", [this] { applyDelta(); }}},
+                  false,
+                  panelOf("Limits for risks"),
+                  panelOf("The smallest distance of any risk from 0 and from 1"),
+                  panelOf(sentenceFrom(fieldOf("txtDelta").limits.words()))};
+    dialog.sideButtons = {{"frmDelta.cmdHelp", "Help", [this] { show(deltaHelp_); }}};
+    return dialog;
+}
+
+Dialog SmallDialogs::makeHelp() {
+    return {"frmDeltaHelp",
+            std::nullopt,
+            "pnlText",
+            {},
+            {{"frmDeltaHelp.cmdClose", "Close", [this] { close(deltaHelp_); }}},
             false,
-            panel("Limits for risks"),
-            panel("The smallest distance of any risk from 0 and from 1"),
-            panel(rangeWords("txtDelta"))};
+            panelOf("Setting limits for range of risk"),
+            panelOf("How near to 0 and 1 a risk may lie"),
+            panelOf(limitsHelp)};
 }
 
 Dialog SmallDialogs::makeMean() {
     return {"frmSetMean",
             WindowId::frmSetMean,
             "pnlExplain",
-            {field(meanBox, panel("Overall mean"), "frmSetMean.pnlHeading"), field(spanBox, panel("Span"))},
+            {dialogField(meanBox, panelOf("Overall mean"), "frmSetMean.pnlHeading"),
+             dialogField(spanBox, panelOf("Span"))},
             {{"frmSetMean.cmdCancel", "Cancel", [this] { close(mean_); }},
              {"frmSetMean.cmdOK", "OK", [this] { applyMean(); }}}};
 }
@@ -121,12 +138,12 @@ Dialog SmallDialogs::makeGroupNames() {
     return {"frmGroupNames",
             WindowId::frmGroupNames,
             "pnlLimits",
-            {field(groupBox(1)), field(groupBox(2))},
+            {nameField(groupBox(1)), nameField(groupBox(2))},
             {{"frmGroupNames.cmdGroupNames(1)", "Cancel", [this] { close(groupNames_); }},
              {"frmGroupNames.cmdGroupNames(0)", "Apply", [this] { applyGroupNames(); }}},
             false,
-            panel("Group names"),
-            panel("The names are used in labels only")};
+            panelOf("Group names"),
+            panelOf("The names are used in labels only")};
 }
 
 Dialog SmallDialogs::makeLevelNames() {
@@ -137,28 +154,10 @@ Dialog SmallDialogs::makeLevelNames() {
                   {{"frmLevelNames.cmdLevelNames(1)", "Cancel", [this] { close(levelNames_); }},
                    {"frmLevelNames.cmdLevelNames(0)", "Apply", [this] { applyLevelNames(); }}},
                   false,
-                  panel("Level names"),
-                  panel("Name the units of every level, in the plural")};
+                  panelOf("Level names"),
+                  panelOf("Name the units of every level, in the plural")};
     for (int level = highestLevel; level >= lowestLevel; --level)
-        dialog.fields.push_back(field(levelBox(level), {}, indexedName("frmLevelNames.pnlLabel", level)));
-    return dialog;
-}
-
-Dialog SmallDialogs::makeLimits() {
-    Dialog dialog{"frmLimits",
-                  std::nullopt,
-                  "pnlLimits",
-                  {},
-                  {{"frmLimits.Command2", "Use spans", [this] { enterRisksAs(RangeModes::span); }},
-                   {"frmLimits.Command3", "Use limits", [this] { enterRisksAs(RangeModes::limits); }},
-                   {"frmLimits.Command1", "Apply", [this] { applyLimits(); }}},
-                  false,
-                  panel("Limits of risks"),
-                  panel("Enter the lower and the upper limit of the risks at each level")};
-    for (int level = highestLevel; level >= 2; --level) {
-        dialog.fields.push_back(field(lowerBox(level)));
-        dialog.fields.push_back(field(upperBox(level)));
-    }
+        dialog.fields.push_back(nameField(levelBox(level), indexedName("frmLevelNames.pnlLabel", level)));
     return dialog;
 }
 
@@ -166,13 +165,13 @@ Dialog SmallDialogs::makeMaxCost() {
     return {"pic",
             std::nullopt,
             "pnlLimits",
-            {field(maxCostBox, panel("Maximum cost"))},
+            {dialogField(maxCostBox, panelOf("Maximum cost"))},
             {{"cmdSetMaxCost(1)", "Cancel", [this] { close(maxCost_); }},
              {"cmdSetMaxCost(0)", "Apply", [this] { applyMaxCost(); }}},
             false,
-            panel("Set the maximum possible cost"),
-            panel("The program will display the current cost as a percentage of the value"),
-            panel("This affects the display only, and has no impact on the computations.")};
+            panelOf("Set the maximum possible cost"),
+            panelOf("The program will display the current cost as a percentage of the value"),
+            panelOf("This affects the display only, and has no impact on the computations.")};
 }
 
 Dialog SmallDialogs::makeExample() {
@@ -180,23 +179,12 @@ Dialog SmallDialogs::makeExample() {
             std::nullopt,
             "pnlLimits",
             {},
-            {{"frmOD.optA", "Use the example", [this] { applyExample(); }}},
+            {{"frmOD.cmdCancel", "Cancel", [this] { close(example_); }},
+             {"frmOD.optA", "Use the example", [this] { applyExample(); }}},
             false,
-            panel("Example of the optimal design"),
-            panel("Two levels, randomized at the top"),
-            panel("The present levels are replaced.")};
-}
-
-Dialog SmallDialogs::makeValue() {
-    return {"frmValue",
-            std::nullopt,
-            "pnlLimits",
-            {field(valueBox)},
-            {{"frmValue.cmdCancel", "Cancel", [this] { close(value_); }},
-             {"frmValue.cmdOK", "OK", [this] { applyValue(); }}},
-            false,
-            {},
-            panel("Enter a value")};
+            panelOf("Example of the optimal design"),
+            panelOf("Two levels, randomized at the top"),
+            panelOf("The present levels are replaced.")};
 }
 
 Dialog SmallDialogs::makeError() {
@@ -208,33 +196,17 @@ Dialog SmallDialogs::makeError() {
 
 template <typename Self>
 auto SmallDialogs::listOf(Self& self) {
-    return std::vector{&self.alpha_,  &self.delta_,   &self.mean_,    &self.groupNames_, &self.levelNames_,
-                       &self.limits_, &self.maxCost_, &self.example_, &self.value_,      &self.error_};
+    return std::vector{&self.alpha_,      &self.delta_,         &self.deltaHelp_, &self.mean_,
+                       &self.groupNames_, &self.levelNames_,    &self.maxCost_,   &self.example_,
+                       &self.error_,      &self.value_.dialog()};
 }
 
 std::vector<Dialog*> SmallDialogs::dialogs() { return listOf(*this); }
 
 std::vector<const Dialog*> SmallDialogs::all() const { return listOf(*this); }
 
-bool SmallDialogs::isOpen(const Dialog& dialog) const {
-    return dialog.window ? design_.isOpen(*dialog.window) : dialog.open;
-}
-
-void SmallDialogs::show(Dialog& dialog) {
-    if (dialog.window)
-        design_.SynchForms(*dialog.window, WindowAction::open);
-    dialog.open = true;
-    ++dialog.openings;
-}
-
-void SmallDialogs::close(Dialog& dialog) {
-    if (dialog.window)
-        design_.SynchForms(*dialog.window, WindowAction::unload);
-    dialog.open = false;
-}
-
-void SmallDialogs::refuse(const Dialog& dialog, const std::string& text) {
-    design_.ask(dialog.title.Caption, text);
+void SmallDialogs::refuse(Dialog& dialog, const std::string& text, const std::vector<std::string>& controls) {
+    lorvane::refuse(design_, dialog, dialog.title.Caption, text, controls);
 }
 
 bool SmallDialogs::holds(std::string_view field, double value) const {
@@ -253,11 +225,11 @@ void SmallDialogs::applyAlpha() {
     const Field& field = fieldOf("txtAlpha");
     const auto alpha = readNumber(alpha_.box(alphaBox).Text);
     if (!alpha)
-        refuse(alpha_, notANumber);
+        refuse(alpha_, notANumber, {alphaBox});
     else if (*alpha < field.limits.low)
-        refuse(alpha_, "Alpha must be " + pointNumber(field.limits.low) + " or higher         ");
+        refuse(alpha_, "Alpha must be " + pointNumber(field.limits.low) + " or higher         ", {alphaBox});
     else if (*alpha > field.limits.high)
-        refuse(alpha_, "Alpha must be " + pointNumber(field.limits.high) + " or lower         ");
+        refuse(alpha_, "Alpha must be " + pointNumber(field.limits.high) + " or lower         ", {alphaBox});
     else {
         close(alpha_);
         enterValue(session_, {&field, 0}, *alpha);
@@ -269,17 +241,18 @@ void SmallDialogs::openDelta() {
     show(delta_);
 }
 
+// A value beyond a limit is reset to it, and has to be confirmed.
 void SmallDialogs::applyDelta() {
     const Field& field = fieldOf("txtDelta");
     TextBox& box = delta_.box(deltaBox);
     const auto delta = readNumber(box.Text);
     if (!delta) {
-        design_.ask("Limits", notANumber);
+        lorvane::refuse(design_, delta_, "Limits", notANumber, {deltaBox});
         return;
     }
     if (!field.limits.holds(*delta)) {
         box.Text = fixedText(std::clamp(*delta, field.limits.low, field.limits.high), 4);
-        design_.ask("Limits", "Value has been reset to " + box.Text);
+        lorvane::refuse(design_, delta_, "Limits", "Value has been reset to " + box.Text, {});
         return;
     }
     close(delta_);
@@ -294,8 +267,8 @@ void SmallDialogs::openMean() {
     const std::string& control = s.controlName();
     mean_.title.Caption = "Set " + control + " group mean and span";
     mean_.sense.Caption = "Enter values for the " + control + " group";
-    mean_.box(meanBox).Text = shortestText(s.txtMean);
-    mean_.box(spanBox).Text = shortestText(s.txtMRange(1));
+    mean_.box(meanBox).Text = withDecimals(s.txtMean, s.decimals.txtMean);
+    mean_.box(spanBox).Text = withDecimals(s.txtMRange(1), s.decimals.txtMRange);
     mean_.note.Caption = "Span of scores for " + s.txtName(1) +
                          ". The span is 4 standard deviations. This span implies that the standard "
                          "deviation of scores within " +
@@ -309,11 +282,13 @@ void SmallDialogs::applyMean() {
     const auto mean = readNumber(meanText);
     const auto span = readNumber(spanText);
     if (!mean || !span) {
-        refuse(mean_, notANumber);
+        refuse(mean_, notANumber, {mean ? spanBox : meanBox});
         return;
     }
-    if (!holds("txtMean", *mean) || !holds("txtSD", *span / spanOfOneSd)) {
-        refuse(mean_, "Please enter a mean and a span that scores can have              ");
+    const bool hasMean = holds("txtMean", *mean);
+    if (!hasMean || !holds("txtSD", *span / spanOfOneSd)) {
+        refuse(mean_, "Please enter a mean and a span that scores can have              ",
+               {hasMean ? spanBox : meanBox});
         return;
     }
     close(mean_);
@@ -339,17 +314,12 @@ void SmallDialogs::openGroupNames() {
     show(groupNames_);
 }
 
-bool SmallDialogs::groupNamesChanged() const {
-    const Study& s = session_.study();
-    return groupNames_.box(groupBox(1)).Text != s.txtGroupName(1) ||
-           groupNames_.box(groupBox(2)).Text != s.txtGroupName(2);
-}
-
 void SmallDialogs::applyGroupNames() {
-    const std::string treated = typedName(groupNames_.box(groupBox(1)));
-    const std::string control = typedName(groupNames_.box(groupBox(2)));
+    const std::string treated = typedName(groupNames_.fields[0]);
+    const std::string control = typedName(groupNames_.fields[1]);
     if (treated == control) {
-        refuse(groupNames_, "Please use a unique name for each group              ");
+        refuse(groupNames_, "Please use a unique name for each group              ",
+               {groupBox(1), groupBox(2)});
         return;
     }
     close(groupNames_);
@@ -371,23 +341,15 @@ void SmallDialogs::openLevelNames() {
     show(levelNames_);
 }
 
-bool SmallDialogs::levelNamesChanged() const {
-    const Study& s = session_.study();
-    for (int level = lowestLevel; level <= s.NumLevels; ++level) {
-        if (levelNames_.box(levelBox(level)).Text != s.txtName(level))
-            return true;
-    }
-    return false;
-}
-
 void SmallDialogs::applyLevelNames() {
     const int levels = session_.study().NumLevels;
     PerLevel<std::string> names;
     for (int level = lowestLevel; level <= levels; ++level) {
-        names(level) = typedName(levelNames_.box(levelBox(level)));
+        names(level) = typedName(levelNames_.fields[static_cast<std::size_t>(highestLevel - level)]);
         for (int other = lowestLevel; other < level; ++other) {
             if (names(level) == names(other)) {
-                refuse(levelNames_, "Please use a unique name for each level              ");
+                refuse(levelNames_, "Please use a unique name for each level              ",
+                       {levelBox(level), levelBox(other)});
                 return;
             }
         }
@@ -407,47 +369,8 @@ void SmallDialogs::closeAsking(Dialog& dialog, bool changed, const std::string& 
         close(dialog);
 }
 
-// Limits of risks by level
-// -------------------------------------------------------------------------------------
-
-void SmallDialogs::openLimits() {
-    const Study& s = session_.study();
-    for (int level = 2; level <= highestLevel; ++level) {
-        const bool used = level <= s.NumLevels;
-        limits_.box(lowerBox(level)) = {shortestText(s.limits.txtLL(level)), used, used};
-        limits_.box(upperBox(level)) = {shortestText(s.limits.txtUL(level)), used, used};
-        const std::size_t first = 2 * static_cast<std::size_t>(highestLevel - level);
-        limits_.fields[first].label.Caption = s.txtName(level) + ", lower limit";
-        limits_.fields[first + 1].label.Caption = s.txtName(level) + ", upper limit";
-    }
-    show(limits_);
-}
-
-void SmallDialogs::applyLimits() {
-    const int levels = session_.study().NumLevels;
-    for (int level = 2; level <= levels; ++level) {
-        if (!readNumber(limits_.box(lowerBox(level)).Text) ||
-            !readNumber(limits_.box(upperBox(level)).Text)) {
-            design_.ask("Limits", notANumber);
-            return;
-        }
-    }
-    session_.edit({"limits of risks"}, [&](SessionState& state) {
-        for (int level = 2; level <= levels; ++level) {
-            state.study.limits.txtLL(level) = *readNumber(limits_.box(lowerBox(level)).Text);
-            state.study.limits.txtUL(level) = *readNumber(limits_.box(upperBox(level)).Text);
-        }
-    });
-}
-
-// Chooses how the risks of a level are entered, and closes the dialog.
-void SmallDialogs::enterRisksAs(RangeModes mode) {
-    close(limits_);
-    session_.edit({"entry of risks"}, [&](SessionState& state) { state.study.limits.RangeMode = mode; });
-}
-
 void SmallDialogs::enterIcc() {
-    close(limits_);
+    close(limits_.dialog());
     lorvane::enterIcc(session_);
 }
 
@@ -467,8 +390,9 @@ void SmallDialogs::openMaxCost() {
 void SmallDialogs::applyMaxCost() {
     const auto cost = readNumber(maxCost_.box(maxCostBox).Text);
     if (!cost || !holds("MaxCost", *cost)) {
-        design_.ask("Set maximum cost",
-                    "Please enter a cost " + fieldOf("MaxCost").limits.words() + "              ");
+        lorvane::refuse(design_, maxCost_, "Set maximum cost",
+                        "Please enter a cost " + fieldOf("MaxCost").limits.words() + "              ",
+                        {maxCostBox});
         return;
     }
     close(maxCost_);
@@ -489,41 +413,12 @@ void SmallDialogs::applyExample() {
 // ----------------------------------------------------------------------------------------------------
 
 void SmallDialogs::activate(FieldRef field, const std::string& firstText) {
-    if (field->arrows == ArrowRule::byStep)
-        openValue(field, firstText);
+    if (!restWords(session_.study(), field).empty())
+        openLimits();
+    else if (field->arrows == ArrowRule::byStep)
+        value_.open(field, firstText);
     else if (field->arrows == ArrowRule::twoStates && firstText.empty())
         stepField(session_, field, readNumberField(session_.state(), field) == 1 ? -1 : 1);
-}
-
-// What was typed for another field, and not applied, is dropped.
-void SmallDialogs::openValue(FieldRef field, const std::string& firstText) {
-    const Study& s = session_.study();
-    const double value = readNumberField(session_.state(), field);
-    const int decimals = decimalsOf(s, *field.field);
-    valueField_ = field;
-    value_.title.Caption = value_.fields[0].label.Caption = fieldWords(s, field);
-    value_.note.Caption =
-        (field->decimals == nullptr ? "A whole number " : "A number ") + limitsOf(s, *field.field).words();
-    value_.isBegun = !firstText.empty();
-    value_.box(valueBox).Text = value_.isBegun  ? firstText
-                                : decimals == 0 ? shortestText(value)
-                                                : fixedText(value, decimals);
-    show(value_);
-}
-
-void SmallDialogs::applyValue() {
-    const auto number = readNumber(value_.box(valueBox).Text);
-    const FieldLimits limits = limitsOf(session_.study(), *valueField_.field);
-    const bool whole = valueField_->decimals == nullptr;
-    if (!number || !limits.holds(*number) || (whole && *number != std::floor(*number))) {
-        const std::string& text = value_.box(valueBox).Text;
-        refuse(value_, std::string("Please enter a ") + (whole ? "whole number " : "number ") +
-                           limits.words() + (hasDecimalComma(text) ? ", with a point, not a comma" : "") +
-                           "              ");
-        return;
-    }
-    close(value_);
-    enterValue(session_, valueField_, *number);
 }
 
 // Names and events
@@ -532,6 +427,7 @@ void SmallDialogs::applyValue() {
 void SmallDialogs::registerNames(ControlRegistry& registry) const {
     for (const Dialog* dialog : all())
         dialog->registerNames(registry);
+    limits_.registerNames(registry);
     registry.add("frmErr.pnlTitle", error_.title);
     for (const RawTable* table : {&spreadICC_, &spreadTauSq_})
         registry.add(std::string(table->name) + ".Visible", &table->open);
@@ -540,16 +436,19 @@ void SmallDialogs::registerNames(ControlRegistry& registry) const {
 void SmallDialogs::registerEvents(EventRegistry& events) {
     for (Dialog* dialog : dialogs())
         dialog->registerEvents(events, [this, dialog] { return isOpen(*dialog); });
-    for (Dialog* dialog : {&delta_, &mean_, &limits_, &maxCost_, &example_, &value_, &error_})
+    limits_.registerEvents(events);
+    for (Dialog* dialog : {&delta_, &deltaHelp_, &mean_, &maxCost_, &example_, &error_, &value_.dialog()})
         events.onClose(dialog->name, [this, dialog] { close(*dialog); });
     events.onClose("frmAlpha", [this] {
-        closeAsking(alpha_, true, "Apply changes to alpha?          ", &SmallDialogs::applyAlpha);
+        closeAsking(alpha_, isOpen(alpha_), "Apply changes to alpha?          ", &SmallDialogs::applyAlpha);
     });
     events.onClose("frmGroupNames", [this] {
-        closeAsking(groupNames_, groupNamesChanged(), applyNamesQuestion, &SmallDialogs::applyGroupNames);
+        closeAsking(groupNames_, isOpen(groupNames_) && groupNames_.isChanged(), applyNamesQuestion,
+                    &SmallDialogs::applyGroupNames);
     });
     events.onClose("frmLevelNames", [this] {
-        closeAsking(levelNames_, levelNamesChanged(), applyNamesQuestion, &SmallDialogs::applyLevelNames);
+        closeAsking(levelNames_, isOpen(levelNames_) && levelNames_.isChanged(), applyNamesQuestion,
+                    &SmallDialogs::applyLevelNames);
     });
     for (RawTable* table : {&spreadICC_, &spreadTauSq_})
         events.onClose(table->name, [table] { table->open = false; });

@@ -10,8 +10,10 @@
 #include "platform/controls.h"
 #include "platform/event_registry.h"
 #include "screen/design.h"
-#include "screen/dialog.h"
+#include "screen/dialog_window.h"
+#include "screen/limits_dialog.h"
 #include "screen/part.h"
+#include "screen/value_dialog.h"
 
 namespace lorvane {
 
@@ -22,22 +24,25 @@ public:
     /// Enters texts, captions and events of all dialogs.
     void registerNames(ControlRegistry& registry) const override;
     void registerEvents(EventRegistry& events) override;
+    void follow(const Changed&) override { limits_.follow(); }
 
-    /// All dialogs, for views.
+    /// All dialogs of fields and buttons, for views, and the one that is a table.
     std::vector<const Dialog*> all() const;
-    bool isOpen(const Dialog& dialog) const;
+    const LimitsDialog& limits() const noexcept { return limits_; }
+    bool isOpen(const Dialog& dialog) const { return lorvane::isOpen(design_, dialog); }
 
     void openAlpha();
     void openDelta();
     void openMean();
     void openGroupNames();
     void openLevelNames();
-    void openLimits();
+    void openLimits() { limits_.open(); }
     void openMaxCost();
     void openExample();
 
     /// What a double click on a field's cell does: a choice of two goes over to the other one, and a number
-    /// opens for typing. With a first text, typed on the cell, only a number opens, with that text.
+    /// opens for typing. With a first text, typed on the cell, only a number opens, with that text. A value
+    /// that follows from the limits of the risks opens these.
     void activate(FieldRef field, const std::string& firstText = {});
 
     /// The dispersion of the outcome entered as ICC, or as limits of the risks.
@@ -61,10 +66,9 @@ private:
     Dialog makeMean();
     Dialog makeGroupNames();
     Dialog makeLevelNames();
-    Dialog makeLimits();
     Dialog makeMaxCost();
     Dialog makeExample();
-    Dialog makeValue();
+    Dialog makeHelp();
     Dialog makeError();
 
     void applyAlpha();
@@ -72,30 +76,25 @@ private:
     void applyMean();
     void applyGroupNames();
     void applyLevelNames();
-    void applyLimits();
-    void enterRisksAs(RangeModes mode);
     void applyMaxCost();
     void applyExample();
-    void openValue(FieldRef field, const std::string& firstText);
-    void applyValue();
-    bool groupNamesChanged() const;
-    bool levelNamesChanged() const;
     void closeAsking(Dialog& dialog, bool changed, const std::string& question,
                      void (SmallDialogs::*apply)());
 
     template <typename Self>
     static auto listOf(Self& self);
     std::vector<Dialog*> dialogs();
-    void show(Dialog& dialog);
-    void close(Dialog& dialog);
-    void refuse(const Dialog& dialog, const std::string& text);
+    void show(Dialog& dialog) { open(design_, dialog); }
+    void close(Dialog& dialog) { lorvane::close(design_, dialog); }
+    void refuse(Dialog& dialog, const std::string& text, const std::vector<std::string>& controls);
     bool holds(std::string_view field, double value) const;
 
     Design& design_;
     Session& session_;
-    Dialog alpha_, delta_, mean_, groupNames_, levelNames_, limits_, maxCost_, example_, value_;
+    Dialog alpha_, delta_, deltaHelp_, mean_, groupNames_, levelNames_, maxCost_, example_;
     Dialog error_;  ///< a plain panel; no computation writes to it
-    FieldRef valueField_;
+    ValueDialog value_;
+    LimitsDialog limits_;
     RawTable spreadICC_{"frmSpreadICC", "Table of the ICC"};
     RawTable spreadTauSq_{"frmSpreadTauSq", "Table of the effects"};
 };

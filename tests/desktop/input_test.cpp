@@ -144,7 +144,6 @@ TEST_F(Edit, ARefusalKeepsTheDialogAndTheStudy) {
           {"gfrmControlMean", "frmSetMean", "frmSetMean.txtSpan", "wide"},
           {"gfrmGroupNames", "frmGroupNames", "frmGroupNames.txtGroupName(1)", "Usual"},
           {"gfrmLevelNames", "frmLevelNames", "frmLevelNames.txtLevelNames(2)", "Pupils"},
-          {"FrmLimits", "frmLimits", "frmLimits.txtLL(2)", "low"},
           {"Set maximum cost", "pic", "txtMaxCost", "-5"},
           {"", "frmValue", "frmValue.txtValue", "1.2"}}) {
         if (*opener == '\0')

@@ -230,6 +230,7 @@ TEST_F(Names, AreShownLetterByLetterInEveryWindow) {
     inspect();
     set({{"txtOR", 2.0}});
     runTool("gfrmCounts");
+    runClick("frmDelta.cmdHelp");
     EXPECT_TRUE(window.isVisible());
     EXPECT_GT(hostile, 100);
     EXPECT_FALSE(tips.isEmpty());

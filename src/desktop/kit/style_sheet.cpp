@@ -52,6 +52,9 @@ QLineEdit:disabled { color: @quiet; border-color: @line; }
 QLineEdit[problem="true"] { background: @problemTint; border: 2px solid @problemOutline; padding: 0 9px;
             min-height: 28px; }
 
+QLineEdit[large="true"] { min-height: 36px; }
+QLineEdit[large="true"]:focus, QLineEdit[large="true"][problem="true"] { min-height: 34px; }
+
 QLineEdit[plain="true"] { background: transparent; color: @secondText; border: 1px solid transparent; }
 QLineEdit[plain="true"]:hover { border-color: @line; }
 QLineEdit[plain="true"]:focus { background: @card; border: 2px solid @accent; }

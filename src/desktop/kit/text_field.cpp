@@ -10,6 +10,7 @@ namespace lorvane::desktop {
 TextField::TextField(Size size, QWidget* parent) : QLineEdit(parent) {
     const bool large = size == Size::Large;
     setFixedHeight(large ? 38 : 32);
+    setProperty("large", large);
     setFont(textFont(large ? TextStyle::Entry : TextStyle::Body));
     setAlignment(large ? Qt::AlignRight : Qt::AlignLeft);
 }
