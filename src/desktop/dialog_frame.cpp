@@ -6,6 +6,7 @@
 #include <QScrollArea>
 #include <QScrollBar>
 #include <QVBoxLayout>
+#include <algorithm>
 #include <utility>
 
 #include "desktop/desk.h"
@@ -101,17 +102,23 @@ void DialogFrame::sync() {
     fit();
 }
 
+// On a narrow screen the texts wrap first; only what is still too wide or too high scrolls.
 void DialogFrame::fit() {
     QLayout& layout = *body_->layout();
     layout.invalidate();
-    const int inner = std::max(width_ + 2 * padding, layout.minimumSize().width());
-    const QSize whole(inner, std::max(layout.totalHeightForWidth(inner), layout.totalMinimumSize().height()));
     const QSize room = panel_->screen()->availableGeometry().size() - frameOfWindow;
-    QSize shown = whole;
-    if (whole.height() > room.height())
-        shown.rwidth() += area_->verticalScrollBar()->sizeHint().width();
-    if (whole.width() > room.width())
-        shown.rheight() += area_->horizontalScrollBar()->sizeHint().height();
+    const int bar = area_->verticalScrollBar()->sizeHint().width();
+    const auto sizeIn = [&](int space) {
+        const int inner = std::max(std::min(width_ + 2 * padding, space), layout.minimumSize().width());
+        return QSize(inner, std::max(layout.totalHeightForWidth(inner), layout.totalMinimumSize().height()));
+    };
+    QSize whole = sizeIn(room.width());
+    const bool isHigh = whole.height() > room.height();
+    if (isHigh)
+        whole = sizeIn(room.width() - bar);
+    QSize shown = whole + QSize(isHigh ? bar : 0, 0);
+    if (shown.width() > room.width())
+        shown.rheight() += bar;
     body_->setFixedSize(whole);
     area_->setFixedSize(shown.boundedTo(room));
 }

@@ -27,7 +27,8 @@ constexpr int arrowRoom = 24;  // between a number and the edge of its cell
 
 // Columns of the grid and their widths; the name takes what is left.
 enum Column { nameColumn, lowerColumn, upperColumn, firstImplied };
-constexpr int impliedWidths[] = {64, 72, 80, 112, 64};
+constexpr int impliedWidths[] = {50, 72, 80, 112, 64};
+constexpr int narrowestName = 90;
 
 class Line final : public QWidget {
 public:
@@ -54,6 +55,7 @@ LimitsView::LimitsView(Desk& desk, ToolPanel* panel)
     auto* grid = new QGridLayout;
     grid->setSpacing(0);
     grid->setColumnStretch(nameColumn, 1);
+    grid->setColumnMinimumWidth(nameColumn, narrowestName);
     for (const int column : {lowerColumn, upperColumn})
         grid->setColumnMinimumWidth(column, cellSize.width() + besideCells);
     for (int i = 0; i < static_cast<int>(std::size(impliedWidths)); ++i)

@@ -41,6 +41,11 @@ TEST_F(Dialogs, AValueBegunOnItsCellGoesOnInTheDialog) {
     EXPECT_EQ(study().txtNC(2), 42);
     open("txtModel(1)", "1");
     EXPECT_EQ(study().txtModel(1), 0) << "a choice is no number";
+    open("txtNT(2)", "7");
+    key(Qt::Key_Tab);
+    EXPECT_EQ(QApplication::focusWidget()->objectName(), QStringLiteral("frmValue.cmdCancel"));
+    key(Qt::Key_Return);
+    EXPECT_EQ(study().txtNT(2), 42);
 }
 
 TEST_F(Dialogs, AnotherCellTakesAnOpenDialogOver) {
