@@ -2,9 +2,9 @@
 #include <QAbstractButton>
 #include <QAccessible>
 
+#include "desktop/desk_message_boxes.h"
 #include "desktop/kit/field_note.h"
 #include "desktop_bench.h"
-#include "qt/qt_message_boxes.h"
 
 namespace lorvane::desktop {
 namespace {
@@ -79,7 +79,7 @@ TEST_F(Dialogs, ARefusalTakesThePlaceOfTheLimits) {
     const auto shown = messages.scripted.take();
     ASSERT_EQ(shown.size(), 1U);
     const MessageBox& told = std::get<ScriptedDialogs::ShownMessage>(shown[0]).message;
-    EXPECT_EQ(QtMessageBoxes().show(told), Answer::OK) << "no box comes up on the screen";
+    EXPECT_EQ(DeskMessageBoxes().show(told), Answer::OK) << "no box comes up on the screen";
     key(Qt::Key_Backspace);
     EXPECT_EQ(note("frmValue").tone(), FieldNote::Tone::Quiet);
     EXPECT_FALSE(value.property("problem").toBool());

@@ -141,7 +141,7 @@ void KitStyle::drawControl(ControlElement element, const QStyleOption* option, Q
     if (element == CE_MenuEmptyArea || entry == nullptr)
         return;
     painter->save();
-    paintMenuEntry(*painter, *entry, styleHint(SH_UnderlineShortcut, option, widget));
+    paintMenuEntry(*painter, *entry, styleHint(SH_UnderlineShortcut, option, widget, nullptr));
     painter->restore();
 }
 
