@@ -121,12 +121,14 @@ void Docks::dockIn(Entry& entry) {
     setZoom(zoom_);
     entry.dock->setFloating(false);
     entry.dock->show();
+    entry.view->sync();
     arrange();
 }
 
 void Docks::floatOut(Entry& entry) {
     window_.removeDockWidget(entry.dock);
     entry.dock->setFloating(true);
+    entry.view->sync();
     placeFloating(entry);
     entry.dock->show();
     arrange();
@@ -159,6 +161,7 @@ void Docks::movedByUser(Entry& entry, bool floats) {
         if (isFloating)
             setLimits(*entry.dock, QSize(smallestWidth, 0), QSize(QWIDGETSIZE_MAX, QWIDGETSIZE_MAX));
         entry.floats = isFloating;
+        entry.view->sync();
         arrange();
         giveRoomBack();
     });

@@ -64,7 +64,7 @@ public:
 
 private:
     struct Entry {
-        const PanelView* view;
+        PanelView* view;
         const DockRow* row;
         PanelDock* dock;
         std::optional<bool> floats;  ///< as the user has chosen

@@ -1,12 +1,14 @@
 // The floating windows that tell something.
 #include "desktop/message_views.h"
 
+#include <QDockWidget>
 #include <QGridLayout>
 #include <QVBoxLayout>
 
 #include "base/names.h"
 #include "desktop/kit/level_tabs.h"
 #include "desktop/kit/message_card.h"
+#include "desktop/kit/panel_dock.h"
 #include "desktop/kit/paragraph_view.h"
 #include "desktop/kit/plain_text.h"
 #include "desktop/kit/push_button.h"
@@ -199,17 +201,19 @@ void DetailsView::syncTabs() {
     tabRule_->setVisible(!levels_.empty());
 }
 
-// At rest the sheet fills a window of its own; in a dock it keeps inside like all that stands there.
+// At rest the sheet fills a window of its own; in the column of docks it keeps inside like all that stands
+// there.
 void DetailsView::syncMargins(bool atRest) {
-    const bool floats = panel()->content()->parentWidget()->isWindow();
-    if (floats) {
-        const int margin = atRest ? 0 : padding;
-        panel()->content()->setContentsMargins(margin, margin, margin, margin);
-    }
+    const bool floats = qobject_cast<QDockWidget*>(panel()->window()) != nullptr;
+    const int margin = atRest ? 0 : padding;
+    const auto zoomed = [this](int length) { return desktop::zoomed(*panel(), length); };
+    panel()->content()->setContentsMargins(
+        floats ? QMargins(margin, margin, margin, margin)
+               : QMargins(zoomed(DockPadding.left()), zoomed(DockPadding.top()), zoomed(DockPadding.right()),
+                          zoomed(DockPadding.bottom())));
     rest_->setSquare(floats);
     close_->setVisible(floats);
 }
-
 void DetailsView::sync() {
     const Details& details = desk_.application().details();
     syncTabs();

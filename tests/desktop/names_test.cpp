@@ -220,6 +220,8 @@ TEST_F(Names, AreShownLetterByLetterInEveryWindow) {
     for (const char* tool : {"gfrmPrint", "Graph", "Show cost", "Show table", "L Number of Level 1"})
         runTool(tool);
     runClick("frmLVar.Command1");
+    set({{"txtQ(1)", 0.0}, {"txtRsq(1)", 0.4}});
+    runTool("gfrmProblems");
     set({{"txtNB(4)", 1.0}, {"txtMRange(3)", 0.95}});
     const std::vector<Tool> tools = desk.application().commands().tools();
     for (const Tool& tool : tools) {

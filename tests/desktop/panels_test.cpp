@@ -17,17 +17,21 @@ namespace {
 class PanelContent : public DesktopBench {
 protected:
     /// As wide inside as a dock makes it, and as high as it then asks to be.
-    void showAt(ToolPanel& shown, int inside) {
-        QVBoxLayout& column = *shown.content();
-        const QMargins margins = column.contentsMargins();
-        column.setSizeConstraint(QLayout::SetDefaultConstraint);
-        shown.setMinimumSize(0, 0);
-        shown.setMaximumSize(QWIDGETSIZE_MAX, QWIDGETSIZE_MAX);
-        const int width = inside + margins.left() + margins.right();
-        EXPECT_LE(column.minimumSize().width(), 324 + margins.left() + margins.right());
-        shown.resize(width, column.heightForWidth(width));
+    void showAt(const char* name, int inside) {
+        PanelDock& dock = this->dock(name);
+        dock.setFloating(true);
         settle();
-        EXPECT_EQ(shown.width(), width);
+        ToolPanel& shown = panel(name);
+        const QMargins margins = shown.content()->contentsMargins();
+        const int width = inside + margins.left() + margins.right();
+        EXPECT_LE(shown.content()->minimumSize().width(), 324 + margins.left() + margins.right());
+        const int outside = width + 2 * dock.frameWidth();
+        dock.setMinimumSize(0, 0);
+        for (int i = 0; i < 2; ++i) {
+            dock.resize(outside, dock.heightFor(outside));
+            settle();
+        }
+        EXPECT_EQ(shown.width(), width) << name;
     }
 
     /// Visible widgets that stand out of their parent, lines without the height they need, and values that
@@ -87,7 +91,7 @@ TEST_F(PanelContent, FitsEveryWidthOfADock) {
                 desk.click("pnlNT(1)");
                 desk.click("frmMDES.cmdComputeMDES");
                 for (const int inside : {324, 364, 444}) {
-                    showAt(panel(shown), inside);
+                    showAt(shown, inside);
                     EXPECT_EQ(cutOff(panel(shown)), "")
                         << shown << ' ' << inside << ", levels " << levels << ", " << metric;
                 }
@@ -101,10 +105,10 @@ TEST_F(PanelContent, IsAsHighAsItsRowsAndTellsAFaultInPlaceOfThePicture) {
     openFourLevels();
     set({{"ICC Metric", 1.0}});
     tool("gfrmDisplayICC");
-    const int four = panel("frmDisplayICC").height();
+    const int four = dock("frmDisplayICC").heightFor(400);
     set({{"NumLevels", 2.0}});
     settle();
-    EXPECT_EQ(panel("frmDisplayICC").height(), four - 2 * (39 + 32));
+    EXPECT_EQ(dock("frmDisplayICC").heightFor(400), four - 2 * (39 + 32));
     set({{"NumLevels", 3.0}, {"txtICC(2)", 0.41}, {"txtICC(3)", 0.62}});
     settle();
     const auto& overlay = *table("frmDisplayICC").findChild<OutlineOverlay*>();
@@ -143,18 +147,19 @@ TEST_F(PanelContent, FieldsActLikeThoseOfTheStudyScreen) {
 
 TEST_F(PanelContent, DetailsCloseThemselvesWhereTheyFloat) {
     tool("gfrmDetails");
+    dock("frmDetails").setFloating(true);
+    settle();
     ToolPanel& details = panel("frmDetails");
     auto* close = details.findChild<PushButton*>();
     EXPECT_EQ(details.findChild<RestSheet*>()->size(), details.size()) << "yellow from end to end";
     desk.click("pnlNT(1)");
     settle();
     EXPECT_FALSE(details.findChild<RestSheet*>()->isVisible());
-    details.setParent(&window, Qt::Widget);
-    emit desk.shown();
+    dock("frmDetails").setFloating(false);
+    settle();
     EXPECT_FALSE(close->isVisibleTo(&details)) << "a dock has a sign of its own";
-    details.setParent(&window, Qt::Tool);
-    details.show();
-    emit desk.shown();
+    dock("frmDetails").setFloating(true);
+    settle();
     ASSERT_TRUE(close->isVisible());
     click(*close, inside(*close));
     EXPECT_FALSE(isShown("frmDetails"));

@@ -6,6 +6,7 @@
 #include <QPainter>
 #include <QScrollArea>
 #include <QShortcut>
+#include <QStyle>
 #include <QVBoxLayout>
 
 #include "desktop/kit/dock_title.h"
@@ -13,14 +14,7 @@
 
 namespace lorvane::desktop {
 
-namespace {
-
-constexpr QMargins Padding(18, 4, 18, 16);
-
-// A floating dock has no frame of the window system; a line of 1 stands in for it.
-constexpr int FrameWidth = 1;
-
-}  // namespace
+namespace {}  // namespace
 
 PanelDock::PanelDock(ToolPanel* panel, const QString& shortName, QWidget* owner)
     : QDockWidget(owner), panel_(panel), shortName_(shortName), title_(new DockTitle(this)),
@@ -28,7 +22,7 @@ PanelDock::PanelDock(ToolPanel* panel, const QString& shortName, QWidget* owner)
     setObjectName(QStringLiteral("dock.") + panel->objectName());
     setAllowedAreas(Qt::RightDockWidgetArea);
     setTitleBarWidget(title_);
-    panel->standInDock(Padding);
+    panel->standInDock(DockPadding);
     scroll_->setFrameShape(QFrame::NoFrame);
     scroll_->setWidgetResizable(true);
     scroll_->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
@@ -42,6 +36,7 @@ PanelDock::PanelDock(ToolPanel* panel, const QString& shortName, QWidget* owner)
     connect(title_, &DockTitle::floatRequested, this, [this] { setFloating(!isFloating()); });
     connect(this, &QDockWidget::topLevelChanged, this, &PanelDock::syncTitle);
     limitShortcuts();
+    syncLeastSize();
     connect(qApp, &QApplication::focusChanged, this,
             [this](QWidget*, QWidget* now) { title_->setInUse(now == this || (now && isAncestorOf(now))); });
     syncTitle();
@@ -65,15 +60,18 @@ void PanelDock::syncTitle() {
     setAccessibleName(panel_->windowTitle());
     panel_->setAccessibleName(panel_->windowTitle());
     setWindowTitle(isFloating() ? panel_->windowTitle() : shortName_);
-    const int frame = isFloating() ? FrameWidth : 0;
-    setContentsMargins(frame, frame, frame, frame);
+}
+
+// A floating dock has no frame of the window system; the toolkit leaves a line around it instead.
+int PanelDock::frameWidth() const {
+    return isFloating() ? style()->pixelMetric(QStyle::PM_DockWidgetFrameWidth, nullptr, this) : 0;
 }
 
 int PanelDock::heightFor(int width) const {
     const QLayout* content = panel_->layout();
-    const int inner = content->hasHeightForWidth() ? content->totalHeightForWidth(width)
+    const int inner = content->hasHeightForWidth() ? content->totalHeightForWidth(width - 2 * frameWidth())
                                                    : content->totalSizeHint().height();
-    return title_->sizeHint().height() + inner + contentsMargins().top() + contentsMargins().bottom();
+    return title_->sizeHint().height() + inner + 2 * frameWidth();
 }
 
 void PanelDock::takeKeyboard() {
@@ -94,9 +92,18 @@ void PanelDock::closeEvent(QCloseEvent* event) {
     emit closeRequested();
 }
 
+// The scroll area takes a least size for the truth. A content that knows its height for a width is asked for
+// that; its least size would be that of the narrowest one.
+void PanelDock::syncLeastSize() {
+    const QLayout* content = panel_->layout();
+    panel_->setMinimumSize(1, content->hasHeightForWidth() ? 1 : content->totalMinimumSize().height());
+}
+
 bool PanelDock::eventFilter(QObject* watched, QEvent* event) {
-    if (watched == panel_ && event->type() == QEvent::LayoutRequest)
+    if (watched == panel_ && event->type() == QEvent::LayoutRequest) {
+        syncLeastSize();
         emit contentChanged();
+    }
     if (watched == panel_ && event->type() == QEvent::WindowTitleChange)
         syncTitle();
     return QDockWidget::eventFilter(watched, event);

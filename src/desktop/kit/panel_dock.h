@@ -12,6 +12,9 @@ namespace lorvane::desktop {
 
 class DockTitle;
 
+/// The room around the content of a docked panel, at 100 %.
+inline constexpr QMargins DockPadding(18, 4, 18, 16);
+
 /// Takes a panel in. Whether it closes is for its owner to say, as with the panel itself.
 class PanelDock : public QDockWidget {
     Q_OBJECT
@@ -24,6 +27,9 @@ public:
 
     /// The height that title row and content take at a width, in pixels as shown.
     int heightFor(int width) const;
+
+    /// The line around it while it floats.
+    int frameWidth() const;
 
     /// A panel with nothing in it that takes the keyboard takes it itself.
     void takeKeyboard();
@@ -43,6 +49,7 @@ protected:
 private:
     void limitShortcuts();
     void syncTitle();
+    void syncLeastSize();
 
     ToolPanel* panel_;
     QString shortName_;
