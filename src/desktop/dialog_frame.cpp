@@ -11,9 +11,9 @@
 
 #include "desktop/desk.h"
 #include "desktop/kit/elided_label.h"
+#include "desktop/kit/field_note.h"
 #include "desktop/kit/plain_text.h"
 #include "desktop/kit/push_button.h"
-#include "desktop/kit/field_note.h"
 #include "desktop/kit/zoom.h"
 
 namespace lorvane::desktop {

@@ -74,6 +74,11 @@ bool DispersionTable::isEntered(const PanelColumn& column, int level) const {
            (*column.cells)(level).state == CellState::changeable;
 }
 
+// Why a value that follows from another entry cannot be entered here.
+QString DispersionTable::restOf(const PanelColumn& column, int level) const {
+    return column.cells == nullptr ? QString() : shownText((*column.cells)(level).rest);
+}
+
 bool DispersionTable::hasFields(const PanelColumn& column) const {
     return std::any_of(rows_.begin(), rows_.end(),
                        [&](const Row& row) { return isEntered(column, row.level); });
@@ -91,6 +96,7 @@ void DispersionTable::syncRow(const Row& row) {
         FittedLine* line = row.values[i].line;
         line->setText(QString(), shownText(model.Caption));
         line->setVisible(shown && !entered);
+        line->setToolTip(restOf(column, row.level));
         line->setAccessibleName(row.name->text() + QStringLiteral(", ") + shownText(column.head->Caption) +
                                 QStringLiteral(", ") + shownText(model.Caption));
         if (CellBinding* field = row.values[i].field.get()) {

@@ -76,6 +76,7 @@ private:
     Value makeValue(const PanelColumn& column, int level);
     const Panel& modelOf(const PanelColumn& column, int level) const;
     bool isEntered(const PanelColumn& column, int level) const;
+    QString restOf(const PanelColumn& column, int level) const;
     bool hasFields(const PanelColumn& column) const;
     void syncRow(const Row& row);
     std::vector<Place> places() const;

@@ -28,11 +28,6 @@ void refuse(Design& design, Dialog& dialog, const std::string& title, const std:
     design.tellRefusal(title, reason);
 }
 
-std::string sentenceFrom(std::string words) {
-    words[0] = static_cast<char>(words[0] - 'a' + 'A');
-    return words;
-}
-
 Panel panelOf(std::string caption) {
     Panel made;
     made.Caption = std::move(caption);

@@ -26,9 +26,6 @@ Panel panelOf(std::string caption);
 /// A field with the label before it.
 DialogField dialogField(std::string control, Panel label = {}, std::string labelName = {});
 
-/// A sentence from a range or a rule in words: "From 0 to 1".
-std::string sentenceFrom(std::string words);
-
 /// What is told of a text that is no number.
 inline constexpr const char* notANumber = "Please enter a number              ";
 

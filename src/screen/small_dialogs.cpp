@@ -107,7 +107,7 @@ Dialog SmallDialogs::makeDelta() {
                   false,
                   panelOf("Limits for risks"),
                   panelOf("The smallest distance of any risk from 0 and from 1"),
-                  panelOf(sentenceFrom(fieldOf("txtDelta").limits.words()))};
+                  panelOf(beginSentence(fieldOf("txtDelta").limits.words()))};
     dialog.sideButtons = {{"frmDelta.cmdHelp", "Help", [this] { show(deltaHelp_); }}};
     return dialog;
 }

@@ -36,7 +36,7 @@ void ValueDialog::open(FieldRef field, const std::string& firstText) {
     dialog_.heading.Caption = dialog_.fields[0].label.Caption = fieldHeading(s, field);
     dialog_.sense.Caption = fieldSense(s, field);
     dialog_.fields[0].unit = fieldUnit(session_.state(), field);
-    dialog_.note.Caption = sentenceFrom(entryWords(s, field));
+    dialog_.note.Caption = beginSentence(entryWords(s, field));
     dialog_.box(valueBox).Text = decimals == 0 ? shortestText(value) : fixedText(value, decimals);
     dialog_.isBegun = !firstText.empty();
     if (dialog_.isBegun)

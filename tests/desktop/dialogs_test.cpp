@@ -1,9 +1,10 @@
 // The small dialogs as a hand and a reader of the screen meet them.
 #include <QAbstractButton>
-#include <QAccessible>
+#include <algorithm>
 
 #include "desktop/desk_message_boxes.h"
 #include "desktop/kit/field_note.h"
+#include "desktop/kit/fitted_line.h"
 #include "desktop_bench.h"
 
 namespace lorvane::desktop {
@@ -122,6 +123,14 @@ TEST_F(Dialogs, LimitsOfRisksByKeysAlone) {
     set({{"RangeMode", 2.0}});
     EXPECT_FALSE(cell("pnlMRange(3)").isChangeable());
     EXPECT_TRUE(cell("pnlMRange(3)").toolTip().contains(QStringLiteral("limits")));
+    tool("gfrmDisplayICC");
+    const QList<FittedLine*> lines = panel("frmDisplayICC").findChildren<FittedLine*>();
+    EXPECT_EQ(std::count_if(lines.begin(), lines.end(),
+                            [&](const FittedLine* line) {
+                                return line->isVisible() && line->toolTip() == cell("pnlMRange(3)").toolTip();
+                            }),
+              4)
+        << "ICC and span of two levels";
     cell("pnlMRange(3)").activate();
     settle();
     ASSERT_TRUE(isShown("frmLimits")) << "a span that follows from the limits leads to them";
