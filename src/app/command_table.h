@@ -15,9 +15,10 @@ struct Looks {
     Sign sign = Sign::none;
     bool withWord = false;
     const char* shortcut = "";
-    const char* word = "";       ///< a shorter caption for the tool bar
-    bool opensDialog = false;    ///< its caption in menus ends in three dots
-    const char* keyOfCell = "";  ///< key that the cell with the focus takes by itself
+    const char* word = "";     ///< a shorter caption for the tool bar
+    bool opensDialog = false;  ///< its caption in menus ends in three dots
+    const char* keyOfCell =
+        "";  ///< key of the value with the focus, which takes it by itself where it is no shortcut
 };
 
 struct CommandRow {

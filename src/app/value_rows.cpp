@@ -67,7 +67,7 @@ const CommandRow valueTable[] = {
      command,
      tellOfFocused,
      nullptr,
-     {.sign = Sign::details, .shortcut = "F1"}},
+     {.sign = Sign::details, .shortcut = "F1", .keyOfCell = "F1"}},
 };
 
 bool hasModel(P p, int level) {

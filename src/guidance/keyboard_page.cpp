@@ -40,7 +40,8 @@ const KeySection& keysOfWindows() {
     return keys;
 }
 
-// The commands of a screen that have keys, in the order of its menus and its tool bar.
+// The commands of a screen that have keys, in the order of its menus and its tool bar; those of a value stand
+// with its keys.
 KeySection keysOfCommands(const CommandBook& book, const std::string& heading, bool atRight,
                           const std::string& screen) {
     KeySection section{heading, atRight, {}};
@@ -50,7 +51,8 @@ KeySection keysOfCommands(const CommandBook& book, const std::string& heading, b
             continue;
         for (const BandEntry& entry : band.entries) {
             const Command* command = book.row(entry.name);
-            const bool hasKeys = command != nullptr && command->run && !command->tool.shortcut.empty();
+            const bool hasKeys = command != nullptr && command->run && !command->tool.shortcut.empty() &&
+                                 command->tool.keyOfCell.empty();
             if (hasKeys && seen.insert(entry.name).second)
                 section.rows.push_back({command->tool.shortcut, command->tool.ToolTipText});
         }

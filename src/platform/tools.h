@@ -61,7 +61,8 @@ struct Tool {
     bool withWord = false;  ///< the tool bar shows its caption beside the sign
     std::string word;       ///< a shorter caption for the tool bar; empty: the caption
     std::string shortcut;   ///< keys, "Ctrl+Z"; several are parted by blanks
-    std::string keyOfCell;  ///< key that the cell with the focus takes by itself, "Enter"
+    std::string
+        keyOfCell;  ///< key of the value with the focus, "Enter"; the value takes it where it is no shortcut
     bool opensDialog = false;
     std::string Shown = {};   ///< the caption as menus show it, with its dots
     std::string Reason = {};  ///< why it is not on offer; empty while it is

@@ -196,7 +196,7 @@ TEST_F(Names, AreShownLetterByLetterInEveryWindow) {
         desk.type(box, QString::fromStdString(picture));
     runClick("frmScenariosName.cmdScenarioNameOk(0)");
     set({{"txtRsq(2)", 0.5}});
-    inspect();
+    runTool("gfrmProblems");
     set({{"txtRsq(2)", 0.0}});
     runTool("gfrmDetails");
     forEachField([&](FieldRef field) {
