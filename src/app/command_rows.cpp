@@ -294,7 +294,7 @@ const CommandRow commandTable[] = {
          const Study& s = p.session.study();
          return {.checked = p.design.isOpen(frmSetMean),
                  .enabled = s.isMeans(),
-                 .caption = "Set &mean and span for " + plainCaption(s.controlName()),
+                 .caption = "Set mean and span for " + plainCaption(s.controlName()),
                  .reason = "A binary outcome has no scale"};
      },
      {.opensDialog = true}},
