@@ -9,6 +9,7 @@
 #include <QScreen>
 #include <QTabBar>
 #include <QTimer>
+#include <QVBoxLayout>
 #include <algorithm>
 
 #include "desktop/floating_stage.h"
@@ -56,6 +57,9 @@ Docks::Docks(MainWindow& window) : window_(window) {
 
 // Entries stay in the order of the rows, which is that of the column.
 void Docks::add(PanelView& view, const DockRow& row) {
+    // In the last dock of the column, which takes the rest, a content of its own height stays at the top.
+    if (!row.takesRest)
+        view.panel()->content()->addStretch(1);
     auto* dock = new PanelDock(view.panel(), QString::fromUtf8(row.shortName), &window_);
     dock->hide();
     dock->setAttribute(Qt::WA_ShowWithoutActivating,
