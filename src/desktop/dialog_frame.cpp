@@ -102,7 +102,8 @@ void DialogFrame::sync() {
     fit();
 }
 
-// On a narrow screen the texts wrap first; only what is still too wide or too high scrolls.
+// The least size of wrapped texts is that of a width they have not got yet, so the height is asked for the
+// width. On a narrow screen the texts wrap first; only what is still too wide or too high scrolls.
 void DialogFrame::fit() {
     QLayout& layout = *body_->layout();
     layout.invalidate();
@@ -110,7 +111,8 @@ void DialogFrame::fit() {
     const int bar = area_->verticalScrollBar()->sizeHint().width();
     const auto sizeIn = [&](int space) {
         const int inner = std::max(std::min(width_ + 2 * padding, space), layout.minimumSize().width());
-        return QSize(inner, std::max(layout.totalHeightForWidth(inner), layout.totalMinimumSize().height()));
+        return QSize(inner, layout.hasHeightForWidth() ? layout.totalHeightForWidth(inner)
+                                                       : layout.totalMinimumSize().height());
     };
     QSize whole = sizeIn(room.width());
     const bool isHigh = whole.height() > room.height();
