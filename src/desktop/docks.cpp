@@ -60,7 +60,7 @@ void Docks::add(PanelView& view, const DockRow& row) {
     // In the last dock of the column, which takes the rest, a content of its own height stays at the top.
     if (!row.takesRest)
         view.panel()->content()->addStretch(1);
-    auto* dock = new PanelDock(view.panel(), QString::fromUtf8(row.shortName), &window_);
+    auto* dock = new PanelDock(view.panel(), QString::fromUtf8(row.shortName), row.takesRest, &window_);
     dock->hide();
     dock->setAttribute(Qt::WA_ShowWithoutActivating,
                        view.panel()->testAttribute(Qt::WA_ShowWithoutActivating));
@@ -97,7 +97,8 @@ bool Docks::standsAside(const PanelView& view) const { return isShown(view) && !
 void Docks::show(PanelView& view) {
     const QScopedValueRollback busy(busy_, true);
     Entry& entry = entryOf(view);
-    if (!entry.floats.value_or(!makeRoom(entry, window_.roomyMiddle())))
+    const bool isToFloat = entry.floats.value_or(false);
+    if (!isToFloat && makeRoom(entry, entry.floats ? window_.smallestMiddle() : window_.roomyMiddle()))
         dockIn(entry);
     else
         floatOut(entry);
@@ -140,16 +141,30 @@ void Docks::floatOut(Entry& entry) {
 
 void Docks::placeFloating(Entry& entry) {
     PanelDock& dock = *entry.dock;
-    lorvane::desktop::setZoom(dock, 1);
-    setLimits(dock, QSize(smallestWidth, 0), QSize(QWIDGETSIZE_MAX, QWIDGETSIZE_MAX));
+    sizeFloating(entry);
     if (entry.place.isValid() && dock.screen()->availableGeometry().intersects(entry.place)) {
         dock.setGeometry(entry.place);
         return;
     }
+    placeClear(dock, window_);
+}
+
+void Docks::sizeFloating(Entry& entry) {
+    PanelDock& dock = *entry.dock;
+    lorvane::desktop::setZoom(dock, 1);
+    setLimits(dock, QSize(smallestWidth, 0), QSize(QWIDGETSIZE_MAX, QWIDGETSIZE_MAX));
     const int width = entry.row->floatingWidth;
     const int own = dock.heightFor(width);
     dock.resize(width, entry.row->takesRest ? std::max(own, floatingHeight) : own);
-    placeClear(dock, window_);
+}
+
+// The content of a floating panel has grown or shrunk.
+void Docks::fitFloating() {
+    for (Entry& entry : entries_) {
+        PanelDock& dock = *entry.dock;
+        if (dock.isVisible() && dock.isFloating() && !entry.row->takesRest)
+            dock.resize(dock.width(), dock.heightFor(dock.width()));
+    }
 }
 
 // A drag ends after the signal; only then may the docks move.
@@ -162,12 +177,13 @@ void Docks::movedByUser(Entry& entry, bool floats) {
         else if (!makeRoom(entry, window_.smallestMiddle()))
             entry.dock->setFloating(true);
         const bool isFloating = entry.dock->isFloating();
-        if (isFloating)
-            setLimits(*entry.dock, QSize(smallestWidth, 0), QSize(QWIDGETSIZE_MAX, QWIDGETSIZE_MAX));
         entry.floats = isFloating;
         entry.view->sync();
+        if (isFloating)
+            sizeFloating(entry);
         arrange();
         giveRoomBack();
+        keepClear();
     });
 }
 
@@ -318,6 +334,7 @@ void Docks::arrangeSoon() {
         waiting_ = false;
         const QScopedValueRollback busy(busy_, true);
         arrange();
+        fitFloating();
     });
 }
 

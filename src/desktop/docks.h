@@ -75,6 +75,8 @@ private:
     void dockIn(Entry& entry);
     void floatOut(Entry& entry);
     void placeFloating(Entry& entry);
+    void sizeFloating(Entry& entry);
+    void fitFloating();
     void movedByUser(Entry& entry, bool floats);
     bool makeRoom(const Entry& newcomer, int leastMiddle);
     void giveRoomBack();

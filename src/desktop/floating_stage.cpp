@@ -64,6 +64,9 @@ void placeClear(QWidget& floating, const QWidget& mainWindow) {
 
 void keepClear(QWidget& floating, const QWidget& mainWindow) {
     const Surroundings around = surroundingsOf(mainWindow);
+    const int below = floating.frameGeometry().bottom() - around.screen.bottom();
+    if (below > 0)
+        floating.move(floating.x(), std::max(around.screen.top(), floating.y() - below));
     if (coveredArea(floating.frameGeometry(), around.pointedAt) == 0)
         return;
     const QPoint free = freePlace(framed(floating), around, floating.pos());

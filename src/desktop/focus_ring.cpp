@@ -25,14 +25,21 @@ FocusRing::FocusRing(QMainWindow& window) : window_(window) {
 
 void FocusRing::add(PanelView& view, PanelDock* dock) {
     stops_.push_back({&view, dock});
-    connect(&view, &PanelView::gone, this, [this](bool hadKeyboard) {
+    connect(&view, &PanelView::gone, this, [this, &view, dock](bool hadKeyboard) {
         if (hadKeyboard)
-            giveBack();
+            giveBackAfter(view, dock);
     });
 }
 
 void FocusRing::noteFocus(QWidget* now) {
-    if (now == nullptr || window_.centralWidget() == nullptr || !window_.centralWidget()->isAncestorOf(now))
+    if (now == nullptr || window_.centralWidget() == nullptr)
+        return;
+    const bool isInMiddle = window_.centralWidget()->isAncestorOf(now);
+    if (isInMiddle || std::any_of(stops_.begin(), stops_.end(), [&](const Stop& stop) {
+            return stop.dock != nullptr && stop.dock->isAncestorOf(now);
+        }))
+        recent_ = now;
+    if (!isInMiddle)
         return;
     last_ = now;
     emit movedInMainWindow();
@@ -74,6 +81,22 @@ void FocusRing::enter(const Stop& stop) {
     }
     stop.view->panel()->raise();
     stop.view->panel()->activateWindow();
+}
+
+// A window that floats goes back to the value that it came from, in the main window or in a dock; a dock goes
+// back to a dialog that still waits for its answer, or to the main window.
+void FocusRing::giveBackAfter(const PanelView& view, const PanelDock* dock) {
+    if (dock == nullptr && recent_ && recent_->isVisible() && !view.panel()->isAncestorOf(recent_)) {
+        recent_->activateWindow();
+        return recent_->setFocus(Qt::OtherFocusReason);
+    }
+    const std::vector<Stop> list = open();
+    const auto floating = std::find_if(list.rbegin(), list.rend(), [&](const Stop& stop) {
+        return stop.dock == nullptr && stop.view != &view;
+    });
+    if (dock != nullptr && floating != list.rend())
+        return enter(*floating);
+    giveBack();
 }
 
 void FocusRing::giveBack() {

@@ -39,11 +39,13 @@ private:
     void go(int direction);
     void enter(const Stop& stop);
     void giveBack();
+    void giveBackAfter(const PanelView& view, const PanelDock* dock);
     void noteFocus(QWidget* now);
 
     QMainWindow& window_;
     std::vector<Stop> stops_;
-    QPointer<QWidget> last_;  ///< in the middle of the main window
+    QPointer<QWidget> last_;    ///< in the middle of the main window
+    QPointer<QWidget> recent_;  ///< there or in a dock
 };
 
 }  // namespace lorvane::desktop

@@ -6,6 +6,7 @@
 
 #include "desktop/kit/figure_card.h"
 #include "desktop/kit/outline_overlay.h"
+#include "desktop/kit/panel_dock.h"
 #include "desktop/kit/value_cell.h"
 
 namespace lorvane::desktop {
@@ -29,6 +30,10 @@ Surroundings surroundingsOf(const QWidget& mainWindow) {
             if (overlay->isVisible() && overlay->window() == &mainWindow && !outline.around.isEmpty())
                 around.pointedAt.append(onScreen(*overlay, outline.around.adjusted(-out, -out, out, out)));
         }
+    }
+    for (const PanelDock* dock : mainWindow.findChildren<PanelDock*>()) {
+        if (dock->isVisible() && !dock->isFloating())
+            around.pointedAt.append(onScreen(*dock, dock->rect()));
     }
     for (const FigureCard* card : mainWindow.findChildren<FigureCard*>()) {
         if (card->isVisible() && card->window() == &mainWindow)

@@ -7,7 +7,8 @@ class QWidget;
 
 namespace lorvane::desktop {
 
-/// The screen of a main window, the window, its focused cell, its outlines and its result cards.
+/// The screen of a main window, the window, its focused cell, its outlines, its docked panels
+/// and its result cards.
 Surroundings surroundingsOf(const QWidget& mainWindow);
 
 }  // namespace lorvane::desktop

@@ -13,6 +13,7 @@
 #include <QScreen>
 #include <QScrollArea>
 #include <QStatusBar>
+#include <QStatusTipEvent>
 #include <QTimer>
 #include <QToolBar>
 #include <QUrl>
@@ -310,6 +311,18 @@ bool MainWindow::eventFilter(QObject* watched, QEvent* event) {
     if (watched == centralWidget() && event->type() == QEvent::Resize)
         chooseSize();
     return QMainWindow::eventFilter(watched, event);
+}
+
+// What the pointer stands on takes the place of the hint; the bar's own words would stand beside it.
+bool MainWindow::event(QEvent* event) {
+    if (event->type() != QEvent::StatusTip)
+        return QMainWindow::event(event);
+    const QString tip = static_cast<QStatusTipEvent*>(event)->tip();
+    if (tip.isEmpty())
+        syncStatus();
+    else
+        hint_->setText(tip);
+    return true;
 }
 
 void MainWindow::resizeEvent(QResizeEvent* event) {

@@ -52,7 +52,9 @@ void PanelView::hide() {
 
 // A docked panel is in nobody's way while the program has the floating ones away.
 bool PanelView::isWanted() const {
-    const bool isAway = window_ && desk_.design().windows().state(*window_) == WindowStates::withdrawn;
+    const Design& design = desk_.design();
+    const bool isAway =
+        window_ && design.formsAreAway() && design.windows().state(*window_) == WindowStates::withdrawn;
     return isOpen() || (isAway && stage_->standsAside(*this));
 }
 

@@ -1,6 +1,7 @@
 // The window of scenarios.
 #include "desktop/scenario_view.h"
 
+#include <QEvent>
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QPainter>
@@ -38,12 +39,14 @@ std::vector<QStringList> scenarioRows(const Grid& list) {
     return rows;
 }
 
-std::vector<RecordColumn> scenarioColumns(const Grid& list) {
+constexpr int narrow = 560;  // below, as in a dock, columns and buttons draw together
+
+std::vector<RecordColumn> scenarioColumns(const Grid& list, bool isNarrow) {
     const Grid::Row& titles = list.rows.front();
-    return {{shownText(titles[1]), 150, false, false},
-            {shownText(titles[2]), 300, false, true},
-            {shownText(titles[3]), 90, true, false},
-            {shownText(titles[4]), 120, true, false}};
+    return {{shownText(titles[1]), isNarrow ? 110 : 150, false, false},
+            {shownText(titles[2]), isNarrow ? 90 : 300, false, true},
+            {shownText(titles[3]), isNarrow ? 70 : 90, true, false},
+            {shownText(titles[4]), isNarrow ? 90 : 120, true, false}};
 }
 
 }  // namespace
@@ -57,7 +60,8 @@ ScenarioView::ScenarioView(Desk& desk, ToolPanel* panel)
     panel->resize(780, 396);
     panel->setMinimumSize(560, 260);
     table_->setAccessibleName(panel->windowTitle());
-    table_->setColumns(scenarioColumns(desk.application().scenarioWindow().vsNames()));
+    table_->setColumns(scenarioColumns(desk.application().scenarioWindow().vsNames(), false));
+    panel->installEventFilter(this);
     table_->setTips([this](int row) {
         return shownText(desk_.application().scenarioWindow().tip(static_cast<std::size_t>(row + heads)));
     });
@@ -94,6 +98,7 @@ QWidget* ScenarioView::makeFooter() {
         connect(button, &PushButton::clicked, this, [this, number] { press(number); });
         button->setText(shownText(model.cmdScenarios(number).Caption));
         row->addWidget(button);
+        buttons_.push_back(button);
     };
     addButton(add, primaryButton(QString()));
     for (const int number : {restore, edit, remove})
@@ -105,6 +110,24 @@ QWidget* ScenarioView::makeFooter() {
     row->addSpacing(8);
     addButton(close, plainButton(QString()));
     return footer;
+}
+
+// A dock has a close sign of its own, and no room for the count.
+void ScenarioView::setNarrow(bool isNarrow) {
+    if (isNarrow == isNarrow_)
+        return;
+    isNarrow_ = isNarrow;
+    table_->setColumns(scenarioColumns(desk_.application().scenarioWindow().vsNames(), isNarrow));
+    for (PushButton* button : buttons_)
+        button->setMinimumWidth(isNarrow ? 0 : 84);
+    count_->setVisible(!isNarrow);
+    buttons_.back()->setVisible(!isNarrow);
+}
+
+bool ScenarioView::eventFilter(QObject* watched, QEvent* event) {
+    if (event->type() == QEvent::Resize)
+        setNarrow(panel()->width() < narrow);
+    return PanelView::eventFilter(watched, event);
 }
 
 bool ScenarioView::isOpen() const { return desk_.design().isOpen(WindowId::frmScenarios); }

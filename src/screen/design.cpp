@@ -320,6 +320,7 @@ void Design::setTauSqSchematic(SchematicModes mode) {
 void Design::SuspendForms(FormSet set) {
     const std::span<const WindowId> forms = set == FormSet::main ? std::span<const WindowId>(mainForms)
                                                                  : std::span<const WindowId>(graphFormsAway);
+    formsAreAway_ = formsAreAway_ || set == FormSet::main;
     for (const WindowId form : forms)
         SynchForms(form, WindowAction::withdraw);
 }
@@ -329,8 +330,10 @@ void Design::RestoreForms(FormSet set) {
                                                                  : std::span<const WindowId>(graphFormsBack);
     for (const WindowId form : forms)
         SynchForms(form, WindowAction::bringBack);
-    if (set == FormSet::main)
-        SynchForms(WindowId::Design, WindowAction::bringBack);
+    if (set != FormSet::main)
+        return;
+    formsAreAway_ = false;
+    SynchForms(WindowId::Design, WindowAction::bringBack);
 }
 
 Answer Design::ask(const MessageBox& message) {

@@ -111,6 +111,9 @@ public:
     void SuspendForms(FormSet set);
     void RestoreForms(FormSet set);
 
+    /// Whether the windows of the main set are away for a while.
+    bool formsAreAway() const noexcept { return formsAreAway_; }
+
     /// Shows a message between SuspendForms and RestoreForms and returns the answer. Enter gives the preset
     /// one, or the first where there is none.
     Answer ask(const MessageBox& message);
@@ -173,6 +176,7 @@ private:
     std::optional<FieldRef> focus_;
     int studyNumber_ = 0;
     bool closed_ = false;
+    bool formsAreAway_ = false;
 };
 
 }  // namespace lorvane

@@ -36,11 +36,17 @@ int typedDecimals(const std::string& text) {
     return std::clamp(static_cast<int>(behind), fewestDecimals, mostDecimals);
 }
 
-// The shortest form, with two decimals at least.
+// The shortest form with two decimals at least, and with four at most: a limit that follows from a span has
+// many.
 std::string limitText(double limit) {
-    const std::string text = shortestText(limit);
+    const std::string text = shortestText(std::round(limit * 1e4) / 1e4);
     const std::string fixed = fixedText(limit, fewestDecimals);
     return text.size() < fixed.size() ? fixed : text;
+}
+
+// What was entered; a limit that nobody has touched keeps the digits that its text leaves out.
+double limitOf(const DialogField& field, double stored) {
+    return field.box.Text == limitText(stored) ? stored : *readNumber(field.box.Text);
 }
 
 const FieldLimits& limitsOfRisks() { return fieldOf("txtLL").limits; }
@@ -58,7 +64,7 @@ LimitsDialog::LimitsDialog(Design& design)
                "pnlLimits",
                {},
                {{"frmLimits.Command1", "Apply", [this] { apply(); }},
-                {"frmLimits.cmdCancel", "Cancel", [this] { close(design_, dialog_); }},
+                {"frmLimits.cmdCancel", "Cancel", [this] { cancel(); }},
                 {"frmLimits.Command3", "Use limits", [this] { useLimits(); }}},
                false,
                panelOf("Enter limits")};
@@ -86,7 +92,8 @@ const DialogField& LimitsDialog::upper(int level) const { return dialog_.fields[
 // Opening and following
 // --------------------------------------------------------------------------------------------------------
 
-void LimitsDialog::open() {
+void LimitsDialog::open(bool byChange) {
+    openedAt_ = byChange ? std::optional(session_.undoDepth()) : std::nullopt;
     const Study& s = session_.study();
     for (int level = lowestWithRisks; level <= highestLevel; ++level) {
         const bool used = level <= s.NumLevels;
@@ -208,8 +215,8 @@ bool LimitsDialog::refusesLimits() {
 void LimitsDialog::writeLimits(Study& study) const {
     RiskLimits& limits = study.limits;
     for (int level = lowestWithRisks; level <= study.NumLevels; ++level) {
-        limits.txtLL(level) = *readNumber(lower(level).box.Text);
-        limits.txtUL(level) = *readNumber(upper(level).box.Text);
+        limits.txtLL(level) = limitOf(lower(level), limits.txtLL(level));
+        limits.txtUL(level) = limitOf(upper(level), limits.txtUL(level));
         if (study.isBinary())
             study.txtMRange(level) = std::max(limits.txtUL(level) - limits.txtLL(level), 0.0);
     }
@@ -234,6 +241,14 @@ void LimitsDialog::useLimits() {
         writeLimits(state.study);
         state.study.limits.RangeMode = RangeModes::limits;
     });
+}
+
+// The command that opened the dialog has put limits in force; without anything applied since, they go again.
+void LimitsDialog::cancel() {
+    close(design_, dialog_);
+    if (openedAt_ == session_.undoDepth())
+        session_.undo();
+    openedAt_.reset();
 }
 
 void LimitsDialog::useSpans() {

@@ -1,6 +1,7 @@
 // The dialog of the limits of risks: a lower and an upper limit a level, and what they imply.
 #pragma once
 
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -43,7 +44,8 @@ public:
 
     const std::vector<Column>& implied() const noexcept { return implied_; }
 
-    void open();
+    /// Opens it; by a change, when a step of undo has just put limits in force, which Cancel takes back.
+    void open(bool byChange = false);
 
     /// Brings what is implied into step with the study.
     void follow();
@@ -63,10 +65,12 @@ private:
     void apply();
     void useLimits();
     void useSpans();
+    void cancel();
 
     Design& design_;
     Session& session_;
     Dialog dialog_;
+    std::optional<std::size_t> openedAt_;  ///< depth of undo when a change has opened it
     PerLevel<Panel> names_;
     std::vector<Column> implied_;
 };

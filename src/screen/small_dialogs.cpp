@@ -375,8 +375,9 @@ void SmallDialogs::enterIcc() {
 }
 
 void SmallDialogs::enterLimits() {
+    const bool isChange = !session_.study().entersLimits();
     enterSpan(session_, RangeModes::limits);
-    openLimits();
+    limits_.open(isChange);
 }
 
 // Top of the cost bar

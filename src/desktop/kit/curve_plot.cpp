@@ -261,9 +261,18 @@ void CurvePlot::paintLimit(QPainter& painter) const {
     painter.setRenderHint(QPainter::Antialiasing, false);
     painter.setPen(dashes);
     painter.drawLine(QPointF(area.left(), y), QPointF(area.right(), y));
-    painter.setFont(textFont(TextStyle::Mark));
+}
+
+// On a plate, since the curve may run through the words.
+void CurvePlot::paintLimitWords(QPainter& painter) const {
+    const QRectF area = field();
+    const double middle = std::round(down(content_.limit)) + 0.5 + LimitMiddle;
+    const QFont font = textFont(TextStyle::Mark);
+    const double width = numberWidth(font, content_.limitText);
+    fillPlate(painter, QRectF(area.right() - width - 4, middle - 8, width + 4, 16), 3, colour(Role::Card));
+    painter.setFont(font);
     painter.setPen(colour(Role::SecondText));
-    drawNumber(painter, QRectF(area.left(), y + LimitMiddle - 10, area.width(), 20), Qt::AlignRight,
+    drawNumber(painter, QRectF(area.left(), middle - 10, area.width(), 20), Qt::AlignRight,
                content_.limitText);
 }
 
@@ -298,6 +307,7 @@ void CurvePlot::paintEvent(QPaintEvent*) {
     paintNumbers(painter);
     paintLimit(painter);
     paintCurve(painter);
+    paintLimitWords(painter);
 }
 
 }  // namespace lorvane::desktop

@@ -77,6 +77,7 @@ private:
     void paintShares(QPainter& painter) const;
     void paintNumbers(QPainter& painter) const;
     void paintLimit(QPainter& painter) const;
+    void paintLimitWords(QPainter& painter) const;
     void paintCurve(QPainter& painter) const;
 
     CurveContent content_;

@@ -98,6 +98,9 @@ void KitStyle::polish(QWidget* widget) {
 
 int KitStyle::styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,
                         QStyleHintReturn* result) const {
+    // A long menu scrolls in one column instead of covering the screen with several.
+    if (hint == SH_Menu_Scrollable)
+        return 1;
     const int answer = QProxyStyle::styleHint(hint, option, widget, result);
 #ifndef Q_OS_WIN
     if (hint == SH_DialogButtonLayout && answer == QDialogButtonBox::WinLayout)

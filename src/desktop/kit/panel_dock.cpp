@@ -16,21 +16,17 @@ namespace lorvane::desktop {
 
 namespace {}  // namespace
 
-PanelDock::PanelDock(ToolPanel* panel, const QString& shortName, QWidget* owner)
+PanelDock::PanelDock(ToolPanel* panel, const QString& shortName, bool scrollsItself, QWidget* owner)
     : QDockWidget(owner), panel_(panel), shortName_(shortName), title_(new DockTitle(this)),
-      scroll_(new QScrollArea) {
+      scroll_(scrollsItself ? nullptr : new QScrollArea) {
     setObjectName(QStringLiteral("dock.") + panel->objectName());
     setAllowedAreas(Qt::RightDockWidgetArea);
     setTitleBarWidget(title_);
     panel->standInDock(DockPadding);
-    scroll_->setFrameShape(QFrame::NoFrame);
-    scroll_->setWidgetResizable(true);
-    scroll_->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
-    scroll_->setFocusPolicy(Qt::NoFocus);
-    scroll_->setWidget(panel);
-    scroll_->viewport()->setAutoFillBackground(true);
-    scroll_->viewport()->setBackgroundRole(QPalette::Base);
-    setWidget(scroll_);
+    if (scrollsItself)
+        setWidget(panel);
+    else
+        addScroll();
     panel->installEventFilter(this);
     connect(title_, &DockTitle::closeRequested, this, &PanelDock::closeRequested);
     connect(title_, &DockTitle::floatRequested, this, [this] { setFloating(!isFloating()); });
@@ -40,6 +36,17 @@ PanelDock::PanelDock(ToolPanel* panel, const QString& shortName, QWidget* owner)
     connect(qApp, &QApplication::focusChanged, this,
             [this](QWidget*, QWidget* now) { title_->setInUse(now == this || (now && isAncestorOf(now))); });
     syncTitle();
+}
+
+void PanelDock::addScroll() {
+    scroll_->setFrameShape(QFrame::NoFrame);
+    scroll_->setWidgetResizable(true);
+    scroll_->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    scroll_->setFocusPolicy(Qt::NoFocus);
+    scroll_->setWidget(panel_);
+    scroll_->viewport()->setAutoFillBackground(true);
+    scroll_->viewport()->setBackgroundRole(QPalette::Base);
+    setWidget(scroll_);
 }
 
 // What was a key of a whole window is one of the panel alone now. Escape closes each.
@@ -96,7 +103,8 @@ void PanelDock::closeEvent(QCloseEvent* event) {
 // that; its least size would be that of the narrowest one.
 void PanelDock::syncLeastSize() {
     const QLayout* content = panel_->layout();
-    panel_->setMinimumSize(1, content->hasHeightForWidth() ? 1 : content->totalMinimumSize().height());
+    const bool isFree = scroll_ == nullptr || content->hasHeightForWidth();
+    panel_->setMinimumSize(1, isFree ? 1 : content->totalMinimumSize().height());
 }
 
 bool PanelDock::eventFilter(QObject* watched, QEvent* event) {

@@ -20,8 +20,9 @@ class PanelDock : public QDockWidget {
     Q_OBJECT
 
 public:
-    /// The short name stands on the tab of several docks.
-    PanelDock(ToolPanel* panel, const QString& shortName, QWidget* owner);
+    /// The short name stands on the tab of several docks. A panel that scrolls by itself takes the height
+    /// that there is; any other scrolls as a whole.
+    PanelDock(ToolPanel* panel, const QString& shortName, bool scrollsItself, QWidget* owner);
 
     ToolPanel* panel() const { return panel_; }
 
@@ -47,6 +48,7 @@ protected:
     void paintEvent(QPaintEvent* event) override;
 
 private:
+    void addScroll();
     void limitShortcuts();
     void syncTitle();
     void syncLeastSize();
@@ -54,7 +56,7 @@ private:
     ToolPanel* panel_;
     QString shortName_;
     DockTitle* title_;
-    QScrollArea* scroll_;
+    QScrollArea* scroll_;  ///< null for a panel that scrolls by itself
 };
 
 }  // namespace lorvane::desktop

@@ -12,8 +12,12 @@ namespace {
 
 constexpr int PreferredWidth = 240;
 
-/// Lays lines of a width under each other and tells how high they are. A height of 0 is the font's own.
-double layOut(QTextLayout& layout, double width, double lineHeight) {
+/// A line end inside a paragraph of a layout.
+QString inLines(QString text) { return text.replace(QLatin1Char('\n'), QChar::LineSeparator); }
+
+}  // namespace
+
+double layOutLines(QTextLayout& layout, double width, double lineHeight) {
     QTextOption option;
     option.setWrapMode(QTextOption::WrapAtWordBoundaryOrAnywhere);
     layout.setTextOption(option);
@@ -28,11 +32,6 @@ double layOut(QTextLayout& layout, double width, double lineHeight) {
     layout.endLayout();
     return bottom;
 }
-
-/// A line end inside a paragraph of a layout.
-QString inLines(QString text) { return text.replace(QLatin1Char('\n'), QChar::LineSeparator); }
-
-}  // namespace
 
 WrappedText::WrappedText(TextStyle style, Role role, QWidget* parent)
     : PaintedText(parent), style_(style), role_(role) {
@@ -66,14 +65,14 @@ QSize WrappedText::minimumSizeHint() const { return {0, 0}; }
 int WrappedText::heightForWidth(int width) const {
     QTextLayout layout(inLines(text_), textFont(style_));
     const double zoom = zoomOf(*this);
-    return static_cast<int>(std::ceil(layOut(layout, width / zoom, lineHeight_) * zoom));
+    return static_cast<int>(std::ceil(layOutLines(layout, width / zoom, lineHeight_) * zoom));
 }
 
 void WrappedText::paintEvent(QPaintEvent*) {
     ZoomedPainter painter(*this);
     painter.setPen(colour(role_));
     QTextLayout layout(inLines(text_), textFont(style_));
-    layOut(layout, figureRect(*this).width(), lineHeight_);
+    layOutLines(layout, figureRect(*this).width(), lineHeight_);
     layout.draw(&painter, {});
 }
 

@@ -7,7 +7,13 @@
 #include "desktop/kit/text_style.h"
 #include "desktop/kit/theme.h"
 
+class QTextLayout;
+
 namespace lorvane::desktop {
+
+/// Lays lines of a width under each other, broken between words and inside a word that is longer than a line,
+/// and tells how high they are. A line height of 0 is the font's own.
+double layOutLines(QTextLayout& layout, double width, double lineHeight = 0);
 
 /// Breaks between words, and inside a word that is longer than a line, as paths are. Letter by letter:
 /// nothing in it is markup. Its layout gives it the height that the text takes at its width.
