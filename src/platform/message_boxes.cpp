@@ -1,6 +1,8 @@
 // What follows from a message for those who show it.
 #include "platform/message_boxes.h"
 
+#include "base/number_text.h"
+
 #include <algorithm>
 
 namespace lorvane {
@@ -59,7 +61,7 @@ ShownWords shownWords(const MessageBox& message) {
     if (heading.empty() && message.onScreen.more.empty() && isOneSentence(text))
         return {text, ""};
     const std::string more = message.onScreen.more.empty() ? "" : "\n" + message.onScreen.more;
-    return {heading.empty() ? withoutTrailingBlanks(message.title) : heading, text + more};
+    return {heading.empty() ? std::string(trimmed(message.title)) : heading, text + more};
 }
 
 }  // namespace lorvane

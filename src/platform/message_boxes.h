@@ -65,8 +65,8 @@ Answer safeAnswer(const MessageBox& message);
 const std::vector<MessageButton>& shownButtons(const MessageBox& message);
 Answer presetOf(const MessageBox& message);
 
-/// The words on the screen, without trailing blanks. A single sentence is the heading itself; of a longer
-/// text the title is.
+/// The words on the screen, without the blanks around them. A single sentence is the heading itself; of a
+/// longer text the title is.
 struct ShownWords {
     std::string heading;
     std::string text;  ///< may be empty

@@ -201,6 +201,17 @@ TEST_F(SizesLook, NothingIsCutAndTheFocusIsInSight) {
     }
 }
 
+TEST_F(SizesLook, NothingOfTheExamplesIsCut) {
+    for (const char* study : {"schools", "districts", "clinics", "villages", "wards"}) {
+        application.open(std::string(LORVANE_TEST_DATA "/../../assets/examples/") + study + ".Lorvane");
+        desk.close("frmCounts");
+        for (const QSize size : {QSize(1024, 660), QSize(1280, 680), QSize(1920, 1080), QSize(2560, 1440)}) {
+            show(size);
+            EXPECT_EQ(cut(), "") << study << " at " << size.width();
+        }
+    }
+}
+
 TEST_F(SizesLook, TheSmallestWindowScrollsColumnsBehindTheNames) {
     openFourLevels();
     show({800, 600});
