@@ -1,9 +1,9 @@
 // What follows from a message for those who show it.
 #include "platform/message_boxes.h"
 
-#include "base/number_text.h"
-
 #include <algorithm>
+
+#include "base/number_text.h"
 
 namespace lorvane {
 
