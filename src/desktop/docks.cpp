@@ -184,6 +184,8 @@ void Docks::movedByUser(Entry& entry, bool floats) {
         arrange();
         giveRoomBack();
         keepClear();
+        // The toolkit hands the keyboard of a dock that leaves its place to whatever comes next.
+        entry.dock->takeKeyboard();
     });
 }
 
