@@ -7,6 +7,7 @@
 #include <QPointer>
 #include <QScopedValueRollback>
 #include <QScreen>
+#include <QStyle>
 #include <QTabBar>
 #include <QTimer>
 #include <QVBoxLayout>
@@ -320,6 +321,8 @@ void Docks::styleTabs() {
     for (QTabBar* tabs : window_.findChildren<QTabBar*>(QString(), Qt::FindDirectChildrenOnly)) {
         tabs->setAttribute(Qt::WA_StyledBackground);
         tabs->setProperty("docks", true);
+        tabs->style()->unpolish(tabs);
+        tabs->style()->polish(tabs);
         tabs->setDrawBase(false);
         tabs->setExpanding(false);
         tabs->setDocumentMode(false);
