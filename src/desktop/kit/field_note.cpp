@@ -9,6 +9,7 @@
 
 #include "desktop/kit/icons.h"
 #include "desktop/kit/theme.h"
+#include "desktop/kit/wrapped_text.h"
 #include "desktop/kit/zoom.h"
 
 namespace lorvane::desktop {
@@ -21,6 +22,8 @@ constexpr double TextAfterSign = 22;
 QFont fontOf(FieldNote::Tone tone) {
     return textFont(tone == FieldNote::Tone::Problem ? TextStyle::BodyMedium : TextStyle::Body);
 }
+
+double insetOf(FieldNote::Tone tone) { return tone == FieldNote::Tone::Problem ? TextAfterSign : 0; }
 
 }  // namespace
 
@@ -51,26 +54,9 @@ void FieldNote::keepRoomFor(const QString& text) {
     updateGeometry();
 }
 
-// A line end of the text is one on the screen. Returns the height of all lines.
-double FieldNote::placeLines(QTextLayout& layout, Tone tone, double width) const {
-    const double left = tone == Tone::Problem ? TextAfterSign : 0;
-    QTextOption option;
-    option.setWrapMode(QTextOption::WrapAtWordBoundaryOrAnywhere);
-    layout.setTextOption(option);
-    layout.beginLayout();
-    double y = 0;
-    for (QTextLine line = layout.createLine(); line.isValid(); line = layout.createLine()) {
-        line.setLineWidth(std::max(width - left, 1.0));
-        line.setPosition({left, y});
-        y += line.height();
-    }
-    layout.endLayout();
-    return y;
-}
-
 double FieldNote::heightOf(const QString& text, Tone tone, double width) const {
-    QTextLayout layout(QString(text).replace(QLatin1Char('\n'), QChar::LineSeparator), fontOf(tone));
-    return text.isEmpty() ? 0 : placeLines(layout, tone, width);
+    QTextLayout layout(inLines(text), fontOf(tone));
+    return text.isEmpty() ? 0 : layOutLines(layout, std::max(width - insetOf(tone), 1.0));
 }
 
 int FieldNote::heightForWidth(int width) const {
@@ -85,12 +71,12 @@ QSize FieldNote::sizeHint() const { return {0, heightForWidth(width())}; }
 void FieldNote::paintEvent(QPaintEvent*) {
     ZoomedPainter painter(*this);
     const QRectF area = figureRect(*this);
-    QTextLayout layout(QString(text_).replace(QLatin1Char('\n'), QChar::LineSeparator), fontOf(tone_));
-    const double height = placeLines(layout, tone_, area.width());
+    QTextLayout layout(inLines(text_), fontOf(tone_));
+    const double height = layOutLines(layout, std::max(area.width() - insetOf(tone_), 1.0));
     const double top = std::max((lowest_ - height) / 2, 0.0);
     const Role role = tone_ == Tone::Problem ? Role::ProblemText : Role::SecondText;
     painter.setPen(colour(role));
-    layout.draw(&painter, {0, top});
+    layout.draw(&painter, {insetOf(tone_), top});
     if (tone_ == Tone::Problem && layout.lineCount() > 0)
         drawIcon(painter, Icon::Warning,
                  QRectF(0, top + (layout.lineAt(0).height() - SignSize) / 2, SignSize, SignSize),

@@ -6,8 +6,6 @@
 
 #include "desktop/kit/painted_text.h"
 
-class QTextLayout;
-
 namespace lorvane::desktop {
 
 /// The line below a field, or a sentence of a dialog. Lengths are in pixels at 100 %.
@@ -39,7 +37,6 @@ protected:
     void paintEvent(QPaintEvent* event) override;
 
 private:
-    double placeLines(QTextLayout& layout, Tone tone, double width) const;
     double heightOf(const QString& text, Tone tone, double width) const;
 
     double lowest_;

@@ -38,14 +38,14 @@ QSize WrappedLabel::minimumSizeHint() const {
 
 // A label of the toolkit cuts a word that is longer than its line, as a name of one word may be.
 int WrappedLabel::heightForWidth(int width) const {
-    QTextLayout layout(QString(text()).replace(QLatin1Char('\n'), QChar::LineSeparator), font());
+    QTextLayout layout(inLines(text()), font());
     return static_cast<int>(std::ceil(layOutLines(layout, width)));
 }
 
 void WrappedLabel::paintEvent(QPaintEvent*) {
     QPainter painter(this);
     painter.setPen(palette().color(foregroundRole()));
-    QTextLayout layout(QString(text()).replace(QLatin1Char('\n'), QChar::LineSeparator), font());
+    QTextLayout layout(inLines(text()), font());
     const double top = std::max((height() - layOutLines(layout, width())) / 2, 0.0);
     const double share = (alignment() & Qt::AlignRight) != 0     ? 1
                          : (alignment() & Qt::AlignHCenter) != 0 ? 0.5

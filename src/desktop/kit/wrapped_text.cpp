@@ -12,10 +12,9 @@ namespace {
 
 constexpr int PreferredWidth = 240;
 
-/// A line end inside a paragraph of a layout.
-QString inLines(QString text) { return text.replace(QLatin1Char('\n'), QChar::LineSeparator); }
-
 }  // namespace
+
+QString inLines(QString text) { return text.replace(QLatin1Char('\n'), QChar::LineSeparator); }
 
 double layOutLines(QTextLayout& layout, double width, double lineHeight) {
     QTextOption option;

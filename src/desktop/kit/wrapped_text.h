@@ -15,6 +15,9 @@ namespace lorvane::desktop {
 /// and tells how high they are. A line height of 0 is the font's own.
 double layOutLines(QTextLayout& layout, double width, double lineHeight = 0);
 
+/// A text for one layout: its line ends are ends of lines, not of paragraphs.
+QString inLines(QString text);
+
 /// Breaks between words, and inside a word that is longer than a line, as paths are. Letter by letter:
 /// nothing in it is markup. Its layout gives it the height that the text takes at its width.
 class WrappedText : public PaintedText {
