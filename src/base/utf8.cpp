@@ -104,6 +104,13 @@ std::string printable(std::string_view text, LineEnds ends) {
     return shown;
 }
 
+std::string withoutLineEnds(std::string text) {
+    std::replace_if(
+        text.begin(), text.end(), [](char sign) { return sign == '\n' || sign == '\r' || sign == '\t'; },
+        ' ');
+    return text;
+}
+
 std::size_t shownWidth(std::string_view text) {
     std::size_t width = 0;
     while (!text.empty()) {

@@ -23,6 +23,9 @@ enum class LineEnds { escaped, kept };
 /// are no letters) written as "\x1b" or "\u202e".
 std::string printable(std::string_view text, LineEnds ends = LineEnds::escaped);
 
+/// The text with a blank for every line end and tabulator.
+std::string withoutLineEnds(std::string text);
+
 /// How many places the text takes where all letters are equally wide: none for a mark on a letter, two for an
 /// East Asian one.
 std::size_t shownWidth(std::string_view text);

@@ -5,6 +5,7 @@
 
 #include "base/letter_case.h"
 #include "base/number_text.h"
+#include "base/utf8.h"
 #include "engine/effect_metrics.h"
 #include "screen/screen_rows.h"
 
@@ -17,13 +18,6 @@ constexpr int riskDecimals = 3;
 constexpr int sdDecimals = 3;
 constexpr int percentDecimals = 1;
 constexpr int tauSqDecimals = 4;
-
-std::string onOneLine(std::string name) {
-    std::replace_if(
-        name.begin(), name.end(), [](char sign) { return sign == '\n' || sign == '\r' || sign == '\t'; },
-        ' ');
-    return name;
-}
 
 std::string limitsText(double lower, double upper, int decimals) {
     return fixedText(lower, decimals) + " to " + fixedText(upper, decimals);
@@ -100,11 +94,11 @@ std::string tauSqText(const Study& s, const TauSqBlock& block, TauSqColumn colum
 
 }  // namespace
 
-std::string levelName(const Study& s, int level) { return onOneLine(s.txtName(level)); }
+std::string levelName(const Study& s, int level) { return withoutLineEnds(s.txtName(level)); }
 
 std::string lowerLevelName(const Study& s, int level) { return lowerCased(levelName(s, level)); }
 
-std::string groupName(const Study& s, int group) { return onOneLine(s.txtGroupName(group)); }
+std::string groupName(const Study& s, int group) { return withoutLineEnds(s.txtGroupName(group)); }
 
 std::string listed(const std::vector<std::string>& texts) {
     std::string list;
