@@ -31,11 +31,14 @@ Application::Application(const Platform& platform)
                         platform.clipboard == nullptr ? noClipboard_ : *platform.clipboard, platform.press}),
       about_(design_, platform.facts, platform.programFolder + "/LICENSE",
              platform.clipboard == nullptr ? noClipboard_ : *platform.clipboard, platform.shell),
-      keyboard_(design_, platform.press),
+      keyboard_(design_, platform.press), manuals_(platform.programFolder, platform.files, platform.shell),
+      guide_(design_, details_, manuals_, platform.settings,
+             {[this](const char* tool) { commands_.run(tool); },
+              [this](const char* window) { events_.close(window); }}),
       commands_(commandRows({session_, design_, dialogs_, details_, mdesWindow_, optimalWindow_,
                              scenarioWindow_, studyFiles_, startScreen_, graph_, report_,
                              platform.clipboard == nullptr ? noClipboard_ : *platform.clipboard, about_,
-                             keyboard_}),
+                             keyboard_, guide_, manuals_}),
                 bandRows()) {
     keyboard_.fill(commands_);
     session_.follow([this](const Changed& changed) { follow(changed); });
@@ -263,7 +266,7 @@ void Application::start(const std::string& file) {
             studyFiles_.askAndOpen(file, Answer::Cancel);
         else if (!broughtBack)
             startScreen_.open();
-        design_.SynchForms(WindowId::frmTips, WindowAction::open);
+        design_.showGuide();
     });
 }
 

@@ -14,7 +14,9 @@
 #include "graphs/graph_screen.h"
 #include "guidance/about_window.h"
 #include "guidance/details.h"
+#include "guidance/guide.h"
 #include "guidance/keyboard_page.h"
+#include "guidance/manuals.h"
 #include "persistence/scenario_list.h"
 #include "persistence/scenario_window.h"
 #include "persistence/start_screen.h"
@@ -156,6 +158,7 @@ public:
     const ReportScreen& report() const noexcept { return report_; }
     const AboutWindow& about() const noexcept { return about_; }
     const KeyboardPage& keyboard() const noexcept { return keyboard_; }
+    const Guide& guide() const noexcept { return guide_; }
 
     const ControlRegistry& names() const noexcept { return names_; }
     std::vector<ScenarioLine> scenarios() const { return scenarioLines(session_.scenarios()); }
@@ -188,10 +191,13 @@ private:
     ReportScreen report_;
     AboutWindow about_;
     KeyboardPage keyboard_;
+    Manuals manuals_;
+    Guide guide_;
 
     /// In the order in which they hear of a change.
-    std::vector<Part*> parts_ = {&dialogs_,     &mdesWindow_, &optimalWindow_, &details_, &scenarioWindow_,
-                                 &startScreen_, &graph_,      &report_,        &about_,   &keyboard_};
+    std::vector<Part*> parts_ = {&dialogs_,        &mdesWindow_,  &optimalWindow_, &details_,
+                                 &scenarioWindow_, &startScreen_, &graph_,         &report_,
+                                 &about_,          &keyboard_,    &guide_};
     CommandBook commands_;
     ControlRegistry names_;
     EventRegistry events_;

@@ -68,8 +68,10 @@ ToolState isMetricOfRisks(P p, BinaryTypes type) {
     return checkedIf(s.isBinary() && s.BinaryType == type);
 }
 
-// What the program has no text or view for yet.
-ToolState notThere(P) { return {.enabled = false, .reason = "This version does not have it"}; }
+template <GuideTextSize size>
+ToolState isTextSize(P p) {
+    return checkedIf(p.guide.textSize() == size);
+}
 
 // Such studies come from files; no command leads to them.
 ToolState onlyFromFiles(P p, BinaryTypes type) {
@@ -217,8 +219,8 @@ const CommandRow commandTable[] = {
          askAndChangeDataType(p.design, {DataTypes::means, DTypes::total, BinaryTypes::oddsRatio});
      },
      [](P p) { return isMetricOfMeans(p, DTypes::total); }},
-    {"PDF d", "About the two forms of &d", "Open the note on d within and d total", help, nullptr,
-     notThere},
+    {"PDF d", "About the two forms of &d", "Open the note on d within and d total", help,
+     [](P p) { p.manuals.ShowdPDF("PDF d"); }},
     {"Odds ratio", "&Odds ratio", "Binary outcome, effect as an odds ratio", choice,
      [](P p) {
          askAndChangeDataType(p.design, {DataTypes::binary, DTypes::total, BinaryTypes::oddsRatio});
@@ -373,8 +375,7 @@ const CommandRow commandTable[] = {
      [](P p) { p.design.setCellCountDetail(DetailLevels::moderate); }, isDetail<DetailLevels::moderate>},
     {"Level of detail - Full", "Level of detail - Fu&ll", "Show all numbers", choice,
      [](P p) { p.design.setCellCountDetail(DetailLevels::full); }, isDetail<DetailLevels::full>},
-    {"PDF Low cell counts", "About &low cell counts", "Open the note on low cell counts", help,
-     nullptr, notThere},
+    {"PDF Low cell counts", "About &low cell counts", "Open the note on low cell counts", help, [](P p) { p.manuals.ShowdPDF("PDF Low cell counts"); }},
     {"Allow low cell counts", "&Allow low cell counts", "Let the searches give low cell counts", choice,
      [](P p) { allowLowCellCounts(p, true); },
      [](P p) { return checkedIf(p.session.settings().AllowLowCellCounts); }},
@@ -415,7 +416,10 @@ const CommandRow commandTable[] = {
      "&MDES",
      "Find the smallest effect that can be detected",
      window,
-     open<frmMDES>,
+     [](P p) {
+         open<frmMDES>(p);
+         p.guide.showIfOpen(mdesFrame);
+     },
      isOpen<frmMDES>,
      {Sign::mdes, true}},
     {"Graph",
@@ -429,10 +433,8 @@ const CommandRow commandTable[] = {
      "&Guide",
      "Open or close the guide",
      window,
-     nullptr,
-     [](P p) -> ToolState {
-         return {.checked = p.design.isOpen(frmTips), .reason = "This version has no guide"};
-     },
+     [](P p) { p.guide.toggle(); },
+     isOpen<frmTips>,
      {Sign::guide, true}},
     {"gfrmDetails",
      "&Details",
@@ -441,7 +443,16 @@ const CommandRow commandTable[] = {
      [](P p) { p.details.toggle(); },
      isOpen<frmDetails>,
      {Sign::details, true}},
-    {"Program manual", "&Program manual", "Open the manual", help, nullptr, notThere},
+    {"Program manual", "&Program manual", "Open the manual", help,
+     [](P p) { p.manuals.ShowdPDF("Program manual"); }},
+    {"Formulas", "&Formulas", "Open the manual of the formulas", help,
+     [](P p) { p.manuals.ShowdPDF("Formulas"); }},
+    {"Small", "&Small", "Small text in the guide", choice, [](P p) { p.guide.setTextSize(GuideTextSize::small); },
+     isTextSize<GuideTextSize::small>},
+    {"Medium", "&Medium", "Text of the usual size in the guide", choice,
+     [](P p) { p.guide.setTextSize(GuideTextSize::medium); }, isTextSize<GuideTextSize::medium>},
+    {"Large", "&Large", "Large text in the guide", choice, [](P p) { p.guide.setTextSize(GuideTextSize::large); },
+     isTextSize<GuideTextSize::large>},
     {"Keyboard", "&Keyboard", "All keys of the program", help, [](P p) { p.keyboard.open(); }},
     {"About", "&About Lorvane", "Version and licence", help, [](P p) { p.about.open(); }},
     {"gDesign", "&Study", "The study screen", window, open<WindowId::Design>, isOpen<WindowId::Design>},
@@ -806,7 +817,9 @@ std::vector<MenuRow> menuTable() {
         {"popHelp",
          "&Help",
          menu,
-         {"gfrmTips", "gfrmDetails", "-", "Program manual", "Keyboard", "-", "About"}},
+         {"gfrmTips", "+popTips", "gfrmDetails", "-", "Program manual", "PDF d", "PDF Low cell counts",
+          "Formulas", "Keyboard", "-", "About"}},
+        {"popTips", "&Text of the guide", submenu, {"Small", "Medium", "Large"}},
         {"popSetPower",
          "Set power",
          submenu,

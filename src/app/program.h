@@ -4,7 +4,9 @@
 #include "graphs/graph_screen.h"
 #include "guidance/about_window.h"
 #include "guidance/details.h"
+#include "guidance/guide.h"
 #include "guidance/keyboard_page.h"
+#include "guidance/manuals.h"
 #include "persistence/scenario_window.h"
 #include "persistence/start_screen.h"
 #include "persistence/study_files.h"
@@ -33,6 +35,8 @@ struct Program {
     Clipboard& clipboard;
     AboutWindow& about;
     KeyboardPage& keyboard;
+    Guide& guide;
+    const Manuals& manuals;
 };
 
 }  // namespace lorvane

@@ -13,6 +13,7 @@
 #include "base/number_text.h"
 #include "cli/chart_json.h"
 #include "cli/document_json.h"
+#include "cli/guide_json.h"
 #include "cli/json_text.h"
 #include "cli/script_words.h"
 #include "platform/failure_words.h"
@@ -276,7 +277,11 @@ Json chart(Session& session, ScriptWords&) {
     return chartJson(graph.chart(), graph.axis());
 }
 
-Json document(Session& session, ScriptWords&) { return documentJson(session.application.report().document()); }
+Json document(Session& session, ScriptWords&) {
+    return documentJson(session.application.report().document());
+}
+
+Json guide(Session& session, ScriptWords&) { return guideJson(session.application.guide().frame()); }
 
 Json valueOf(double value) { return {{"value", value}}; }
 
@@ -317,12 +322,13 @@ struct Command {
     Json (*run)(Session&, ScriptWords&);
 };
 
-constexpr Command commands[] = {
-    {"load", load},          {"set", set},           {"get", get},     {"names", names},
-    {"state", state},        {"tool", tool},         {"spin", spin},   {"click", click},
-    {"type", type},          {"select", select},     {"close", close}, {"file", queueFile},
-    {"answer", queueAnswer}, {"messages", messages}, {"grid", grid},   {"chart", chart},
-    {"document", document},  {"save", save},         {"open", open},   {"dist", dist}};
+constexpr Command commands[] = {{"load", load},          {"set", set},           {"get", get},
+                                {"names", names},        {"state", state},       {"tool", tool},
+                                {"spin", spin},          {"click", click},       {"type", type},
+                                {"select", select},      {"close", close},       {"file", queueFile},
+                                {"answer", queueAnswer}, {"messages", messages}, {"grid", grid},
+                                {"chart", chart},        {"document", document}, {"save", save},
+                                {"open", open},          {"dist", dist},         {"guide", guide}};
 
 Json run(Session& session, std::string_view line) {
     ScriptWords words(line);

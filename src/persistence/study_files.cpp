@@ -135,7 +135,7 @@ void StudyFiles::open(const std::string& path) {
     noteOtherStudy();
     if (!store_.isTemplate(path))
         remember(path);
-    design_.SynchForms(WindowId::frmTips, WindowAction::open);
+    design_.showGuide();
 }
 
 bool StudyFiles::OpenFile(const std::string& path) {
@@ -198,7 +198,7 @@ void StudyFiles::Clear() {
     design_.SuspendForms(FormSet::main);
     try {
         store_.openTemplate(session_);
-        design_.SynchForms(WindowId::frmTips, WindowAction::open);
+        design_.showGuide();
     } catch (const FileProblem&) {
         design_.RestoreForms(FormSet::main);
         startWithoutTemplate();
@@ -229,7 +229,7 @@ void StudyFiles::bringBack(const LeftBehind& picture) {
     design_.SuspendForms(FormSet::main);
     loadTable(session_, std::move(table), picture.study.file, picture.study.fileContent);
     broughtBack_ = BroughtBack::onScreen;
-    design_.SynchForms(WindowId::frmTips, WindowAction::open);
+    design_.showGuide();
 }
 
 }  // namespace lorvane

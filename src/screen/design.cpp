@@ -317,6 +317,11 @@ void Design::setTauSqSchematic(SchematicModes mode) {
     ShowTauSq(mode != SchematicModes::off && !study().isHierarchical());
 }
 
+void Design::showGuide() {
+    if (guideIsWanted_)
+        SynchForms(WindowId::frmTips, WindowAction::open);
+}
+
 void Design::SuspendForms(FormSet set) {
     const std::span<const WindowId> forms = set == FormSet::main ? std::span<const WindowId>(mainForms)
                                                                  : std::span<const WindowId>(graphFormsAway);

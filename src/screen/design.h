@@ -101,6 +101,11 @@ public:
     bool hasSubject(WindowId window) const { return whyNoSubject(window).empty(); }
     std::string whyNoSubject(WindowId window) const;
 
+    /// Opens the guide by itself, as a study comes onto the screen; not where a person has closed it for
+    /// good.
+    void showGuide();
+    void setGuideWanted(bool wanted) { guideIsWanted_ = wanted; }
+
     /// Puts all windows back into earlier states.
     void putBack(const WindowRegistry& windows) { windows_ = windows; }
 
@@ -177,6 +182,7 @@ private:
     int studyNumber_ = 0;
     bool closed_ = false;
     bool formsAreAway_ = false;
+    bool guideIsWanted_ = true;
 };
 
 }  // namespace lorvane

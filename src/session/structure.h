@@ -22,6 +22,8 @@ struct EffectMetric {
     DataTypes data;
     DTypes d;            ///< for means
     BinaryTypes binary;  ///< for a binary outcome
+
+    bool operator==(const EffectMetric&) const = default;
 };
 
 /// Sets kind of outcome and metric; what belongs to the other kind stays.
