@@ -59,12 +59,14 @@ ToolState ifSeveralLines(P p) {
     return enabledIf(p.graph.hasGraph() && p.graph.state().NumLines >= 2, "The graph has one line");
 }
 
-// The window that a command of the list of windows brings up.
+// The window that a command of the list of windows brings up, with those that stood beside it.
 void openGraph(P p) {
-    if (p.graph.hasGraph())
-        p.design.SynchForms(WindowId::xPlot, WindowAction::open);
-    else
+    if (!p.graph.hasGraph()) {
         p.graph.DoGraph();
+        return;
+    }
+    p.design.SynchForms(WindowId::xPlot, WindowAction::open);
+    p.design.RestoreForms(FormSet::graph);
 }
 
 using G = GraphState;
