@@ -13,6 +13,16 @@
 
 namespace lorvane {
 
+namespace {
+
+GraphFacts factsOf(const GraphScreen& graph) {
+    const GraphState& state = graph.state();
+    return {graph.axisTitle(), graph.seriesTitle(), graph.rangeIsByHand(), state.DisplayOn,
+            state.DetailsCorner};
+}
+
+}  // namespace
+
 // What the platform leaves out is done by parts of the program's own.
 Application::Application(const Platform& platform)
     : platform_(platform), session_(platform.distributions, detectCurrency(platform.locale),
@@ -27,6 +37,7 @@ Application::Application(const Platform& platform)
               platform.clipboard == nullptr ? noClipboard_ : *platform.clipboard, platform.chart,
               platform.sheets, platform.shell},
              platform.progress == nullptr ? noProgress_ : *platform.progress, platform.hourglass),
+      graphGuide_(design_, [this] { return factsOf(graph_); }),
       report_(design_, {platform.dialogs, platform.files,
                         platform.clipboard == nullptr ? noClipboard_ : *platform.clipboard, platform.press}),
       about_(design_, platform.facts, platform.programFolder + "/LICENSE",
@@ -36,7 +47,7 @@ Application::Application(const Platform& platform)
              {[this](const char* tool) { commands_.run(tool); },
               [this](const char* window) { events_.close(window); }}),
       commands_(commandRows({session_, design_, dialogs_, details_, mdesWindow_, optimalWindow_,
-                             scenarioWindow_, studyFiles_, startScreen_, graph_, report_,
+                             scenarioWindow_, studyFiles_, startScreen_, graph_, graphGuide_, report_,
                              platform.clipboard == nullptr ? noClipboard_ : *platform.clipboard, about_,
                              keyboard_, guide_, manuals_}),
                 bandRows()) {
@@ -85,7 +96,9 @@ void Application::registerPanels() {
         events_.onClick(indexedName("chkMatch", level), [this, level] { toggleBlocked(session_, level); });
 }
 
+// The graph changes without the session.
 void Application::announce() {
+    graphGuide_.dotips();
     commands_.sync();
     events_.announceShown();
 }

@@ -14,6 +14,7 @@
 #include "graphs/graph_screen.h"
 #include "guidance/about_window.h"
 #include "guidance/details.h"
+#include "guidance/graph_guide.h"
 #include "guidance/guide.h"
 #include "guidance/keyboard_page.h"
 #include "guidance/manuals.h"
@@ -155,6 +156,7 @@ public:
     const Details& details() const noexcept { return details_; }
     const MdesWindow& mdesWindow() const noexcept { return mdesWindow_; }
     const GraphScreen& graph() const noexcept { return graph_; }
+    const GraphGuide& graphGuide() const noexcept { return graphGuide_; }
     const ReportScreen& report() const noexcept { return report_; }
     const AboutWindow& about() const noexcept { return about_; }
     const KeyboardPage& keyboard() const noexcept { return keyboard_; }
@@ -188,6 +190,7 @@ private:
     StartScreen startScreen_;
     OptimalWindow optimalWindow_;
     GraphScreen graph_;
+    GraphGuide graphGuide_;
     ReportScreen report_;
     AboutWindow about_;
     KeyboardPage keyboard_;
@@ -196,8 +199,8 @@ private:
 
     /// In the order in which they hear of a change.
     std::vector<Part*> parts_ = {&dialogs_,        &mdesWindow_,  &optimalWindow_, &details_,
-                                 &scenarioWindow_, &startScreen_, &graph_,         &report_,
-                                 &about_,          &keyboard_,    &guide_};
+                                 &scenarioWindow_, &startScreen_, &graph_,         &graphGuide_,
+                                 &report_,         &about_,       &keyboard_,      &guide_};
     CommandBook commands_;
     ControlRegistry names_;
     EventRegistry events_;

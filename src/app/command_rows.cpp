@@ -468,10 +468,6 @@ const CommandRow commandTable[] = {
      hasSubject<frmProblems>},
     {"gfrmProblemES", "Problem with the &effect", "Why the effect is not admissible", window,
      open<frmProblemES>, hasSubject<frmProblemES>},
-    {"gfrmTipsGraph", "Guide of the graph", "The guide of the graph", window, nullptr,
-     [](P p) -> ToolState {
-         return {.checked = p.design.isOpen(frmTipsGraph), .reason = "This version has no guide"};
-     }},
     {"gfrmOpenWizard", "S&tart", "The start screen", window, [](P p) { p.start.open(); }, isOpen<frmStart>},
     {"gfrmCounts", "&Cell counts", "The cell counts", window, open<frmCounts>, hasSubject<frmCounts>},
     {"FrmLimits", "&Limits of risks", "The limits of the risks by level", window,

@@ -69,6 +69,15 @@ void openGraph(P p) {
     p.design.RestoreForms(FormSet::graph);
 }
 
+// The guide stands beside its graph.
+void toggleGuide(P p) { p.graphGuide.toggle(); }
+
+ToolState guideState(P p) {
+    return {.checked = p.design.isOpen(WindowId::frmTipsGraph),
+            .enabled = p.graph.isOpen(),
+            .reason = "The graph is not open"};
+}
+
 using G = GraphState;
 using L = LegendPlaces;
 using T = TextSizes;
@@ -95,6 +104,8 @@ const CommandRow graphTable[] = {
                  .reason = "The graph has no series"};
      },
      {.opensDialog = true}},
+    {"gfrmTipsGraph", "Guide of the graph", "Open or close the guide of the graph", window, toggleGuide,
+     guideState},
     // Files
     {"Save graph (PowerPoint)",
      "&Save graph (PowerPoint)",
@@ -288,10 +299,8 @@ const CommandRow graphTable[] = {
      "&Interactive guide",
      "Open or close the guide of the graph",
      window,
-     nullptr,
-     [](P p) -> ToolState {
-         return {.checked = p.design.isOpen(WindowId::frmTipsGraph), .reason = "This version has no guide"};
-     },
+     toggleGuide,
+     guideState,
      {Sign::guide, true, "F1", "Guide"}},
 };
 

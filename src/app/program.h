@@ -4,6 +4,7 @@
 #include "graphs/graph_screen.h"
 #include "guidance/about_window.h"
 #include "guidance/details.h"
+#include "guidance/graph_guide.h"
 #include "guidance/guide.h"
 #include "guidance/keyboard_page.h"
 #include "guidance/manuals.h"
@@ -31,6 +32,7 @@ struct Program {
     StudyFiles& files;
     StartScreen& start;
     GraphScreen& graph;
+    GraphGuide& graphGuide;
     ReportScreen& report;
     Clipboard& clipboard;
     AboutWindow& about;

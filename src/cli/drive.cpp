@@ -281,7 +281,14 @@ Json document(Session& session, ScriptWords&) {
     return documentJson(session.application.report().document());
 }
 
-Json guide(Session& session, ScriptWords&) { return guideJson(session.application.guide().frame()); }
+Json guide(Session& session, ScriptWords& words) {
+    const std::string which = words.rest();
+    if (which == "graph")
+        return guideJson(session.application.graphGuide().frame());
+    if (which.empty())
+        return guideJson(session.application.guide().frame());
+    throw UseProblem("guide takes graph or nothing, not " + inQuotes(which) + ".");
+}
 
 Json valueOf(double value) { return {{"value", value}}; }
 

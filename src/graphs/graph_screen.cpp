@@ -302,6 +302,7 @@ void GraphScreen::forgetStudy() {
         setL({});
     for (const WindowId window : {WindowId::frmXVar, WindowId::frmLVar, WindowId::frmTable})
         design_.SynchForms(window, WindowAction::unload);
+    design_.SynchForms(WindowId::frmTipsGraph, WindowAction::withdraw);  // it tells nothing of the study
     design_.SynchForms(WindowId::xPlot, WindowAction::withdrawForGood);
     drawn_.reset();
     chart_ = {};
@@ -383,6 +384,13 @@ void GraphScreen::SetXAuto(bool automatically) {
 bool GraphScreen::rangeIsByHand() const {
     return state_.range().Mode == 1 || (manualIsAsked_ && axisDialog_.isOpen());
 }
+
+std::string GraphScreen::axisTitle() const {
+    const Study& s = design_.study();
+    return GetTitleX(s, state_.XVar ? state_.XVar : numberAtTop(s));
+}
+
+std::string GraphScreen::seriesTitle() const { return GetTitleL(design_.study(), state_.LVar); }
 
 void GraphScreen::move(Directions direction) {
     if (!drawn_)

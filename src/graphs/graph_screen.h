@@ -71,6 +71,10 @@ public:
     const GraphState& state() const noexcept { return state_; }
     /// Whether the range of the axis is set by hand, or about to be.
     bool rangeIsByHand() const;
+    /// The variables as the study names them now; no series is an empty title. Before the first graph the
+    /// axis is the one that it would have.
+    std::string axisTitle() const;
+    std::string seriesTitle() const;
     bool isOpen() const { return design_.isOpen(WindowId::xPlot); }
     bool hasGraph() const noexcept { return drawn_.has_value(); }
 

@@ -43,11 +43,13 @@ bool isOfOtherScreen(const std::string& name) {
     static const std::vector<Band> bands = bandRows();
     if (!name.starts_with("tool:"))
         return startsWithOneOf(name,
-                               {"XVar", "LVar", "XRow", "LRow", "NumLines", "Graph", "CostScale", "ColorSet",
-                                "CurrentPoint", "DisplayOn", "DetailsCorner", "xPlot", "frmTable", "frmXVar",
-                                "frmLVar", "XRangeTable", "LValueTable", "frmPrint"});
+                               {"XVar",          "LVar",        "XRow",     "LRow",         "NumLines",
+                                "Graph",         "CostScale",   "ColorSet", "CurrentPoint", "DisplayOn",
+                                "DetailsCorner", "xPlot",       "frmTable", "frmXVar",      "frmLVar",
+                                "XRangeTable",   "LValueTable", "frmPrint", "frmTipsGraph", "TipFrame"});
     const std::string tool = name.substr(5, name.rfind('.') - 5);
-    return tool == "gxPlot" || std::any_of(bands.begin(), bands.end(), [&](const Band& band) {
+    return tool == "gxPlot" || tool == "gfrmTipsGraph" ||
+           std::any_of(bands.begin(), bands.end(), [&](const Band& band) {
                return !band.screen.empty() &&
                       std::any_of(band.entries.begin(), band.entries.end(),
                                   [&](const BandEntry& entry) { return entry.name == tool; });

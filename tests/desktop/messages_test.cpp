@@ -242,7 +242,7 @@ TEST_F(Messages, AboutAndTheKeysAreReachedFromHelp) {
                               all.contains(shownText(tool.shortcut + ": " + tool.ToolTipText));
         EXPECT_TRUE(isOnPage) << tool.Name;
     }
-    EXPECT_EQ(all.count(QLatin1String("F1: ")), 1) << "the keys of a value stand once";
+    EXPECT_EQ(all.count(QLatin1String("F1: ")), 2) << "of a value and of the graph, each once";
     desk.click("frmKeyboard.cmdPrint");
     EXPECT_EQ(press.asked, 1);
     EXPECT_TRUE(press.inner.pdf(press.last).starts_with("%PDF"));
