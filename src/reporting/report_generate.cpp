@@ -37,7 +37,7 @@ private:
     bool isBlocked() const { return !facts_.study().isHierarchical(); }
     bool hasCosts() const { return facts_.state.settings.ReportCosts == Inclusions::include; }
 
-    ReportFacts facts_;
+    StudyFacts facts_;
     const PageSetup& page_;
     DocumentSurface& surface_;
 };

@@ -100,7 +100,7 @@ void writeGroups(TableDraft& draft, std::size_t row, std::size_t column, bool is
     draft.cell(row, column).side = TextSides::centre;
 }
 
-void writeMainRow(TableDraft& draft, const ReportFacts& facts, int level, std::size_t row) {
+void writeMainRow(TableDraft& draft, const StudyFacts& facts, int level, std::size_t row) {
     const Study& s = facts.study();
     const bool isBlocked = s.isBlocked(level);
     const auto cost = [&](double amount) { return amountText(amount, facts.state.settings.currency); };
@@ -138,7 +138,7 @@ void writeDispersionHeads(TableDraft& draft, std::initializer_list<const char*> 
     }
 }
 
-ReportTable iccTableWithSpans(const ReportFacts& facts, const PageSetup& page) {
+ReportTable iccTableWithSpans(const StudyFacts& facts, const PageSetup& page) {
     constexpr I columns[] = {I::ICCW, I::VarW, I::SpanW, I::ExampleW,
                              I::ICCC, I::VarC, I::SpanC, I::ExampleC};
     const Study& s = facts.study();
@@ -158,7 +158,7 @@ ReportTable iccTableWithSpans(const ReportFacts& facts, const PageSetup& page) {
 }
 
 // One row of heads is enough where no band joins them.
-ReportTable iccTableWithoutSpans(const ReportFacts& facts, const PageSetup& page) {
+ReportTable iccTableWithoutSpans(const StudyFacts& facts, const PageSetup& page) {
     const Study& s = facts.study();
     TableDraft draft(3, 1, countOf(s.NumLevels));
     draft.head(1, 1, "Level", normalBackground);
@@ -172,7 +172,7 @@ ReportTable iccTableWithoutSpans(const ReportFacts& facts, const PageSetup& page
     return draft.fitted(page);
 }
 
-ReportTable iccTableOfRisks(const ReportFacts& facts, const PageSetup& page) {
+ReportTable iccTableOfRisks(const StudyFacts& facts, const PageSetup& page) {
     constexpr I columns[] = {I::ICCW, I::SpanW, I::ExampleW};
     const Study& s = facts.study();
     TableDraft draft(4, twoHeads, countOf(s.NumLevels));
@@ -228,7 +228,7 @@ void writeCountsRow(TableDraft& draft, const Study& s, const Arm& arm, std::size
 
 }  // namespace
 
-ReportTable ReportMainTable(const ReportFacts& facts, const PageSetup& page) {
+ReportTable ReportMainTable(const StudyFacts& facts, const PageSetup& page) {
     const Study& s = facts.study();
     TableDraft draft(Main::count, twoHeads, countOf(s.NumLevels));
     writeMainHeads(draft, s);
@@ -241,13 +241,13 @@ ReportTable ReportMainTable(const ReportFacts& facts, const PageSetup& page) {
     return draft.fitted(page);
 }
 
-ReportTable ReportICCTable(const ReportFacts& facts, const PageSetup& page) {
+ReportTable ReportICCTable(const StudyFacts& facts, const PageSetup& page) {
     if (facts.study().isBinary())
         return iccTableOfRisks(facts, page);
     return facts.hasSpans() ? iccTableWithSpans(facts, page) : iccTableWithoutSpans(facts, page);
 }
 
-ReportTable ReportTauSqTable(const ReportFacts& facts, const PageSetup& page) {
+ReportTable ReportTauSqTable(const StudyFacts& facts, const PageSetup& page) {
     constexpr T columns[] = {T::TauSqW, T::SpanW, T::ExampleW, T::TauSqC, T::SpanC, T::ExampleC};
     const Study& s = facts.study();
     const auto withUnits = [&s](const std::string& head, const char* units) {
@@ -272,7 +272,7 @@ ReportTable ReportTauSqTable(const ReportFacts& facts, const PageSetup& page) {
     return draft.fitted(page);
 }
 
-ReportTable ReportCountsTable(const ReportFacts& facts, const PageSetup& page) {
+ReportTable ReportCountsTable(const StudyFacts& facts, const PageSetup& page) {
     const Study& s = facts.study();
     TableDraft draft(Counts::count, twoHeads, std::size(arms));
     draft.head(1, Counts::group, "Group and sample size", reportYellow, {2, 1});

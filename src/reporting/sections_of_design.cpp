@@ -1,5 +1,6 @@
 // The design: levels with their roles, units, sampling models, covariates, costs.
 #include "reporting/report_sections.h"
+#include "screen/shared_sentences.h"
 
 namespace lorvane {
 
@@ -32,6 +33,11 @@ const ReportSection& designSection() {
 }
 
 const ReportSection& sampleSizeSection() {
+    static constexpr Sentence roles[] = {
+        {nested, "{Level} are nested within {above}. "},
+        {randomized, "{Level} are randomized to either of the two conditions. "},
+        {blocked, "{Level} are blocked (stratified or matched), which means that each of the {level} will "
+                  "incorporate {name 1} from both conditions. "}};
     static const ReportSection section{
         {{always, "Sample size"}},
         {{Levels::none, "", {{always, "The number of units at each level is as follows: \n"}}},
@@ -39,22 +45,7 @@ const ReportSection& sampleSizeSection() {
           "\n",
           {{blocked, "{Level} {NB} (Blocked)"},
            {notBlocked, "{Level} {NT} ({Treated}) + {NC} ({Control})"}}}},
-        {{Levels::fromTop,
-          "\n",
-          {{nested, "{Level} are nested within {above}. "},
-           {randomized, "{Level} are randomized to either of the two conditions. "},
-           {blocked, "{Level} are blocked (stratified or matched), which means that each of the {level} will "
-                     "incorporate {name 1} from both conditions. "},
-           {top | blocked, "The study will include {NB} {level}. "},
-           {belowTop | blocked, "Each of the {above} will include {NB} {level}. "},
-           {top | notBlocked, "The study will include {NT} {level} assigned to {treated}, and {NC} {level} "
-                              "assigned to {control}. "},
-           {notBlocked | inBlocks,
-            "Each of the {above} will include {NT} {level} assigned to {treated}, and {NC} {level} assigned "
-            "to {control}. "},
-           {notBlocked | inGroups,
-            "Each of the {above} assigned to {treated} will include {NT} {level}, and each of the {above} "
-            "assigned to {control} will include {NC} {level}. "}}}}};
+        {{Levels::fromTop, "\n", together({roles, sampleSizes()})}}};
     return section;
 }
 
@@ -85,35 +76,17 @@ const ReportSection& modelSection() {
 }
 
 const ReportSection& covariateSection() {
-    static const std::vector<Sentence> summary = {
-        {someCovariates | withoutCovariate, "There are no {level}-level covariates. "},
-        {oneCovariate, "The study will include {Q} covariate at the {level}-level, with an R-squared of "
-                       "{R-squared}. "},
-        {moreCovariates, "The study will include {Q} covariates at the {level}-level, with an R-squared of "
-                         "{R-squared}. "}};
-    static const std::vector<Sentence> explained = {
-        {means | notBlocked | withCovariate,
-         "R-squared is the proportion of the variance in {level}-means that is explained by the "
-         "{level}"},
-        {binary | notBlocked | withCovariate,
-         "R-squared is the proportion of the variance in {level}-risk that is explained by the {level}"},
-        {notBlocked | oneCovariate, "-level covariate."},
-        {notBlocked | moreCovariates, "-level covariates."},
-        {means | blocked | withCovariate,
-         "When {level} are blocked (stratified or matched), as they are here, R-squared is the proportion of "
-         "treatment-effects variance (rather than variance in means) across {level} that is explained by "
-         "the covariates."},
+    static constexpr Sentence noneHere[] = {
+        {someCovariates | withoutCovariate, "There are no {level}-level covariates. "}};
+    static constexpr Sentence ofBlockedRisks[] = {
         {binary | blocked | withCovariate,
          "When {level} are blocked  (stratified or matched), as they are here, R-squared is the proportion "
          "of treatment-effects variance (rather than variance in risk) across {level} that is explained by "
          "the covariates."}};
+    static const std::vector<Sentence> summary = together({noneHere, covariateCounts()});
+    static const std::vector<Sentence> inDetail = together({summary, covariatesExplained(), ofBlockedRisks});
     static const Block none = {
         Levels::none, "", {{noCovariates, "There are no covariates at any level of the design. "}}};
-    static const auto inDetail = [] {
-        std::vector<Sentence> sentences = summary;
-        sentences.insert(sentences.end(), explained.begin(), explained.end());
-        return sentences;
-    }();
     static const ReportSection section{{{always, "Covariates"}},
                                        {none, {Levels::fromTop, "\n", summary}},
                                        {none, {Levels::fromTop, "\n", inDetail}}};
@@ -122,6 +95,8 @@ const ReportSection& covariateSection() {
 
 // The two blanks before the cost of a blocked unit are deliberate.
 const ReportSection& costSection() {
+    static constexpr Sentence ofBlocks[] = {
+        {blocked, "The cost for each of the {level} is  {cost blocked}."}};
     static const ReportSection section{
         {{always, "Costs"}},
         {{Levels::none, "", {{always, "The cost per unit at each level is as follows: \n"}}},
@@ -130,11 +105,7 @@ const ReportSection& costSection() {
           {{blocked, "{Level} {cost blocked} (blocked)"},
            {notBlocked, "{Level} {cost treated} ({treated}) + {cost control} ({control})"}}},
          {Levels::none, "", {{always, "\nBased on these projections, the costs will total {total cost}. "}}}},
-        {{Levels::fromTop,
-          "\n",
-          {{notBlocked, "The cost for each of the {level} assigned to {treated} is {cost treated}. "},
-           {notBlocked, "The cost for each of the {level} assigned to {control} is {cost control}. "},
-           {blocked, "The cost for each of the {level} is  {cost blocked}."}}},
+        {{Levels::fromTop, "\n", together({costsOfGroups(), ofBlocks})},
          {Levels::none,
           "",
           {{always, "\nBased on these projections, the costs for {all levels} will total {total cost}. "}}}}};

@@ -41,7 +41,7 @@ struct MadeStudy {
         : MadeStudy(path(LORVANE_GOLDEN) / (name + std::string(".session"))) {}
 
     const Document& document() const { return application.report().document(); }
-    ReportFacts facts() const { return {application.session().state()}; }
+    StudyFacts facts() const { return {application.session().state()}; }
 
     TestPlatform outside;
     Application application{outside.platform()};
@@ -85,7 +85,7 @@ bool holds(const Document& report, Halves half, const std::string& text) {
 }
 
 // Takes away the sentences that a study tells.
-void strike(std::vector<Block>& blocks, const ReportFacts& facts) {
+void strike(std::vector<Block>& blocks, const StudyFacts& facts) {
     for (Block& block : blocks) {
         std::erase_if(block.sentences, [&](const Sentence& sentence) {
             const ReportSection alone{{}, {{block.levels, "", {sentence}}}, {}};

@@ -1,5 +1,5 @@
-// Names and numbers as the report tells them.
-#include "reporting/report_facts.h"
+// Names and numbers as report and details tell them.
+#include "screen/study_facts.h"
 
 #include <algorithm>
 

@@ -7,7 +7,9 @@
 #include "base/money.h"
 #include "base/number_text.h"
 #include "engine/effect_metrics.h"
-#include "reporting/report_sentences.h"
+#include "engine/level_costs.h"
+#include "screen/design_words.h"
+#include "screen/sentences.h"
 #include "session/answers.h"
 #include "session/currency.h"
 
@@ -15,7 +17,7 @@ namespace lorvane {
 
 namespace {
 
-using F = const ReportFacts&;
+using F = const StudyFacts&;
 
 constexpr int dDecimals = 3;
 constexpr int ratioDecimals = 2;
@@ -131,7 +133,71 @@ std::string uppers(F f, int level) {
                            [&](int upper) { return lowerLevelName(f.study(), upper); }));
 }
 
+// In the decimals of the fields ----------------------------------------------------------------------------
+
+template <double Study::*value, int FieldDecimals::*decimals>
+std::string shown(F f, int) {
+    return fixedText(f.study().*value, f.study().decimals.*decimals);
+}
+
+// Limits of risks need three decimals to differ.
+int decimalsOfSpan(const Study& s) {
+    return s.isMeans() ? s.decimals.txtMRange : std::max(s.decimals.txtMRange, 3);
+}
+
+std::string spanShown(F f, int level) {
+    const Study& s = f.study();
+    const int decimals = s.entersLimits() ? decimalsOfSpan(s) : s.decimals.txtMRange;
+    return fixedText(spanOfLevel(s, level), decimals) + (s.isMeans() ? " points" : "");
+}
+
+std::string limitsShown(F f, int level) {
+    const IccRow row = iccRow(f.study(), level);
+    const int decimals = decimalsOfSpan(f.study());
+    return fixedText(row.lower, decimals) + " to " + fixedText(row.upper, decimals);
+}
+
+// What was entered, or what follows from it.
+template <TauSqMetrics metric, PerLevel<double> Study::*entered, PerLevel<double> EffectDispersion::*derived,
+          int FieldDecimals::*decimals>
+std::string effectShown(F f, int level) {
+    const Study& s = f.study();
+    const double value = s.TauSqMetric == metric ? (s.*entered)(level) : (s.effect.*derived)(level);
+    return fixedText(value, s.decimals.*decimals);
+}
+
+// The metric of the effect.
+struct EffectWords {
+    const char* name;
+    const char* sign;
+};
+
+EffectWords effectWords(const Study& s) {
+    if (s.isMeans())
+        return {"the standardized mean difference, d", "d"};
+    if (s.BinaryType == BinaryTypes::oddsRatio)
+        return {"the log odds ratio", "log odds ratio"};
+    if (s.BinaryType == BinaryTypes::riskDifference)
+        return {"the risk difference", "risk difference"};
+    return s.BinaryType == BinaryTypes::riskRatio ? EffectWords{"the log risk ratio", "log risk ratio"}
+                                                  : EffectWords{"the difference of two risks", "two risks"};
+}
+
+// The levels from the second up, as the effect size speaks of them: "a", "a, and b", "a, b, and c".
+std::string levelsAbove(F f, int) {
+    std::string names = levelName(f.study(), 2);
+    for (int level = 3; level <= f.study().NumLevels; ++level)
+        names += (level < f.study().NumLevels ? ", " : ", and ") + levelName(f.study(), level);
+    return names;
+}
+
+std::string costOfLevel(F f, int level) {
+    return amountText(levelCosts(f.study())(level).amount(), f.state.settings.currency);
+}
+
 using S = Study;
+using D = FieldDecimals;
+using E = EffectDispersion;
 using I = IccColumn;
 using T = TauSqColumn;
 
@@ -194,16 +260,38 @@ constexpr Place places[] = {
     {"mean effect", ofStudy<meanEffect>},
     {"effect span across", effect<T::SpanC>},
     {"effect range across", effect<T::ExampleC>},
+    // As the cells show them
+    {"Name 1", [](F f, int) { return levelName(f.study(), 1); }},
+    {"below", [](F f, int level) { return lowerLevelName(f.study(), level - 1); }},
+    {"levels above", levelsAbove},
+    {"design", ofStudy<designSentence>},
+    {"units", ofStudy<unitsNote>},
+    {"outcome", [](F f, int) -> std::string { return f.study().isMeans() ? "scores" : "risk"; }},
+    {"values", [](F f, int) -> std::string { return f.study().isMeans() ? "means" : "risks"; }},
+    {"ICC", icc<I::ICCW>},
+    {"span shown", spanShown},
+    {"span shown within", [](F f, int) { return spanShown(f, 1); }},
+    {"limits shown", limitsShown},
+    {"effect", [](F f, int) -> std::string { return effectWords(f.study()).name; }},
+    {"effect sign", [](F f, int) -> std::string { return effectWords(f.study()).sign; }},
+    {"tau-squared shown", effectShown<TauSqMetrics::tauSquared, &S::txtTauSq, &E::txtTauSq, &D::txtTauSq>},
+    {"effect span shown",
+     effectShown<TauSqMetrics::spanOfEffects, &S::txtDRange, &E::txtSpan, &D::txtDRange>},
+    {"omega shown", effectShown<TauSqMetrics::omega, &S::txtOmega, &E::txtOmega, &D::txtOmega>},
+    {"control rate", shown<&S::txtPrev, &D::txtPrev>},
+    {"treated rate", shown<&S::txtEvent2, &D::txtPrev>},
+    {"odds ratio shown", shown<&S::txtOR, &D::txtOR>},
+    {"risk difference shown", shown<&S::txtRD, &D::txtRD>},
+    {"cost of level", costOfLevel},
 };
 
 }  // namespace
 
-std::string placeText(std::string_view name, const ReportFacts& facts, int level) {
+std::string placeText(std::string_view name, const StudyFacts& facts, int level) {
     const auto* found = std::find_if(std::begin(places), std::end(places),
                                      [&](const Place& place) { return place.name == name; });
     if (found == std::end(places))
-        throw std::logic_error("A sentence of the report has an unknown place \"" + std::string(name) +
-                               "\".");
+        throw std::logic_error("A sentence has an unknown place \"" + std::string(name) + "\".");
     return found->text(facts, level);
 }
 

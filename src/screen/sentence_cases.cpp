@@ -1,13 +1,14 @@
 // The cases of the sentences: when each holds.
 #include <functional>
 
-#include "reporting/report_sentences.h"
+#include "screen/design_words.h"
+#include "screen/sentences.h"
 
 namespace lorvane {
 
 namespace {
 
-using F = const ReportFacts&;
+using F = const StudyFacts&;
 
 constexpr double greatestPowerTold = 0.999;
 
@@ -28,6 +29,11 @@ bool hasAnyLevel(F f, bool (*holds)(const Study&, int)) {
 bool isFixed(const Study& s, int level) { return s.txtModel(level) == SamplingModels::fixed; }
 bool hasCovariates(const Study& s, int level) { return s.txtQ(level) != 0; }
 bool differs(const Study& s, int level) { return !s.isBlocked(level) && s.txtNT(level) != s.txtNC(level); }
+bool entersIcc(F f) { return f.study().IccMetric == IccMetrics::icc; }
+template <TauSqMetrics metric>
+bool entersEffect(F f) {
+    return f.study().TauSqMetric == metric;
+}
 bool isBinaryOf(F f, BinaryTypes type) { return f.study().isBinary() && f.study().BinaryType == type; }
 bool isMeansOf(F f, DTypes type) { return f.study().isMeans() && f.study().DType == type; }
 
@@ -61,7 +67,22 @@ const Row<F> ofStudy[] = {
     {cases::noLowCounts, [](F f) { return !f.study().counts.anyLow; }},
     {cases::equalSizes, [](F f) { return !hasAnyLevel(f, differs); }},
     {cases::unequalSizes, [](F f) { return hasAnyLevel(f, differs); }},
+    {cases::iccEntered, entersIcc},
+    {cases::spanEntered, [](F f) { return !entersIcc(f) && !f.study().entersLimits(); }},
+    {cases::limitsEntered, [](F f) { return f.study().entersLimits(); }},
+    {cases::spreadValid, [](F f) { return f.study().outcome.ValidICC(0); }},
+    {cases::spreadInvalid, [](F f) { return !f.study().outcome.ValidICC(0); }},
+    {cases::effectsValid, [](F f) { return f.study().effect.ValidTauSq(0); }},
+    {cases::effectsInvalid, [](F f) { return !f.study().effect.ValidTauSq(0); }},
+    {cases::tauSqEntered, entersEffect<TauSqMetrics::tauSquared>},
+    {cases::effectSpanEntered, entersEffect<TauSqMetrics::spanOfEffects>},
+    {cases::omegaEntered, entersEffect<TauSqMetrics::omega>},
+    {cases::unitsToTell, [](F f) { return !unitsNote(f.study()).empty(); }},
+    {cases::costToTell, [](F f) { return f.study().result.txtCost >= 1; }},
 };
+
+// A file may hold another model where there is no choice.
+bool hasModelChoice(const Study& s, int level) { return level > 1 && level != s.RandomizedLevel; }
 
 bool isTop(F f, int level) { return level == f.study().NumLevels; }
 
@@ -83,6 +104,9 @@ const Row<F, int> ofLevel[] = {
     {cases::withCovariate, [](F f, int level) { return hasCovariates(f.study(), level); }},
     {cases::oneCovariate, [](F f, int level) { return f.study().txtQ(level) == 1; }},
     {cases::moreCovariates, [](F f, int level) { return f.study().txtQ(level) > 1; }},
+    {cases::modelChosen, [](F f, int level) { return hasModelChoice(f.study(), level); }},
+    {cases::modelGiven, [](F f, int level) { return !hasModelChoice(f.study(), level); }},
+    {cases::omegaValid, [](F f, int level) { return f.study().effect.ValidOmega(level); }},
 };
 
 template <typename Rows, typename... Where>
@@ -97,8 +121,8 @@ cases::Set setOf(const Rows& rows, Where&&... where) {
 
 }  // namespace
 
-cases::Set casesOf(const ReportFacts& facts) { return setOf(ofStudy, facts); }
+cases::Set casesOf(const StudyFacts& facts) { return setOf(ofStudy, facts); }
 
-cases::Set casesOf(const ReportFacts& facts, int level) { return setOf(ofLevel, facts, level); }
+cases::Set casesOf(const StudyFacts& facts, int level) { return setOf(ofLevel, facts, level); }
 
 }  // namespace lorvane

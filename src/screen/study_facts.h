@@ -1,4 +1,4 @@
-// What the report tells of a study, as the texts that stand in its sentences and tables.
+// What report and details tell of a study, as the texts that stand in their sentences and tables.
 #pragma once
 
 #include <string>
@@ -9,8 +9,8 @@
 
 namespace lorvane {
 
-/// The session that a report tells of. It must be one with an answer, and outlive this.
-struct ReportFacts {
+/// The session that a text tells of. It must outlive this. Dispersions can be told only where they are valid.
+struct StudyFacts {
     const SessionState& state;
 
     const Study& study() const { return state.study; }
