@@ -1,10 +1,10 @@
 // The window of the details.
 #include "guidance/details.h"
 
-#include <optional>
+#include <algorithm>
+#include <utility>
 
 #include "base/names.h"
-#include "guidance/detail_texts.h"
 
 namespace lorvane {
 
@@ -35,25 +35,10 @@ DetailItem itemOf(std::string_view column) {
     return DetailItem::none;
 }
 
-std::optional<DetailText> textOf(const Study& s, DetailItem item, int row) {
-    switch (item) {
-    case DetailItem::levels:
-        return levelsText(s);
-    case DetailItem::units:
-        return unitsText(s, row);
-    case DetailItem::effect:
-        return GetTextES(s);
-    default:
-        return std::nullopt;
-    }
-}
-
-std::string joined(const std::vector<std::string>& parts, const char* between) {
-    std::string text;
-    for (const std::string& part : parts)
-        text += (text.empty() ? "" : between) + part;
-    return text;
-}
+// What the strip of the effect shows beside its cells.
+constexpr const char* effectPanels[] = {"pnlesOuter", "pnlExplainES", "pnldT",      "pnldW",
+                                        "pnlOther",   "SSPanel10",    "pnlDerived", "lblD",
+                                        "lblPrev",    "lblP2",        "lblOther",   "lblDerived"};
 
 }  // namespace
 
@@ -66,15 +51,16 @@ void Details::rest() {
     pnlCover_.Caption = hint_.Caption + "\nto see details for that item";
     title_.Caption.clear();
     text_.Caption.clear();
+    paragraphs_.clear();
     showTabs();
 }
 
-// The units have a tab a level.
 void Details::showTabs() {
     const Study& s = design_.study();
+    const std::vector<int> levels = detailLevels(s, item_);
     for (int level = lowestLevel; level <= highestLevel; ++level) {
         Option& tab = tabDetails_(level);
-        tab.Visible = item_ == DetailItem::units && level <= s.NumLevels;
+        tab.Visible = std::find(levels.begin(), levels.end(), level) != levels.end();
         tab.Caption = tab.Visible ? s.txtName(level) : "";
         tab.Value = tab.Visible && level == row_;
     }
@@ -89,14 +75,15 @@ std::vector<std::string> Details::tabs() const {
     return names;
 }
 
-// An item without a text rests as well: what is shown must not be taken for it.
+// Without an item the window rests.
 void Details::fill() {
-    const auto text = textOf(design_.study(), item_, row_);
+    auto text = detailText(design_.session().state(), item_, row_);
     if (!text)
         return rest();
     pnlCover_.Visible = false;
-    title_.Caption = text->title;
-    text_.Caption = joined(text->paragraphs, "\n\n");
+    title_.Caption = std::move(text->title);
+    text_.Caption = plainText(text->paragraphs);
+    paragraphs_ = std::move(text->paragraphs);
     showTabs();
 }
 
@@ -134,7 +121,7 @@ void Details::openField(FieldRef field) {
 // A click opens the window where there is something to tell.
 void Details::openBy(DetailItem item, int row) {
     GetDetails(item, row);
-    if (textOf(design_.study(), item, row))
+    if (detailText(design_.session().state(), item, row))
         open();
 }
 
@@ -151,7 +138,12 @@ void Details::registerNames(ControlRegistry& registry) const {
         registry.add(name, *panel);
         registry.add(name, &panel->Caption);
     }
-    registry.add("frmDetails.tabDetails", [this]() -> ControlValue { return joined(tabs(), "|"); });
+    registry.add("frmDetails.tabDetails", [this]() -> ControlValue {
+        std::string names;
+        for (const std::string& name : tabs())
+            names += (names.empty() ? "" : "|") + name;
+        return names;
+    });
     registry.add("frmDetails.pnlCover", pnlCover_);
     registry.add("frmDetails.Command1", close_);
     for (int level = lowestLevel; level <= highestLevel; ++level)
@@ -166,6 +158,8 @@ void Details::registerEvents(EventRegistry& events) {
     };
     for (const ColumnItem& column : columnItems)
         onClick(column.column, column.item, 0);
+    for (const char* panel : effectPanels)
+        onClick(panel, DetailItem::effect, 0);
     for (int level = lowestLevel; level <= highestLevel; ++level) {
         onClick(indexedName("pnlLevel", level), DetailItem::design, level);
         onClick(indexedName("pnlName", level), DetailItem::levels, level);

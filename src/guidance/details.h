@@ -5,6 +5,7 @@
 #include <string_view>
 #include <vector>
 
+#include "guidance/detail_texts.h"
 #include "platform/control_registry.h"
 #include "platform/event_registry.h"
 #include "screen/design.h"
@@ -12,30 +13,13 @@
 
 namespace lorvane {
 
-/// Items of the study screen that can be asked for.
-enum class DetailItem : int {
-    none = 0,
-    design = 1,
-    levels = 2,
-    units = 3,
-    icc = 4,
-    span = 5,
-    tauSq = 6,
-    effects = 7,
-    population = 8,
-    model = 9,
-    covariates = 10,
-    costs = 11,
-    effect = 12
-};
-
 class Details final : public Part {
 public:
     /// The screen must outlive it.
     explicit Details(Design& design);
 
-    /// Remembers item and row (a level, 0 for a whole column) and fills the window. An item that has no text
-    /// shows what is shown at rest; the population leaves the window as it was.
+    /// Remembers item and row (a level, 0 for a whole column) and fills the window. No item shows what is
+    /// shown at rest; the population leaves the window as it was.
     void GetDetails(DetailItem item, int row);
 
     /// The details of a field, whether the window is open or not.
@@ -54,6 +38,8 @@ public:
 
     const Panel& title() const { return title_; }
     const Panel& text() const { return text_; }
+    /// The same with its key numbers.
+    const std::vector<Paragraph>& paragraphs() const { return paragraphs_; }
     bool isAtRest() const { return pnlCover_.Visible; }
     const Panel& cover() const { return pnlCover_; }
     const Panel& hint() const { return hint_; }
@@ -76,7 +62,8 @@ private:
     int row_ = 0;
     Panel title_;
     Panel text_;
-    Panel yDesc_;  ///< the second text area; no item of this screen fills it
+    std::vector<Paragraph> paragraphs_;
+    Panel yDesc_;  ///< the second text area; it stays empty, since every text stands whole in the first
     Panel pnlCover_;
     Panel hint_{"Click any item on the main screen"};  ///< below a text
     Button close_{"Close"};

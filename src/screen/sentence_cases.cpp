@@ -1,4 +1,5 @@
 // The cases of the sentences: when each holds.
+#include <cmath>
 #include <functional>
 
 #include "screen/design_words.h"
@@ -84,6 +85,11 @@ const Row<F> ofStudy[] = {
 // A file may hold another model where there is no choice.
 bool hasModelChoice(const Study& s, int level) { return level > 1 && level != s.RandomizedLevel; }
 
+bool hasRange(const Study& s, int level) {
+    const TauSqRow row = tauSqRow(s, level);
+    return s.effect.ValidTauSq(0) && row.hasLimits && std::isfinite(row.upper);
+}
+
 bool isTop(F f, int level) { return level == f.study().NumLevels; }
 
 const Row<F, int> ofLevel[] = {
@@ -106,6 +112,7 @@ const Row<F, int> ofLevel[] = {
     {cases::moreCovariates, [](F f, int level) { return f.study().txtQ(level) > 1; }},
     {cases::modelChosen, [](F f, int level) { return hasModelChoice(f.study(), level); }},
     {cases::modelGiven, [](F f, int level) { return !hasModelChoice(f.study(), level); }},
+    {cases::rangeToTell, [](F f, int level) { return hasRange(f.study(), level); }},
     {cases::omegaValid, [](F f, int level) { return f.study().effect.ValidOmega(level); }},
 };
 

@@ -84,6 +84,7 @@ enum Case : Set {
     modelChosen = 1ULL << 57,     ///< the sampling model can be chosen
     modelGiven = 1ULL << 58,      ///< it is always random
     omegaValid = 1ULL << 59,
+    rangeToTell = 1ULL << 61,  ///< of effects: the effect has one, and its ends are numbers
 };
 
 }  // namespace cases
