@@ -88,15 +88,15 @@ constexpr Sentence widthOfSpan[] = {
     {iccEntered | aboveLowest | spreadInvalid, "It follows from the ICC."}};
 
 constexpr Sentence limitsOfSpan[] = {
-    {means | aboveLowest | spreadValid, "The means of {level} lie, "},
-    {means | lowest | spreadValid, "The scores of {level} lie, "},
-    {binary | aboveLowest | spreadValid, "The risks of {level} lie, "},
-    {belowTop | spreadValid | means, "for example, "},
-    {between | spreadValid | binary, "for example, "},
-    {means | spreadValid, "from {limits shown} in the {control} group."},
-    {binary | aboveLowest | spreadValid, "from {limits shown} in the {control} group."},
-    {aboveLowest | spreadValid, " This amounts to an ICC of {ICC}: {percent} of the total variance in "
-                                "{outcome} lies between {level}."}};
+    {means | aboveLowest | spreadValid, "The means of {level} lie"},
+    {means | lowest | spreadValid, "The scores of {level} lie"},
+    {binary | aboveLowest | spreadValid, "The risks of {level} lie"},
+    {means | belowTop | spreadValid, ", for example,"},
+    {binary | between | spreadValid, ", for example,"},
+    {means | spreadValid, " from {limits shown} in the {control} group."},
+    {binary | aboveLowest | spreadValid, " from {limits shown} in the {control} group."},
+    {aboveLowest | spreadValid, " This amounts to an ICC of {ICC}, the share of the total variance in "
+                                "{outcome} that lies between {level}."}};
 
 // A wider span at a nested level takes variance from the level that is randomized, so power can go either
 // way.
@@ -107,6 +107,18 @@ constexpr Sentence powerBySpan[] = {
      "A wider span raises the ICC of {level}, and power falls as far as the other ICCs stay, since each of "
      "the {level} belongs to one group as a whole."}};
 
+constexpr Sentence columnByIcc[] = {
+    {randomized | aboveLowest,
+     "Power falls as the ICC of {level} rises, since {level} are the units that are randomized."}};
+
+constexpr Sentence columnBySpan[] = {
+    {randomized | aboveLowest,
+     "Power falls as the span of {level} rises, since {level} are the units that are randomized."}};
+
+constexpr Sentence allBlocked[] = {
+    {randomized | lowest, "Every level above {level} is blocked and includes both groups, so what sets its "
+                          "units apart does not blur the comparison of the groups."}};
+
 }  // namespace
 
 const DetailSubject& iccDetails() {
@@ -115,10 +127,7 @@ const DetailSubject& iccDetails() {
         {{always, "ICC"}},
         {{Levels::none, together({iccInColumn})},
          {Levels::clusters, {{spreadValid, "The ICC for {level} is **{ICC}**."}}},
-         {Levels::none,
-          {{hierarchical, "Power falls as an ICC rises, since each cluster belongs to one group."},
-           {blocking, "Power falls as the ICC of a level that is not blocked rises, since each of its "
-                      "clusters belongs to one group."}}}},
+         {Levels::fromTop, together({columnByIcc, allBlocked})}},
         {{always, "ICC for {Level}"}},
         {together({shareOfIcc, noVarianceOfRisks}), together({onRiskDifference}),
          together({spanOfIcc, notTold}), together({powerByIcc, onBlocks, onFixedClusters, onLowest})}};
@@ -131,10 +140,7 @@ const DetailSubject& spanDetails() {
         {{means, "Span of means"}, {binary, "Span of risks"}},
         {{Levels::none, together({spanInColumn})},
          {Levels::clusters, {{spreadValid, "The {values} of {level} span **{span shown}**."}}},
-         {Levels::none,
-          {{hierarchical, "Power falls as a span rises, since each cluster belongs to one group."},
-           {blocking, "Power falls as the span of a level that is not blocked rises, since each of its "
-                      "clusters belongs to one group."}}}},
+         {Levels::fromTop, together({columnBySpan, allBlocked})}},
         {{means | aboveLowest, "Span of means for {Level}"},
          {means | lowest, "Span of scores for {Level}"},
          {binary, "Span of risks for {Level}"}},

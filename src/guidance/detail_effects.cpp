@@ -80,7 +80,8 @@ const DetailSubject& tauSqDetails() {
                     "blocked level. A tau-squared of 0 means that the effect is the same in all of them."}}},
          {Levels::none, together({withoutBlocks})},
          {Levels::blockedOnes, {{effectsValid, "Tau-squared for {level} is **{tau-squared shown}**."}}},
-         {Levels::blockedOnes, together({powerByTauSq, onFixedBlocks})}},
+         {Levels::none,
+          {{blocking, "Power falls as tau-squared rises, unless the model of the level is fixed."}}}},
         {{always, "Tau-squared for {Level}"}},
         {together({tauSqOfLevel}), together({ofOneGroup}), together({spanOfTauSq, rangeOfEffects, notTold}),
          together({powerByTauSq, onFixedBlocks})}};
@@ -104,7 +105,9 @@ const DetailSubject& effectSpanDetails() {
           {{effectSpanEntered, "The effects across {level} span **{effect span shown}**."},
            {tauSqEntered | effectsValid, "The effects across {level} span **{effect span shown}**."},
            {omegaEntered, "Omega for {level} is **{omega shown}**."}}},
-         {Levels::blockedOnes, together({powerByEffects, onFixedBlocks})}},
+         {Levels::none,
+          {{blocking, "Power falls as effects differ more across the units of a level, unless its model is "
+                      "fixed."}}}},
         {{tauSqEntered, "Span of effects and omega for {Level}"},
          {effectSpanEntered, "Span of effects ({effect sign}) for {Level}"},
          {omegaEntered, "Omega for {Level}"}},

@@ -121,7 +121,7 @@ void Details::openField(FieldRef field) {
 // A click opens the window where there is something to tell.
 void Details::openBy(DetailItem item, int row) {
     GetDetails(item, row);
-    if (detailText(design_.session().state(), item, row))
+    if (item != DetailItem::population && !isAtRest())
         open();
 }
 

@@ -250,7 +250,8 @@ TEST_F(DetailsWindow, TellsValuesOfALevelAndWhatFollows) {
         {icc, "pnlICC(2)", "for example from 477.64 to 522.36"},
         {icc, "pnlICC(1)", "within classes: a share of 0.64."},
         {icc, "pnlMRange(3)", "It follows from the ICC and comes to 40.00 points."},
-        {icc, "pnlMRange(3)", "an ICC of 0.16: 16.0% of the total variance in scores lies between schools."},
+        {icc, "pnlMRange(3)",
+         "an ICC of 0.16, the share of the total variance in scores that lies between schools."},
         {icc, "pnlMRange(1)", "The scores of pupils lie, for example, from 460.00 to 540.00"},
         {icc, "pnlTauSq(3)", "Each of the schools belongs to one group"},
         {icc, "pnlModel(3)", "The model refers to the sampling frame for Schools. It is random, as always"},
@@ -275,7 +276,7 @@ TEST_F(DetailsWindow, TellsValuesOfALevelAndWhatFollows) {
         {risks, "pnlMRange(2)",
          "The span of risks is the width that holds nearly all risks of classes: four standard deviations, "
          "two to each side of the middle. It is assumed to be 0.20."},
-        {risks, "pnlMRange(2)", "The risks of classes lie, from 0.300 to 0.500 in the usual group."},
+        {risks, "pnlMRange(2)", "The risks of classes lie from 0.300 to 0.500 in the usual group."},
         {risks, "pnlICC(2)", "For a risk difference this is the ICC of the usual group."},
         {risks, "pnlICC(1)", "Each of the pupils has the event or does not have it"},
         {limits, "pnlMRange(2)", "It is the distance of the limits that were entered, 0.100."},

@@ -148,7 +148,7 @@ TEST_F(PanelContent, FieldsActLikeThoseOfTheStudyScreen) {
 TEST_F(PanelContent, DetailsCloseThemselvesWhereTheyFloat) {
     tool("gfrmDetails");
     dock("frmDetails").setFloating(true);
-    desk.click("pnlCostT(1)");
+    desk.click("pnlNT(4)");
     settle();
     ToolPanel& details = panel("frmDetails");
     auto* close = details.findChild<PushButton*>();
