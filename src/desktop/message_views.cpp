@@ -17,6 +17,7 @@
 #include "desktop/kit/theme.h"
 #include "desktop/kit/wrapped_label.h"
 #include "desktop/kit/zoom.h"
+#include "desktop/shown_paragraphs.h"
 
 namespace lorvane::desktop {
 
@@ -218,7 +219,7 @@ void DetailsView::sync() {
     const Details& details = desk_.application().details();
     syncTabs();
     title_->setText(shownText(details.title().Caption));
-    paragraphs_->setParagraphs(shownText(details.text().Caption));
+    paragraphs_->setParagraphs(shownParagraphs(details.paragraphs()));
     paragraphs_->setAccessibleName(title_->text());
     hint_->setText(shownText(details.hint().Caption));
     close_->setText(shownText(details.closeButton().Caption));

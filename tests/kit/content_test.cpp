@@ -2,6 +2,7 @@
 // window.
 #include <QCloseEvent>
 #include <QLabel>
+#include <QTextCursor>
 #include <QVBoxLayout>
 #include <QWindow>
 #include <functional>
@@ -16,6 +17,7 @@
 #include "desktop/kit/message_card.h"
 #include "desktop/kit/number_label.h"
 #include "desktop/kit/outline_overlay.h"
+#include "desktop/kit/paragraph_view.h"
 #include "desktop/kit/push_button.h"
 #include "desktop/kit/share_rows.h"
 #include "desktop/kit/span_plot.h"
@@ -387,6 +389,21 @@ TEST_F(Content, APanelIsAsLargeAsItsContent) {
         settle();
         EXPECT_EQ(panel.size(), label->sizeHint() + QSize(44, 44)) << text;
     }
+}
+
+TEST_F(Content, ParagraphsAreStrongWhereTheyAreSaidToBeAndNeverRead) {
+    ParagraphView view(&window);
+    view.setParagraphs({{{QStringLiteral("an <b>ICC</b> of ")}, {QStringLiteral("0.10"), true}},
+                        {{QStringLiteral("**next**")}}});
+    EXPECT_EQ(view.toPlainText(), QStringLiteral("an <b>ICC</b> of 0.10\n**next**"));
+    const auto isStrongAt = [&](int place) {
+        QTextCursor cursor(view.document());
+        cursor.setPosition(place);
+        return cursor.charFormat().fontWeight() > QFont::Normal;
+    };
+    EXPECT_TRUE(isStrongAt(21));
+    EXPECT_FALSE(isStrongAt(5) || isStrongAt(26));
+    EXPECT_EQ(view.textCursor().position(), 0);
 }
 
 }  // namespace

@@ -30,11 +30,22 @@ ParagraphView::ParagraphView(QWidget* parent) : QTextEdit(parent) {
     setTextStyle(*this, TextStyle::Body);
 }
 
-void ParagraphView::setParagraphs(const QString& text) {
-    if (text == text_)
+void ParagraphView::setParagraphs(const QList<ShownParagraph>& paragraphs) {
+    if (paragraphs == paragraphs_)
         return;
-    text_ = text;
-    setPlainText(QString(text).replace(QStringLiteral("\n\n"), QStringLiteral("\n")));
+    paragraphs_ = paragraphs;
+    clear();
+    QTextCursor cursor(document());
+    for (const ShownParagraph& paragraph : paragraphs_) {
+        if (cursor.position() > 0)
+            cursor.insertBlock();
+        for (const ShownRun& run : paragraph) {
+            QTextCharFormat look;
+            look.setFontWeight(run.strong ? QFont::DemiBold : QFont::Normal);
+            cursor.insertText(run.text, look);
+        }
+    }
+    moveCursor(QTextCursor::Start);
     setDistances();
 }
 

@@ -2,9 +2,19 @@
 // nothing of what they say.
 #pragma once
 
+#include <QList>
 #include <QTextEdit>
 
 namespace lorvane::desktop {
+
+/// Letters of one look.
+struct ShownRun {
+    QString text;
+    bool strong = false;
+
+    friend bool operator==(const ShownRun&, const ShownRun&) = default;
+};
+using ShownParagraph = QList<ShownRun>;
 
 /// Takes any size. Tab leaves it; the text is plain whatever it looks like.
 class ParagraphView : public QTextEdit {
@@ -13,8 +23,8 @@ class ParagraphView : public QTextEdit {
 public:
     explicit ParagraphView(QWidget* parent = nullptr);
 
-    /// The paragraphs, with an empty line between two. The same text again keeps selection and place.
-    void setParagraphs(const QString& text);
+    /// Shows the paragraphs with their strong parts. The same ones again keep selection and place.
+    void setParagraphs(const QList<ShownParagraph>& paragraphs);
 
     QSize sizeHint() const override;
     QSize minimumSizeHint() const override;
@@ -27,7 +37,7 @@ protected:
 private:
     void setDistances();
 
-    QString text_;
+    QList<ShownParagraph> paragraphs_;
 };
 
 }  // namespace lorvane::desktop
