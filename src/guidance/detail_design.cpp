@@ -12,6 +12,18 @@ constexpr Sentence roles[] = {
     {blocked, "{Level} are blocked: each of them includes both groups."},
     {nested, "{Level} are nested: each of them belongs to one group with its {above}."}};
 
+constexpr Sentence unitsOfTreated[] = {
+    {blocked | top, "The study will include **{NB}** {level}."},
+    {blocked | belowTop, "Each of the {above} will include **{NB}** {level}."},
+    {notBlocked | top, "The study will include **{NT}** {level} in the {Treated} group."},
+    {notBlocked | belowTop, "Each of the {above} will include **{NT}** {level} in the {Treated} group."}};
+
+constexpr Sentence unitsOfControl[] = {
+    {notBlocked | top, "The study will include **{NC}** {level} in the {Control} group."},
+    {notBlocked | belowTop, "Each of the {above} will include **{NC}** {level} in the {Control} group."}};
+
+constexpr Sentence betweenGroups[] = {{notBlocked, " "}};
+
 constexpr Sentence unitsInAll[] = {{unitsToTell, "In all, the study includes {units}."}};
 
 }  // namespace
@@ -64,9 +76,11 @@ const DetailSubject& unitDetails() {
     static const DetailSubject subject{
         DetailTabs::all,
         {{always, "Number of units"}},
-        {{Levels::fromTop, together({sampleSizes()})}, {Levels::none, together({unitsInAll})}},
+        {{Levels::fromTop, together({unitsOfTreated, betweenGroups, unitsOfControl})},
+         {Levels::none, together({unitsInAll})}},
         {{always, "Number of {level}"}},
-        {together({sampleSizes()}),
+        {together({unitsOfTreated}),
+         together({unitsOfControl}),
          together({unitsInAll}),
          {{randomized | top,
            "Power rises with the number of {level} above all, since they are the units that "

@@ -33,11 +33,6 @@ const ReportSection& designSection() {
 }
 
 const ReportSection& sampleSizeSection() {
-    static constexpr Sentence roles[] = {
-        {nested, "{Level} are nested within {above}. "},
-        {randomized, "{Level} are randomized to either of the two conditions. "},
-        {blocked, "{Level} are blocked (stratified or matched), which means that each of the {level} will "
-                  "incorporate {name 1} from both conditions. "}};
     static const ReportSection section{
         {{always, "Sample size"}},
         {{Levels::none, "", {{always, "The number of units at each level is as follows: \n"}}},
@@ -45,7 +40,22 @@ const ReportSection& sampleSizeSection() {
           "\n",
           {{blocked, "{Level} {NB} (Blocked)"},
            {notBlocked, "{Level} {NT} ({Treated}) + {NC} ({Control})"}}}},
-        {{Levels::fromTop, "\n", together({roles, sampleSizes()})}}};
+        {{Levels::fromTop,
+          "\n",
+          {{nested, "{Level} are nested within {above}. "},
+           {randomized, "{Level} are randomized to either of the two conditions. "},
+           {blocked, "{Level} are blocked (stratified or matched), which means that each of the {level} will "
+                     "incorporate {name 1} from both conditions. "},
+           {top | blocked, "The study will include {NB} {level}. "},
+           {belowTop | blocked, "Each of the {above} will include {NB} {level}. "},
+           {top | notBlocked, "The study will include {NT} {level} assigned to {treated}, and {NC} {level} "
+                              "assigned to {control}. "},
+           {notBlocked | inBlocks,
+            "Each of the {above} will include {NT} {level} assigned to {treated}, and {NC} {level} assigned "
+            "to {control}. "},
+           {notBlocked | inGroups,
+            "Each of the {above} assigned to {treated} will include {NT} {level}, and each of the {above} "
+            "assigned to {control} will include {NC} {level}. "}}}}};
     return section;
 }
 

@@ -5,22 +5,6 @@ namespace lorvane {
 
 using namespace cases;
 
-std::span<const Sentence> sampleSizes() {
-    static constexpr Sentence sentences[] = {
-        {top | blocked, "The study will include **{NB}** {level}. "},
-        {belowTop | blocked, "Each of the {above} will include **{NB}** {level}. "},
-        {top | notBlocked,
-         "The study will include **{NT}** {level} assigned to {treated}, and **{NC}** {level} "
-         "assigned to {control}. "},
-        {notBlocked | inBlocks, "Each of the {above} will include **{NT}** {level} assigned to {treated}, "
-                                "and **{NC}** {level} assigned "
-                                "to {control}. "},
-        {notBlocked | inGroups,
-         "Each of the {above} assigned to {treated} will include **{NT}** {level}, and each of the {above} "
-         "assigned to {control} will include **{NC}** {level}. "}};
-    return sentences;
-}
-
 std::span<const Sentence> covariateCounts() {
     static constexpr Sentence sentences[] = {
         {oneCovariate, "The study will include **{Q}** covariate at the {level}-level, with an R-squared of "

@@ -7,9 +7,6 @@
 
 namespace lorvane {
 
-/// How many units of the level the study will include.
-std::span<const Sentence> sampleSizes();
-
 /// The covariates of a level that has some, with their R-squared.
 std::span<const Sentence> covariateCounts();
 

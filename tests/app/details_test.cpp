@@ -126,15 +126,11 @@ TEST_F(DetailsWindow, TabsNameTheLevelsFromTheTopAndLeadToThem) {
     // 6 x 4 x 10 + 7 x 5 x 10 pupils.
     EXPECT_TRUE(says("In all, the study includes 13 schools, 59 classes, 590 pupils.")) << words();
     EXPECT_EQ(after("frmDetails.tabDetails(2)"), "Number of classes");
-    EXPECT_TRUE(
-        says("Each of the schools assigned to coached will include 4 classes, and each of the schools "
-             "assigned to usual will include 5 classes."))
-        << words();
+    EXPECT_TRUE(says("Each of the schools will include 4 classes in the Coached group.")) << words();
+    EXPECT_TRUE(says("Each of the schools will include 5 classes in the Usual group."));
     EXPECT_FALSE(says("Click on a specific row"));
     EXPECT_EQ(after("frmDetails.tabDetails(3)"), "Number of schools");
-    EXPECT_TRUE(
-        says("The study will include 6 schools assigned to coached, and 7 schools assigned to usual."))
-        << words();
+    EXPECT_TRUE(says("The study will include 6 schools in the Coached group.")) << words();
 }
 
 TEST_F(DetailsWindow, FollowsTheStudyAndFallsBackWhenItsLevelGoes) {
@@ -142,7 +138,7 @@ TEST_F(DetailsWindow, FollowsTheStudyAndFallsBackWhenItsLevelGoes) {
     app.click("pnlNT(3)");
     app.set(Values{{"txtNT(3)", 9.0}, {"txtName(3)", std::string("Wards")}});
     EXPECT_EQ(title(), "Number of wards");
-    EXPECT_TRUE(says("The study will include 9 wards assigned to coached, ")) << words();
+    EXPECT_TRUE(says("The study will include 9 wards in the Coached group.")) << words();
     app.tool("Remove a level");
     EXPECT_TRUE(app.details().isAtRest());
     EXPECT_EQ(title() + words(), "");
