@@ -29,7 +29,7 @@ constexpr DockRow rows[] = {
     {"frmDisplayICC", "ICC", false, 400},     {"frmDisplayTauSq", "Effects", false, 400},
     {"frmCounts", "Counts", false, 400},      {"frmMDES", "MDES", false, 600},
     {"frmScenarios", "Scenarios", true, 780}, {"frmDetails", "Details", true, 440},
-    {"frmTips", "Guide", true, 340}};
+    {"frmTips", "Guide", true, 340, true}};
 
 constexpr int usualWidth = 400, smallestWidth = 360, largestWidth = 480;
 constexpr int separator = 1;
@@ -153,19 +153,34 @@ void Docks::placeFloating(Entry& entry) {
 void Docks::sizeFloating(Entry& entry) {
     PanelDock& dock = *entry.dock;
     lorvane::desktop::setZoom(dock, 1);
-    setLimits(dock, QSize(smallestWidth, 0), QSize(QWIDGETSIZE_MAX, QWIDGETSIZE_MAX));
+    setLimits(dock, QSize(std::min(smallestWidth, entry.row->floatingWidth), 0),
+              QSize(QWIDGETSIZE_MAX, QWIDGETSIZE_MAX));
     const int width = entry.row->floatingWidth;
     const int own = dock.heightFor(width);
-    dock.resize(width, entry.row->takesRest ? std::max(own, floatingHeight) : own);
+    const bool fits = !entry.row->takesRest || entry.row->growsToText;
+    dock.resize(width, fits ? own : std::max(own, floatingHeight));
 }
 
 // The content of a floating panel has grown or shrunk.
 void Docks::fitFloating() {
     for (Entry& entry : entries_) {
         PanelDock& dock = *entry.dock;
-        if (dock.isVisible() && dock.isFloating() && !entry.row->takesRest)
-            dock.resize(dock.width(), dock.heightFor(dock.width()));
+        if (!dock.isVisible() || !dock.isFloating())
+            continue;
+        const int own = dock.heightFor(dock.width());
+        if (!entry.row->takesRest)
+            dock.resize(dock.width(), own);
+        else if (entry.row->growsToText)
+            growTo(dock, own);
     }
+}
+
+// Its buttons stay where they are while the text gets shorter. On a low screen it moves up.
+void Docks::growTo(PanelDock& dock, int height) {
+    const QRect room = dock.screen()->availableGeometry();
+    dock.resize(dock.width(), std::min(std::max(dock.height(), height), room.height()));
+    if (const int over = dock.frameGeometry().bottom() - room.bottom(); over > 0)
+        dock.move(dock.x(), std::max(room.top(), dock.y() - over));
 }
 
 // A drag ends after the signal; only then may the docks move.

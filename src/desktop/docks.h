@@ -20,10 +20,11 @@ class PanelDock;
 
 /// A panel that docks.
 struct DockRow {
-    std::string_view window;  ///< name of the window, "frmMDES"
-    const char* shortName;    ///< on a tab
-    bool takesRest;           ///< it has no height of its own
-    int floatingWidth;        ///< pixels at 100 %
+    std::string_view window;   ///< name of the window, "frmMDES"
+    const char* shortName;     ///< on a tab
+    bool takesRest;            ///< it has no height of its own
+    int floatingWidth;         ///< pixels at 100 %
+    bool growsToText = false;  ///< floating, it is as high as its text needs, and never lower again
 };
 
 /// The row of a window; null for one that always floats.
@@ -77,6 +78,7 @@ private:
     void placeFloating(Entry& entry);
     void sizeFloating(Entry& entry);
     void fitFloating();
+    static void growTo(PanelDock& dock, int height);
     void movedByUser(Entry& entry, bool floats);
     bool makeRoom(const Entry& newcomer, int leastMiddle);
     void giveRoomBack();

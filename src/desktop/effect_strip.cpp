@@ -75,6 +75,9 @@ EffectStrip::EffectStrip(Desk& desk, Menus& menus, QWidget* parent)
     otherForm_ = &addField(otherFormValue_ = makeNumber(), 0);
     derived_ = &addField(derivedValue_ = makeNumber(), 0);
     alpha_ = new MenuButton(QString(), this);
+    otherFormValue_->setObjectName(QStringLiteral("pnlOther"));
+    derivedValue_->setObjectName(QStringLiteral("pnlDerived"));
+    alpha_->setObjectName(QStringLiteral("pnlAlphaTails"));
     alpha_->setMenu(menus.menu("popAlpha"));
     alphaField_ = &addField(alpha_, 0);
     sync();
@@ -263,6 +266,12 @@ ValueCell* EffectStrip::firstCell() const {
     const auto shown = std::find_if(cells_.begin(), cells_.end(),
                                     [](const auto& cell) { return !cell->widget()->isHidden(); });
     return shown == cells_.end() ? nullptr : (*shown)->widget();
+}
+
+QWidget* EffectStrip::captionOf(const QWidget* widget) const {
+    const auto field = std::find_if(fields_.begin(), fields_.end(),
+                                    [&](const Field& entry) { return entry.widget == widget; });
+    return field == fields_.end() ? nullptr : field->caption;
 }
 
 ValueCell* EffectStrip::cell(const std::string& panel) const {

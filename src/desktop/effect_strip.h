@@ -36,6 +36,9 @@ public:
     /// The cell of a panel's name; null when it is not on the strip.
     ValueCell* cell(const std::string& panel) const;
 
+    /// The caption over a cell or a number of the strip; null for a widget of another place.
+    QWidget* captionOf(const QWidget* widget) const;
+
     /// The first of the cells that are shown.
     ValueCell* firstCell() const;
 

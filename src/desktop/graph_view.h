@@ -30,6 +30,9 @@ public:
     bool isOpen() const override;
     void sync() override;
 
+    /// Its menus, for the guide of the graph.
+    Menus& menus() { return *menus_; }
+
 protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
 

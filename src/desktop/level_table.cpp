@@ -120,6 +120,7 @@ bool LevelTable::eventFilter(QObject* watched, QEvent* event) {
 
 void LevelTable::addLevel(Menus& menus, int level) {
     names_(level) = new LevelName(this);
+    names_(level)->setObjectName(QString::fromStdString(indexedName("pnlName", level)));
     names_(level)->installEventFilter(this);
     names_(level)->setContextMenuPolicy(Qt::CustomContextMenu);
     connect(names_(level), &QWidget::customContextMenuRequested, this,
@@ -280,6 +281,13 @@ void LevelTable::scrollTo(int position) {
         return;
     shift_ = shift;
     placeAll();
+}
+
+void LevelTable::reveal(const std::string& panel) {
+    for (const auto& cell : cells_) {
+        if (cell->panel() == panel)
+            bringInSight(*cell);
+    }
 }
 
 void LevelTable::bringInSight(const CellBinding& cell) {

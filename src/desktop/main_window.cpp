@@ -100,7 +100,9 @@ void MainWindow::addBars() {
 
 void MainWindow::addTitle(QVBoxLayout* column) {
     title_ = textLabel(TextStyle::Title);
+    title_->setObjectName(QStringLiteral("pnlTitle"));
     sense_ = textLabel(TextStyle::Body);
+    sense_->setObjectName(QStringLiteral("pnlSense"));
     sense_->setProperty("second", true);
     titles_ = new QWidget;
     auto* block = new QVBoxLayout(titles_);
@@ -304,6 +306,24 @@ QWidget* MainWindow::cell(const std::string& panel) const {
     if (QWidget* found = table_->cell(panel))
         return found;
     return strip_->cell(panel);
+}
+
+QList<QWidget*> MainWindow::control(const std::string& name) const {
+    QWidget* found = cell(name);
+    if (found == nullptr)
+        found = findChild<QWidget*>(QString::fromStdString(name));
+    if (found == nullptr)
+        return {};
+    QWidget* caption = strip_->captionOf(found);
+    return caption == nullptr ? QList<QWidget*>{found} : QList<QWidget*>{found, caption};
+}
+
+void MainWindow::reveal(const std::vector<std::string>& cells) {
+    if (cells.empty())
+        return;
+    table_->reveal(cells.front());
+    for (QWidget* part : control(cells.front()))
+        keepInSight(part);
 }
 
 // Docks take room from the middle while the window keeps its size.

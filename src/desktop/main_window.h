@@ -34,6 +34,13 @@ public:
     /// The cell of a panel's name, for panels and tests; null when there is none.
     QWidget* cell(const std::string& panel) const;
 
+    /// What stands on the screen under the name of a control, with its caption; cells and the windows that
+    /// accompany this one included. Empty when there is nothing.
+    QList<QWidget*> control(const std::string& name) const;
+
+    /// Scrolls the first of these cells into sight.
+    void reveal(const std::vector<std::string>& cells);
+
     /// How many times larger than at 100 % the middle is shown.
     double zoom() const { return zoom_; }
 

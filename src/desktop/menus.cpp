@@ -282,6 +282,7 @@ void Menus::fill(QMenuBar* bar) {
 
 void Menus::addPowerButton(QToolBar* bar) {
     power_ = new MenuButton(shownText(desk_.application().commands().find(powerTool)->Caption), bar);
+    power_->setObjectName(QStringLiteral("tool:") + QString::fromLatin1(powerTool));
     power_->setSign(Icon::Target);
     power_->setMenu(menu(powerBand));
     power_->setAccessibleName(tr("Required power"));
@@ -306,6 +307,7 @@ ToolButton* Menus::button(const std::string& tool, QWidget* parent) {
     const bool withWord = desk_.application().commands().find(tool)->withWord;
     auto* button =
         new ToolButton(action(tool), withWord ? ToolButton::Words::Beside : ToolButton::Words::None, parent);
+    button->setObjectName(QStringLiteral("tool:") + QString::fromStdString(tool));
     button->setFocusPolicy(Qt::TabFocus);
     return button;
 }

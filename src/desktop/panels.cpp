@@ -6,6 +6,7 @@
 #include "desktop/dispersion_views.h"
 #include "desktop/graph_table_view.h"
 #include "desktop/graph_view.h"
+#include "desktop/guide_view.h"
 #include "desktop/keyboard_view.h"
 #include "desktop/limits_view.h"
 #include "desktop/main_window.h"
@@ -39,7 +40,7 @@ Panels::Panels(Desk& desk, MainWindow& window)
     : desk_(desk), window_(window), docks_(window), floating_{FloatingStage(window, FirstPlace::centre),
                                                               FloatingStage(window, FirstPlace::besideCell),
                                                               FloatingStage(window, FirstPlace::clearSight)},
-      ring_(window) {
+      ring_(window), pointer_(desk, window) {
     addStudyPanels();
     addScreens();
     addDialogs();
@@ -62,6 +63,7 @@ void Panels::addStudyPanels() {
     add<MdesView>(clearSight);
     add<ScenarioView>(clearSight);
     add<DetailsView>(clearSight);
+    add<GuideView>(clearSight, window_.menus());
     add<OptimalView>(clearSight, window_.menus());
 }
 
@@ -72,6 +74,7 @@ void Panels::addScreens() {
     add<TableView>(centre, dialogs.spreadTauSq(), desk_.design().spreadTauSq());
     add<StartView>(centre);
     add<GraphView>(centre);
+    add<GraphGuideView>(clearSight, static_cast<GraphView&>(*views_.back()).menus());
     add<GraphTableView>(clearSight);
     add<ReportViewer>(centre);
     add<AboutView>(centre);

@@ -7,6 +7,7 @@
 #include "desktop/docks.h"
 #include "desktop/floating_stage.h"
 #include "desktop/focus_ring.h"
+#include "desktop/guide_pointer.h"
 #include "desktop/panel_view.h"
 
 namespace lorvane::desktop {
@@ -43,6 +44,7 @@ private:
     FloatingStage floating_[3];  ///< by FirstPlace
     FocusRing ring_;
     std::vector<std::unique_ptr<PanelView>> views_;
+    GuidePointer pointer_;
 };
 
 }  // namespace lorvane::desktop

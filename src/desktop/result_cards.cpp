@@ -23,6 +23,8 @@ ResultCards::ResultCards(Desk& desk, QWidget* parent)
     auto* row = new QHBoxLayout(this);
     row->setContentsMargins(0, 0, 0, 0);
     row->setSpacing(cardGap);
+    power_->setObjectName(QStringLiteral("pnlPower"));
+    cost_->setObjectName(QStringLiteral("pnlCost"));
     row->addWidget(power_, 1);
     row->addWidget(cost_, 1);
     power_->setBelow(plot_);

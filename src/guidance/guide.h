@@ -110,7 +110,7 @@ private:
     Button cmdPDF_{"Manual"};
     Button cmdVideo_{"Film"};
     Button cmdDetails_{"Details"};
-    Button cmdMenu_{"Show the menu"};
+    Button cmdMenu_{"Menu"};
     IndexedArray<Option, 1, 2> optdatatype_;
     IndexedArray<Option, 1, 2> optDType_;
     IndexedArray<Option, 1, 3> optBinaryType_;

@@ -30,6 +30,10 @@ const Group groups[] = {
     {"pnlMean", "pnlMean", "colES", {"pnlMean", "pnlSD"}},
 };
 
+// The buttons of the wizard by what they do.
+constexpr const char* computeButton = "frmOptimal.cmdOpt(2)";
+constexpr const char* pasteButton = "frmOptimal.cmdOpt(3)";
+
 void addCells(const MainScreen& screen, std::string_view stem, std::vector<std::string>& around) {
     const auto cells = std::find_if(screen.fields.begin(), screen.fields.end(),
                                     [&](const FieldCells& row) { return row.field->cell.stem == stem; });
@@ -55,9 +59,23 @@ GuideTarget derivedTarget(const MainScreen& screen) {
     return {name, "colES", {name}};
 }
 
+// The options of the wizard, a row a level below the top.
+GuideTarget wizardTarget(const MainScreen& screen) {
+    GuideTarget target{"frmOptimal.optAuto(1)", "", {}};
+    for (int level = lowestLevel; level < highestLevel && screen.BpnlLevel(level + 1).Visible; ++level) {
+        for (const char* option : {"frmOptimal.optAuto", "frmOptimal.optManual"})
+            target.around.push_back(indexedName(option, level));
+    }
+    return target;
+}
+
 }  // namespace
 
 GuideTarget targetOf(std::string_view name, const MainScreen& screen) {
+    if (name == "pnlSense")
+        return {"pnlSense", "", {"pnlSense", "pnlTitle"}};
+    if (name == "frmOptimal.levels")
+        return wizardTarget(screen);
     if (name == "pnlOther")
         return derivedTarget(screen);
     if (name == "colLevels" || name == "colBlocked")
@@ -74,6 +92,11 @@ GuideTarget targetOf(std::string_view name, const MainScreen& screen) {
     }
     if (name.empty())
         return {};
+    // There is nothing to paste before the wizard has computed.
+    if (name == "frmOptimal.cmdPaste")
+        return {pasteButton, "", {pasteButton, computeButton}};
+    if (name == "frmOptimal.cmdCompute")
+        return {computeButton, "", {computeButton}};
     return {std::string(name), "", {std::string(name)}};
 }
 

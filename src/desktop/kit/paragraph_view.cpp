@@ -3,6 +3,8 @@
 
 #include <QEvent>
 #include <QTextCursor>
+#include <QtMath>
+#include <memory>
 
 #include "desktop/kit/text_style.h"
 #include "desktop/kit/zoom.h"
@@ -45,8 +47,10 @@ void ParagraphView::setParagraphs(const QList<ShownParagraph>& paragraphs) {
             cursor.insertText(run.text, look);
         }
     }
-    moveCursor(QTextCursor::Start);
     setDistances();
+    moveCursor(QTextCursor::Start);
+    updateGeometry();
+    chooseBar();
 }
 
 void ParagraphView::setDistances() {
@@ -56,6 +60,31 @@ void ParagraphView::setDistances() {
     format.setLineHeight(LineHeight, QTextBlockFormat::ProportionalHeight);
     format.setBottomMargin(zoomed(*this, Gap));
     all.mergeBlockFormat(format);
+}
+
+void ParagraphView::setFitted() {
+    QSizePolicy policy(QSizePolicy::Preferred, QSizePolicy::Preferred);
+    policy.setHeightForWidth(true);
+    setSizePolicy(policy);
+}
+
+// A bar that is there while the text has room takes so much width that the text needs it.
+void ParagraphView::chooseBar() {
+    if (sizePolicy().hasHeightForWidth())
+        setVerticalScrollBarPolicy(height() >= heightForWidth(width()) ? Qt::ScrollBarAlwaysOff
+                                                                       : Qt::ScrollBarAsNeeded);
+}
+
+void ParagraphView::resizeEvent(QResizeEvent* event) {
+    chooseBar();
+    QTextEdit::resizeEvent(event);
+}
+
+// Measured on a copy, since the document on the screen has the width of the screen.
+int ParagraphView::heightForWidth(int width) const {
+    const std::unique_ptr<QTextDocument> copy(document()->clone());
+    copy->setTextWidth(width);
+    return qCeil(copy->size().height());
 }
 
 QSize ParagraphView::sizeHint() const {

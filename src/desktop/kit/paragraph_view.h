@@ -26,16 +26,22 @@ public:
     /// Shows the paragraphs with their strong parts. The same ones again keep selection and place.
     void setParagraphs(const QList<ShownParagraph>& paragraphs);
 
+    /// From now on it asks for the height of its text; less is scrolled.
+    void setFitted();
+
     QSize sizeHint() const override;
     QSize minimumSizeHint() const override;
+    int heightForWidth(int width) const override;
 
 protected:
     /// Nothing is read from outside, whatever the text names.
     QVariant loadResource(int, const QUrl&) override { return {}; }
     void changeEvent(QEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
 
 private:
     void setDistances();
+    void chooseBar();
 
     QList<ShownParagraph> paragraphs_;
 };

@@ -83,6 +83,21 @@ QTabBar[docks="true"] { background: @card; }
 QTabBar[docks="true"]::tab { padding: 0 2px; margin: 0 0 0 18px; height: 30px; }
 QToolButton[sign="true"] { padding: 0; margin: 0; border-radius: 6px; }
 
+QWidget[guidePaper="true"] { background: @guidePaper; }
+QWidget[guidePaper="true"] QLabel { color: @guideText; }
+QWidget[guidePaper="true"] QTextEdit { background: transparent; color: @guideText; border: none; }
+QWidget[guidePaper="true"] QRadioButton { color: @guideText; background: transparent; }
+QWidget[guidePaper="true"] QPushButton { background: transparent; color: @guideText; min-width: 40px;
+              border: 1px solid @guideLine; padding: 0 8px; }
+QWidget[guidePaper="true"] QPushButton:hover, QWidget[guidePaper="true"] QPushButton:pressed {
+              background: @guideLine; }
+QWidget[guidePaper="true"] QPushButton:focus { border: 2px solid @guideText; padding: 0 7px; }
+QWidget[guidePaper="true"] QPushButton:disabled { color: @guideQuiet; }
+QWidget[guidePaper="true"] QPushButton[primary="true"] { background: @guideText; color: @guidePaper;
+              border: 1px solid @guideText; }
+QWidget[guidePaper="true"] QPushButton[primary="true"]:disabled { background: @guideLine; color: @guideQuiet;
+              border-color: @guideLine; }
+
 QHeaderView, QTableCornerButton::section { background: @card; border: none; }
 QHeaderView::section { background: transparent; color: @secondText; border: none;
                        border-bottom: 1px solid @line; padding: 6px 10px; font-size: 9pt; font-weight: 500; }
@@ -108,6 +123,10 @@ constexpr Name Names[] = {
     {"@bar", Role::Bar},
     {"@card", Role::Card},
     {"@field", Role::Field},
+    {"@guideLine", Role::GuideLine},
+    {"@guidePaper", Role::GuidePaper},
+    {"@guideQuiet", Role::GuideQuiet},
+    {"@guideText", Role::GuideText},
     {"@line", Role::Line},
     {"@onAccent", Role::OnAccent},
     {"@page", Role::Page},

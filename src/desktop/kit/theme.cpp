@@ -52,6 +52,7 @@ constexpr std::array<Values, RoleCount> Table = {{
     {0xFFFAFABE, 0xFFFAFABE, QPalette::Base},             // GuidePaper
     {0xFF000064, 0xFF000064, QPalette::Text},             // GuideText
     {0xFFDADA96, 0xFFDADA96, QPalette::WindowText},       // GuideLine
+    {0xFF6E6E50, 0xFF6E6E50, QPalette::Text},             // GuideQuiet
     {0xFFFFFFD2, 0xFFFFFFD2, QPalette::Base},             // DetailsRest
     {0xFF2A2A22, 0xFF2A2A22, QPalette::Text},             // DetailsRestText
     {0xFF2F3FA6, 0xFF9AA9FF, QPalette::WindowText},       // GraphLine1

@@ -45,6 +45,7 @@ enum class Role {
     GuidePaper,
     GuideText,
     GuideLine,
+    GuideQuiet,
     DetailsRest,  ///< ground and text of the details while they are at rest
     DetailsRestText,
     GraphLine1,
