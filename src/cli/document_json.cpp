@@ -19,6 +19,7 @@ public:
     void operator()(const step::FontBold& weight) { all.push_back({"FontBold", weight.on}); }
     void operator()(const step::Paragraph& paragraph) { all.push_back({"Paragraph", paragraph.text}); }
     void operator()(const step::Text& text) { all.push_back({"Text", text.text}); }
+    void operator()(const DocumentPicture& picture) { all.push_back({"Picture", picture.caption}); }
     void operator()(const step::NewPage&) { send("NewPage"); }
     void operator()(const step::EndDoc&) { send("EndDoc"); }
 

@@ -34,6 +34,22 @@ struct DocumentTable {
     std::size_t headRows = 0;  ///< how many of the rows are heads
 };
 
+/// A picture that stays on one page with its caption.
+struct DocumentPicture {
+    std::string png;           ///< the bytes of a picture file
+    double width = 0;          ///< inches; it gets smaller where text or page have no room for it
+    std::string caption = {};  ///< stands below
+};
+
+/// A stretch of a paragraph that differs from the rest.
+struct TextSpan {
+    std::size_t from = 0;  ///< bytes from the start of the text
+    std::size_t length = 0;
+    bool bold = false;
+    bool equalWidth = false;  ///< its letters are equally wide
+    std::string link = {};    ///< a web address, or "#" and the text of a heading of the document
+};
+
 /// One thing that is sent to a document.
 namespace step {
 
@@ -47,6 +63,10 @@ struct FontBold {
 /// Lines of text parted by "\n"; the next thing begins below it. A bold one is a heading.
 struct Paragraph {
     std::string text;
+    double indent = 0;        ///< inches from the left margin
+    std::string mark = {};    ///< of an item, as "1."; it hangs at the left of the text
+    bool equalWidth = false;  ///< its letters are equally wide
+    std::vector<TextSpan> spans = {};
 };
 /// Text without a paragraph. Documents have "\n" here, an empty line of the size that holds; it is as high as
 /// the letters after a text, and half of that below a heading.
@@ -61,11 +81,14 @@ struct EndDoc {};
 /// A heading of this size or more heads a part of the document; the others head sections of a part.
 inline constexpr double partPoints = 14;
 
+/// Inches by which the mark of an item stands left of its text.
+inline constexpr double markWidth = 0.25;
+
 /// Points between a table and a text that follows it without an empty line.
 inline constexpr double noteGap = 4;
 
 using DocumentStep = std::variant<step::FontSize, step::FontBold, step::Paragraph, step::Text, DocumentTable,
-                                  step::NewPage, step::EndDoc>;
+                                  DocumentPicture, step::NewPage, step::EndDoc>;
 
 /// Lengths are in inches. The right margin equals the left one.
 struct PageSetup {
@@ -119,7 +142,8 @@ public:
 
     virtual std::unique_ptr<DocumentSurface> start(const PageSetup& page) = 0;
 
-    /// The bytes of a PDF file with the fonts in it and a bookmark for every heading.
+    /// The bytes of a PDF file with the fonts in it and a bookmark for every heading; its links can be
+    /// followed.
     virtual std::string pdf(const Document& document) = 0;
 
     /// A page, counted from 1, as the bytes of a PNG picture.

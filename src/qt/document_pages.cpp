@@ -5,6 +5,7 @@
 #include <algorithm>
 #include <cmath>
 #include <iterator>
+#include <utility>
 
 namespace lorvane {
 
@@ -74,9 +75,23 @@ void DocumentPages::take(const step::Paragraph& paragraph) {
     if (belowTable_)
         y_ += noteGap * twipsPerPoint;
     belowTable_ = false;
-    const TextLook look{.points = points_, .bold = bold_};
-    const auto text =
-        std::make_shared<const DocumentText>(paragraph.text, fonts_, look, inTwips(setup_.textWidth()));
+    const TextLook look{.points = points_, .bold = bold_, .equalWidth = paragraph.equalWidth};
+    const double width = inTwips(setup_.textWidth() - paragraph.indent);
+    putText(std::make_shared<const DocumentText>(paragraph.text, fonts_, look, width, paragraph.spans),
+            paragraph);
+    belowHeading_ = bold_;
+}
+
+std::shared_ptr<const DocumentText> DocumentPages::markOf(const step::Paragraph& paragraph) const {
+    if (paragraph.mark.empty())
+        return nullptr;
+    return std::make_shared<const DocumentText>(paragraph.mark, fonts_, TextLook{points_},
+                                                inTwips(markWidth));
+}
+
+void DocumentPages::putText(const std::shared_ptr<const DocumentText>& text,
+                            const step::Paragraph& paragraph) {
+    auto mark = markOf(paragraph);
     for (int from = 0; from < text->lines();) {
         if (pages_.back().empty())
             from = text->firstFilled(from);
@@ -89,13 +104,17 @@ void DocumentPages::take(const step::Paragraph& paragraph) {
                 putHeading(text);
             else
                 waiting_.reset();
-            put({.text = text, .from = from, .end = end}, (end - from) * text->lineHeight());
+            put({.left = inTwips(paragraph.indent),
+                 .text = text,
+                 .from = from,
+                 .end = end,
+                 .mark = std::exchange(mark, nullptr)},
+                (end - from) * text->lineHeight());
         }
         from = end;
         if (from < text->lines())
             beginPage();
     }
-    belowHeading_ = bold_;
 }
 
 void DocumentPages::putHeading(const std::shared_ptr<const DocumentText>& text) {
@@ -115,12 +134,36 @@ void DocumentPages::take(const step::Text& text) {
 
 void DocumentPages::take(const DocumentTable& table) {
     const auto layout = std::make_shared<const DocumentTableLayout>(layoutOf(table));
-    if (!fits(layout->height()) && !holdsOnlyHeadings())
+    putWhole({.table = layout}, layout->height());
+}
+
+// Its caption stays with it, so both are placed as one.
+void DocumentPages::take(const DocumentPicture& picture) {
+    const auto* bytes = reinterpret_cast<const uchar*>(picture.png.data());
+    const QImage image = QImage::fromData(bytes, static_cast<int>(picture.png.size()));
+    const TextLook look{.points = footPoints};
+    const auto caption =
+        std::make_shared<const DocumentText>(picture.caption, fonts_, look, inTwips(setup_.textWidth()));
+    const double below = picture.caption.empty() ? 0 : caption->height();
+    const double room = inTwips(setup_.height - 2 * setup_.topMargin) - below;
+    const double wide = std::min(inTwips(picture.width), inTwips(setup_.textWidth()));
+    const QSizeF size = QSizeF(image.size()).scaled(wide, room, Qt::KeepAspectRatio);
+    Placed placed{.picture = image, .size = size};
+    if (below > 0) {
+        placed.text = caption;
+        placed.end = caption->lines();
+    }
+    putWhole(placed, size.height() + below);
+}
+
+// On one page, with the headings above.
+void DocumentPages::putWhole(const Placed& placed, double height) {
+    if (!fits(height) && !holdsOnlyHeadings())
         beginPage();
     waiting_.reset();
-    if (!fits(layout->height()) && !pages_.back().empty())
+    if (!fits(height) && !pages_.back().empty())
         beginPage();
-    put({.table = layout}, layout->height());
+    put(placed, height);
     belowHeading_ = false;
     belowTable_ = true;
 }
@@ -154,7 +197,7 @@ void DocumentPages::beginPage() {
 }
 
 QPointF DocumentPages::cornerOf(const Placed& placed) const {
-    return {inTwips(setup_.leftMargin), placed.top};
+    return {inTwips(setup_.leftMargin) + placed.left, placed.top};
 }
 
 void DocumentPages::paint(QPainter& painter, int page) const {
@@ -163,13 +206,22 @@ void DocumentPages::paint(QPainter& painter, int page) const {
     painter.setRenderHint(QPainter::Antialiasing, false);
     for (const Placed& placed : pages_[static_cast<std::size_t>(page - 1)]) {
         painter.setPen(Qt::black);
-        if (placed.text)
-            placed.text->paint(painter, cornerOf(placed), placed.from, placed.end);
-        else
-            placed.table->paint(painter, cornerOf(placed));
+        paintPlaced(painter, placed);
     }
     paintFoot(painter, page);
     painter.restore();
+}
+
+void DocumentPages::paintPlaced(QPainter& painter, const Placed& placed) const {
+    const QPointF corner = cornerOf(placed);
+    if (placed.table)
+        placed.table->paint(painter, corner);
+    if (!placed.picture.isNull())
+        painter.drawImage(QRectF(corner, placed.size), placed.picture);
+    if (placed.mark)
+        placed.mark->paint(painter, corner - QPointF(inTwips(markWidth), 0), 0, 1);
+    if (placed.text)
+        placed.text->paint(painter, corner + QPointF(0, placed.size.height()), placed.from, placed.end);
 }
 
 void DocumentPages::paintFoot(QPainter& painter, int page) const {
@@ -181,19 +233,41 @@ void DocumentPages::paintFoot(QPainter& painter, int page) const {
     text.paint(painter, {inTwips(setup_.leftMargin), top}, 0, text.lines());
 }
 
+DocumentPages::Spot DocumentPages::spotOf(std::size_t page, const Placed& placed, const QRectF& place) const {
+    const QRectF there = place.translated(cornerOf(placed));
+    return {static_cast<int>(page) + 1,
+            QRectF(there.topLeft() / twipsPerPoint, there.size() / twipsPerPoint)};
+}
+
+std::vector<QRectF> DocumentPages::spotsIn(const Placed& placed, const TextPlace& place) {
+    if (placed.table)
+        return placed.table->spots(place);
+    return placed.text ? placed.text->spots(place.from, place.length, placed.from, placed.end)
+                       : std::vector<QRectF>();
+}
+
 QList<DocumentPages::Spot> DocumentPages::spotsOf(const TextPlace& place) const {
     QList<Spot> found;
     for (std::size_t page = 0; page < pages_.size(); ++page) {
         for (const Placed& placed : pages_[page]) {
             if (placed.step != place.step)
                 continue;
-            const auto spots = placed.text
-                                   ? placed.text->spots(place.from, place.length, placed.from, placed.end)
-                                   : placed.table->spots(place);
-            for (const QRectF& spot : spots) {
-                const QRectF there = spot.translated(cornerOf(placed));
-                found.append({static_cast<int>(page) + 1,
-                              QRectF(there.topLeft() / twipsPerPoint, there.size() / twipsPerPoint)});
+            for (const QRectF& spot : spotsIn(placed, place))
+                found.append(spotOf(page, placed, spot));
+        }
+    }
+    return found;
+}
+
+QList<DocumentPages::Link> DocumentPages::links() const {
+    QList<Link> found;
+    for (std::size_t page = 0; page < pages_.size(); ++page) {
+        for (const Placed& placed : pages_[page]) {
+            for (const TextSpan& span : placed.text ? placed.text->spans() : std::vector<TextSpan>()) {
+                if (span.link.empty())
+                    continue;
+                for (const QRectF& spot : placed.text->spots(span.from, span.length, placed.from, placed.end))
+                    found.append({span.link, spotOf(page, placed, spot)});
             }
         }
     }

@@ -1,6 +1,7 @@
 // The pages of a document: which line and which table stands where. Knows nothing of files and printers.
 #pragma once
 
+#include <QImage>
 #include <QList>
 #include <QRectF>
 #include <QSizeF>
@@ -54,15 +55,27 @@ public:
 
     const QList<Heading>& headings() const { return headings_; }
 
+    struct Link {
+        std::string target;  ///< as in TextSpan
+        Spot spot;
+    };
+
+    /// The links of all paragraphs, one for each line that holds some of one.
+    QList<Link> links() const;
+
 private:
-    /// Lines of a text, or a table.
+    /// Lines of a text, a table, or a picture.
     struct Placed {
         std::size_t step = 0;
-        double top = 0;  ///< twips, as all lengths in here
+        double top = 0;   ///< twips, as all lengths in here
+        double left = 0;  ///< beside the margin
         std::shared_ptr<const DocumentText> text = nullptr;
         int from = 0;
         int end = 0;
+        std::shared_ptr<const DocumentText> mark = nullptr;  ///< left of the first line
         std::shared_ptr<const DocumentTableLayout> table = nullptr;
+        QImage picture = {};
+        QSizeF size = QSizeF(0, 0);  ///< of the picture
     };
     using Page = std::vector<Placed>;
 
@@ -71,6 +84,7 @@ private:
     void take(const step::Paragraph& paragraph);
     void take(const step::Text& text);
     void take(const DocumentTable& table);
+    void take(const DocumentPicture& picture);
     void take(const step::NewPage&);
     void take(const step::EndDoc&) {}
 
@@ -80,9 +94,15 @@ private:
     bool holdsOnlyHeadings() const { return waiting_.value_or(pages_.back().size()) == 0; }
     int leastLines(const DocumentText& text) const;
     void put(Placed placed, double height);
+    void putText(const std::shared_ptr<const DocumentText>& text, const step::Paragraph& paragraph);
+    std::shared_ptr<const DocumentText> markOf(const step::Paragraph& paragraph) const;
+    void putWhole(const Placed& placed, double height);
+    void paintPlaced(QPainter& painter, const Placed& placed) const;
     void putHeading(const std::shared_ptr<const DocumentText>& text);
     void beginPage();
     QPointF cornerOf(const Placed& placed) const;
+    static std::vector<QRectF> spotsIn(const Placed& placed, const TextPlace& place);
+    Spot spotOf(std::size_t page, const Placed& placed, const QRectF& place) const;
     void paintFoot(QPainter& painter, int page) const;
 
     PageSetup setup_;

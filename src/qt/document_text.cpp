@@ -22,8 +22,12 @@ struct StandIn {
 constexpr StandIn standIns[] = {
     {"Calibri", "Carlito"}, {"Arial", "Liberation Sans"}, {"Times New Roman", "Liberation Serif"}};
 
+const QColor linkColour(0x1F, 0x4E, 0x9E);
+/// Letters of equal width look larger than others of their size.
+constexpr double equalWidthShare = 0.86;
+
 // Families that are there, the best first.
-QStringList familiesFor(const QString& name) {
+QStringList familiesFor(const QString& name, QFontDatabase::SystemFont otherwise) {
     QStringList found;
     const auto add = [&](const QString& family) {
         if (QFontDatabase::hasFamily(family))
@@ -34,13 +38,24 @@ QStringList familiesFor(const QString& name) {
         if (name == QLatin1String(row.name))
             add(QString::fromLatin1(row.sameWidths));
     }
-    return found.isEmpty() ? QStringList(QFontDatabase::systemFont(QFontDatabase::GeneralFont).family())
-                           : found;
+    return found.isEmpty() ? QStringList(QFontDatabase::systemFont(otherwise).family()) : found;
 }
 
 // The place of a byte in the text as it is shown.
 qsizetype placeOf(const std::string& text, std::size_t byte) {
     return QString::fromStdString(printable(text.substr(0, byte), LineEnds::kept)).size();
+}
+
+// What of the formats of a whole text belongs to a piece of it.
+QList<QTextLayout::FormatRange> withinPiece(QList<QTextLayout::FormatRange> formats, qsizetype start,
+                                            qsizetype length) {
+    for (QTextLayout::FormatRange& range : formats) {
+        const qsizetype from = std::max<qsizetype>(range.start - start, 0);
+        range.length = static_cast<int>(std::min(range.start + range.length - start, length) - from);
+        range.start = static_cast<int>(from);
+    }
+    formats.removeIf([](const QTextLayout::FormatRange& range) { return range.length <= 0; });
+    return formats;
 }
 
 // The first letter that may stand above or below its line: marks, and whatever is not Latin.
@@ -50,17 +65,20 @@ constexpr double reach = 0.2;
 
 }  // namespace
 
-DocumentFonts::DocumentFonts(const std::string& name) : families_(familiesFor(QString::fromStdString(name))) {
+DocumentFonts::DocumentFonts(const std::string& name)
+    : families_(familiesFor(QString::fromStdString(name), QFontDatabase::GeneralFont)),
+      equalWidthFamilies_(familiesFor(QStringLiteral("DejaVu Sans Mono"), QFontDatabase::FixedFont)) {
     constexpr double points = 11;
     capitals_ = QFontMetricsF(font(points, false)).capHeight() / (points * twipsPerPoint);
 }
 
-const QFont& DocumentFonts::font(double points, bool bold) const {
-    const int twips = std::max(1, static_cast<int>(std::lround(points * twipsPerPoint)));
-    const auto [row, isNew] = made_.try_emplace({twips, bold});
+const QFont& DocumentFonts::font(double points, bool bold, bool equalWidth) const {
+    const double share = equalWidth ? equalWidthShare : 1;
+    const int twips = std::max(1, static_cast<int>(std::lround(points * share * twipsPerPoint)));
+    const auto [row, isNew] = made_.try_emplace({twips, bold, equalWidth});
     if (isNew) {
         QFont& font = row->second;
-        font.setFamilies(families_);
+        font.setFamilies(equalWidth ? equalWidthFamilies_ : families_);
         font.setPixelSize(twips);
         font.setBold(bold);
         font.setHintingPreference(QFont::PreferNoHinting);
@@ -72,22 +90,39 @@ const QFont& DocumentFonts::font(double points, bool bold) const {
 }
 
 DocumentText::DocumentText(const std::string& text, const DocumentFonts& fonts, const TextLook& look,
-                           double width)
-    : source_(text), look_(look), width_(width),
+                           double width, const std::vector<TextSpan>& spans)
+    : source_(text), spans_(spans), look_(look), width_(width),
       baseline_((look.lineHeight() + fonts.capitals() * look.points * twipsPerPoint) / 2) {
     const QString all = QString::fromStdString(printable(text, LineEnds::kept));
     reachesOut_ =
         std::any_of(all.begin(), all.end(), [](QChar letter) { return letter.unicode() >= firstTall; });
+    const Formats formats = formatsOf(fonts);
     for (const QString& piece : all.split(QLatin1Char('\n'))) {
         const bool bold = look.bold || (look.firstLineBold && pieces_.empty());
-        breakPiece(piece, fonts.font(look.points, bold));
+        breakPiece(piece, fonts.font(look.points, bold, look.equalWidth), formats);
     }
 }
 
-void DocumentText::breakPiece(const QString& piece, const QFont& font) {
+DocumentText::Formats DocumentText::formatsOf(const DocumentFonts& fonts) const {
+    Formats formats;
+    for (const TextSpan& span : spans_) {
+        const auto from = static_cast<int>(placeOf(source_, span.from));
+        const auto end = static_cast<int>(placeOf(source_, span.from + span.length));
+        QTextCharFormat format;
+        format.setFont(
+            fonts.font(look_.points, look_.bold || span.bold, look_.equalWidth || span.equalWidth));
+        if (!span.link.empty())
+            format.setForeground(linkColour);
+        formats.append({from, end - from, format});
+    }
+    return formats;
+}
+
+void DocumentText::breakPiece(const QString& piece, const QFont& font, const Formats& formats) {
     starts_.push_back(pieces_.empty() ? 0 : starts_.back() + pieces_.back()->text().size() + 1);
     pieces_.push_back(std::make_unique<QTextLayout>(piece, font));
     QTextLayout& layout = *pieces_.back();
+    layout.setFormats(withinPiece(formats, starts_.back(), piece.size()));
     QTextOption option(look_.side);
     option.setWrapMode(QTextOption::WrapAtWordBoundaryOrAnywhere);
     option.setTextDirection(Qt::LeftToRight);

@@ -11,6 +11,8 @@
 #include <string>
 #include <vector>
 
+#include "platform/document.h"
+
 class QPainter;
 
 namespace lorvane {
@@ -24,15 +26,24 @@ public:
     /// A font that the system lacks is stood in for by one whose letters are as wide.
     explicit DocumentFonts(const std::string& name);
 
-    const QFont& font(double points, bool bold) const;
+    const QFont& font(double points, bool bold, bool equalWidth = false) const;
 
     /// The height of capital letters beside the size of the font.
     double capitals() const { return capitals_; }
 
 private:
+    struct Kind {
+        int twips;
+        bool bold;
+        bool equalWidth;
+
+        auto operator<=>(const Kind&) const = default;
+    };
+
     QStringList families_;
+    QStringList equalWidthFamilies_;
     double capitals_;
-    mutable std::map<std::pair<int, bool>, QFont> made_;
+    mutable std::map<Kind, QFont> made_;
 };
 
 /// How a text is set.
@@ -42,6 +53,7 @@ struct TextLook {
     bool bold = false;
     bool firstLineBold = false;
     Qt::Alignment side = Qt::AlignLeft;
+    bool equalWidth = false;
 
     double lineHeight() const { return points * twipsPerPoint * lineFactor; }
 };
@@ -49,11 +61,14 @@ struct TextLook {
 /// A text in lines that are no wider than told. What would steer a screen is written out.
 class DocumentText {
 public:
-    DocumentText(const std::string& text, const DocumentFonts& fonts, const TextLook& look, double width);
+    DocumentText(const std::string& text, const DocumentFonts& fonts, const TextLook& look, double width,
+                 const std::vector<TextSpan>& spans = {});
 
     int lines() const { return static_cast<int>(lines_.size()); }
     double lineHeight() const { return look_.lineHeight(); }
     double height() const { return lines() * lineHeight(); }
+
+    const std::vector<TextSpan>& spans() const { return spans_; }
 
     /// The text as it is shown.
     QString shown() const;
@@ -81,10 +96,14 @@ private:
         QTextLine text;
     };
 
-    void breakPiece(const QString& piece, const QFont& font);
+    using Formats = QList<QTextLayout::FormatRange>;
+
+    Formats formatsOf(const DocumentFonts& fonts) const;
+    void breakPiece(const QString& piece, const QFont& font, const Formats& formats);
     bool mayBreakBefore(int line) const;
 
     std::string source_;
+    std::vector<TextSpan> spans_;
     TextLook look_;
     double width_;
     double baseline_;

@@ -33,6 +33,7 @@ std::string fileOf(DocumentPages& pages, const std::string& title) {
     QPainter painter;
     if (!painter.begin(&pdf))
         throw std::runtime_error(failed);
+    painter.setRenderHint(QPainter::LosslessImageRendering);
     painter.scale(pdf.resolution() / pointsPerInch, pdf.resolution() / pointsPerInch);
     for (int page = 1; page <= pages.pages(); ++page) {
         if (page > 1)

@@ -22,7 +22,7 @@ public:
 
     void operator()(const step::Paragraph& paragraph) {
         forceBreak();
-        next.text = shown(paragraph.text);
+        next.text = (paragraph.mark.empty() ? "" : shown(paragraph.mark) + " ") + shown(paragraph.text);
         add(!next.bold                  ? BlockKinds::text
             : next.points >= partPoints ? BlockKinds::part
                                         : BlockKinds::section);
@@ -38,6 +38,13 @@ public:
     void operator()(const DocumentTable& table) {
         next.table = &table;
         add(BlockKinds::table);
+    }
+
+    // Text has no pictures: what is told of one stands in its place.
+    void operator()(const DocumentPicture& picture) {
+        forceBreak();
+        next.text = shown(picture.caption);
+        add(BlockKinds::text);
     }
 
     std::vector<DocumentBlock> blocks;

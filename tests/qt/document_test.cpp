@@ -2,6 +2,7 @@
 // test.
 #include <gtest/gtest.h>
 
+#include <QBuffer>
 #include <QImage>
 #include <QPainter>
 #include <map>
@@ -217,6 +218,43 @@ TEST_F(Pages, TellWhereATextStands) {
     }
     EXPECT_EQ(spotOf(std::string(150, 'm')).size(), 3);
     EXPECT_TRUE(pages.spotsOf({1, 0, 0, 0, 5}).empty());
+}
+
+std::string pictureFile(QSize size) {
+    QImage image(size, QImage::Format_RGB32);
+    image.fill(Qt::darkBlue);
+    QBuffer bytes;
+    image.save(&bytes, "PNG");
+    return bytes.data().toStdString();
+}
+
+TEST_F(Pages, KeepAPictureWithItsCaptionAndInThePage) {
+    DocumentPages pages(PageSetup{});
+    pages.send(step::Paragraph{lines(30)});
+    pages.send(DocumentPicture{pictureFile({300, 100}), 3, "A caption"});
+    pages.send(DocumentPicture{pictureFile({300, 900}), 4, "Of a high one"});
+    pages.send(DocumentPicture{pictureFile({900, 100}), 20});
+    EXPECT_EQ(pages.pages(), 3);
+    const QImage first = pictureOf(pages, 1);
+    const double top = margin + 30 * 11 * 1.295;
+    EXPECT_EQ(dotsIn(first, {margin, top + 2, 200, 50}, 100), 400 * 100);
+    EXPECT_EQ(dotsIn(first, {margin + 217, top + 2, 200, 60}), 0) << "it is 3 inches wide";
+    EXPECT_GT(dotsIn(first, {margin, top + 72, 60, 12}), 100) << "the caption stands below";
+    EXPECT_EQ(dotsIn(pictureOf(pages, 2), {0, bottom, 612, 20}), 0) << "the high one got smaller";
+    EXPECT_EQ(dotsIn(pictureOf(pages, 3), {540.5, margin, 60, 100}), 0) << "so did the wide one";
+}
+
+TEST_F(Pages, HangMarksAndTellWhereLinksStand) {
+    DocumentPages pages(PageSetup{});
+    const std::string text = "K\xC3\xB6ln is a link\nand another";
+    pages.send(step::Paragraph{text, 0.5, "1.", false, {{.from = 11, .length = 8, .link = "#There"}}});
+    ASSERT_EQ(pages.links().size(), 2) << "one a line";
+    EXPECT_EQ(pages.links().front().target, "#There");
+    EXPECT_EQ(pages.links().back().spot.place.left(), margin + 36);
+    EXPECT_EQ(pages.links().back().spot.place.width(), pages.spotsOf({0, 0, 0, 16, 3}).front().place.width());
+    const QImage image = pictureOf(pages, 1);
+    EXPECT_GT(dotsIn(image, {margin + 18, margin, 14, 14}), 10);
+    EXPECT_EQ(dotsIn(image, {margin + 18, margin + 15, 17, 14}), 0) << "the second line has no mark";
 }
 
 }  // namespace
