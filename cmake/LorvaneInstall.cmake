@@ -1,10 +1,11 @@
-# Where an installed program lies: the programs with their template and their licence in a folder of their own, links to them in bin,
+# Where an installed program lies: the programs with their template, their manuals and their licence in a folder of their own, links to them in bin,
 # and what a desktop needs to open a study by a double click.
 include(GNUInstallDirs)
 
 set(programs ${CMAKE_INSTALL_LIBDIR}/lorvane)
 install(TARGETS lorvane lorvane-cli RUNTIME DESTINATION ${programs})
 install(FILES ${LORVANE_TEMPLATE} LICENSE DESTINATION ${programs})
+install(DIRECTORY ${LORVANE_MANUALS} DESTINATION ${programs})
 foreach(program lorvane lorvane-cli)
     install(CODE "
         set(bin \"\$ENV{DESTDIR}\${CMAKE_INSTALL_PREFIX}/${CMAKE_INSTALL_BINDIR}\")

@@ -35,6 +35,7 @@ MAY_INCLUDE = {
     "qt": GROUND,
     "cli": CORE | {"numerics", "app", "os", "sheets", "qt"},
     "desktop": CORE | {"numerics", "app", "os", "sheets", "qt"},
+    "manual": GROUND | {"qt"},
 }
 # The distribution functions see one header of the platform alone.
 NUMERICS_MAY_SEE = {"platform/distribution_library.h"}
@@ -47,6 +48,7 @@ FOREIGN = {
     "sheets": re.compile(r"xlsxwriter\.h"),
     "qt": re.compile(r"Q[A-Z]|qcustomplot\.h|qpdf/"),
     "desktop": re.compile(r"Q[A-Z]"),
+    "manual": re.compile(r"Q[A-Z]"),
 }
 STANDARD = re.compile(r"c?[a-z_0-9]+$")
 INCLUDE = re.compile(r'^\s*#\s*include\s*([<"])([^>"]+)[>"]')
