@@ -10,7 +10,7 @@ namespace lorvane {
 namespace {
 
 constexpr double letterWidth = 0.071;  ///< inches, of a letter of the usual width
-constexpr double padding = 0.15;
+constexpr double padding = 0.2;
 constexpr Colour headShade{232, 238, 245};
 
 struct ColumnNeeds {

@@ -5,6 +5,7 @@
 #include <QFile>
 #include <QFileInfo>
 #include <QImage>
+#include <QRegularExpression>
 #include <algorithm>
 #include <stdexcept>
 
@@ -26,6 +27,17 @@ QString placeOf(const QString& heading) {
     return place;
 }
 
+// Qt joins empty cells with their neighbours, which blanks keep it from.
+QString withFilledCells(const QString& markdown) {
+    static const QRegularExpression empty(QStringLiteral("\\|[ \t]*(?=\\|)"));
+    QStringList lines = markdown.split(QLatin1Char('\n'));
+    for (QString& line : lines) {
+        if (line.startsWith(QLatin1Char('|')))
+            line.replace(empty, QStringLiteral("| &nbsp; "));
+    }
+    return lines.join(QLatin1Char('\n'));
+}
+
 bool isWebAddress(const QString& link) {
     const auto starts = [&](const char* scheme) { return link.startsWith(QLatin1String(scheme)); };
     return starts("https://") || starts("http://") || starts("mailto:");
@@ -43,7 +55,7 @@ std::string contentOf(const std::string& path) {
 
 ManualText::ManualText(const std::string& path, const std::string& markdown)
     : path_(path), markdown_(QString::fromStdString(markdown)), document_(std::make_unique<QTextDocument>()) {
-    document_->setMarkdown(markdown_, QTextDocument::MarkdownDialectGitHub);
+    document_->setMarkdown(withFilledCells(markdown_), QTextDocument::MarkdownDialectGitHub);
     for (QTextBlock block = document_->begin(); block.isValid(); block = block.next()) {
         if (block.blockFormat().headingLevel() == 0)
             continue;

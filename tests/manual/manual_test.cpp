@@ -71,6 +71,8 @@ as {cite baker1999} and (see {cite adams2004}) tell.
 | Name | Meaning |
 |------|--------:|
 | alpha | the *first* letter |
+|  |  |
+| omega | |
 
 ## Lists and more
 
@@ -98,7 +100,8 @@ TEST_F(Manual, BecomesPagesWithBookmarksLinksAndPictures) {
          {"The sample Version 7 A bold word, code, below, outside and a file, as Baker 1999 and (see Adams "
           "et al. "
           "2004) tell.",
-          "Name Meaning alpha the first letter Lists", "• an item • one below • another 1. counted lambda",
+          "Name Meaning alpha the first letter omega Lists",
+          "• an item • one below • another 1. counted lambda",
           "The window Sources • Adams G. *Patterns*. 2004. • Baker B. Notes_1_. 1999.", "Page 1 of 1"})
         EXPECT_TRUE(text.contains(QString::fromUtf8(words))) << words << " in " << text.toStdString();
     EXPECT_TRUE(answerOf("pdfimages", {"-list", path}).contains("480   240"));
