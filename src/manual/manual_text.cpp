@@ -27,6 +27,14 @@ QString placeOf(const QString& heading) {
     return place;
 }
 
+// The second heading of the same words has a number, and so on.
+QString unusedPlace(const QString& place, const QStringList& used) {
+    QString tried = place;
+    for (int number = 1; used.contains(tried); ++number)
+        tried = place + QLatin1Char('-') + QString::number(number);
+    return tried;
+}
+
 // Qt joins empty cells with their neighbours, which blanks keep it from.
 QString withFilledCells(const QString& markdown) {
     static const QRegularExpression empty(QStringLiteral("\\|[ \t]*(?=\\|)"));
@@ -60,11 +68,10 @@ ManualText::ManualText(const std::string& path, const std::string& markdown)
         if (block.blockFormat().headingLevel() == 0)
             continue;
         const QString text = block.text().trimmed();
-        headings_.push_back({placeOf(text), text});
+        title_ = places_.isEmpty() ? text : title_;
+        places_ << unusedPlace(placeOf(text), places_);
     }
 }
-
-QString ManualText::title() const { return headings_.empty() ? QString() : headings_.front().text; }
 
 std::string ManualText::targetOf(const QString& link) const {
     if (isWebAddress(link))
@@ -73,13 +80,10 @@ std::string ManualText::targetOf(const QString& link) const {
         checkFile(link);
         return {};
     }
-    const Heading* heading = headingAt(link.mid(1));
-    if (!heading)
+    const qsizetype heading = places_.indexOf(link.mid(1));
+    if (heading < 0)
         complain(link, QStringLiteral("There is no heading for the link \"%1\".").arg(link));
-    const auto isSame = [&](const Heading& other) { return other.text == heading->text; };
-    if (std::count_if(headings_.begin(), headings_.end(), isSame) > 1)
-        complain(link, QStringLiteral("Two headings are meant by the link \"%1\".").arg(link));
-    return (QLatin1Char('#') + heading->text).toStdString();
+    return (QLatin1Char('#') + QString::number(heading)).toStdString();
 }
 
 std::string ManualText::pictureAt(const QString& name) const {
@@ -87,12 +91,6 @@ std::string ManualText::pictureAt(const QString& name) const {
     if (QImage(path).isNull())
         complain(name, QStringLiteral("The picture \"%1\" does not exist or is none.").arg(name));
     return contentOf(path.toStdString());
-}
-
-const ManualText::Heading* ManualText::headingAt(const QString& place) const {
-    const auto found = std::find_if(headings_.begin(), headings_.end(),
-                                    [&](const Heading& heading) { return heading.place == place; });
-    return found == headings_.end() ? nullptr : &*found;
 }
 
 void ManualText::checkFile(const QString& link) const {
@@ -103,7 +101,7 @@ void ManualText::checkFile(const QString& link) const {
     if (place.isEmpty())
         return;
     const ManualText other(path.toStdString(), contentOf(path.toStdString()));
-    if (!other.headingAt(place))
+    if (!other.places_.contains(place))
         complain(link, QStringLiteral("The file of the link \"%1\" has no such heading.").arg(link));
 }
 
@@ -112,8 +110,10 @@ QString ManualText::pathOf(const QString& name) const {
 }
 
 void ManualText::complain(const QString& link, const QString& sentence) const {
-    const qsizetype at = std::max<qsizetype>(markdown_.indexOf(QStringLiteral("](") + link), 0);
-    const auto line = markdown_.left(at).count(QLatin1Char('\n')) + 1;
+    const QString start = QStringLiteral("](") + link;
+    const qsizetype whole = markdown_.indexOf(start + QLatin1Char(')'));
+    const qsizetype at = whole < 0 ? markdown_.indexOf(start) : whole;
+    const auto line = markdown_.left(std::max<qsizetype>(at, 0)).count(QLatin1Char('\n')) + 1;
     throw ManualProblem(path_, static_cast<int>(line), sentence.toStdString());
 }
 

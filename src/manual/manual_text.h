@@ -1,11 +1,11 @@
 // The text of a manual as Qt reads it, and what its links lead to.
 #pragma once
 
+#include <QStringList>
 #include <QTextBlock>
 #include <QTextDocument>
 #include <memory>
 #include <string>
-#include <vector>
 
 namespace lorvane {
 
@@ -18,9 +18,9 @@ public:
     const QTextDocument& document() const { return *document_; }
 
     /// The first heading; empty where there is none.
-    QString title() const;
+    const QString& title() const { return title_; }
 
-    /// What a link becomes in a document: a web address stays, "#place" becomes "#" and the text of its
+    /// What a link becomes in a document: a web address stays, "#place" becomes "#" and the number of its
     /// heading, and a file is none. Throws ManualProblem where the heading or the file does not exist.
     std::string targetOf(const QString& link) const;
 
@@ -28,12 +28,6 @@ public:
     std::string pictureAt(const QString& name) const;
 
 private:
-    struct Heading {
-        QString place;  ///< as links name it, "the-first-one"
-        QString text;
-    };
-
-    const Heading* headingAt(const QString& place) const;
     [[noreturn]] void complain(const QString& link, const QString& sentence) const;
     void checkFile(const QString& link) const;
     QString pathOf(const QString& name) const;
@@ -41,7 +35,8 @@ private:
     std::string path_;
     QString markdown_;
     std::unique_ptr<QTextDocument> document_;
-    std::vector<Heading> headings_;
+    QString title_;
+    QStringList places_;  ///< of the headings, as links name them: "the-first-one"
 };
 
 /// The whole content of a file. Throws std::runtime_error, whose sentence names it.

@@ -47,7 +47,7 @@ struct TextSpan {
     std::size_t length = 0;
     bool bold = false;
     bool equalWidth = false;  ///< its letters are equally wide
-    std::string link = {};    ///< a web address, or "#" and the text of a heading of the document
+    std::string link = {};    ///< a web address, or "#" and the number of a heading, the first being 0
 };
 
 /// One thing that is sent to a document.

@@ -106,11 +106,9 @@ void setTarget(File& file, qpdf_oh entry, const DocumentPages& pages, const std:
         file.set(entry, "/A", action);
         return;
     }
-    const QString text = QString::fromStdString(target.substr(1));
-    for (const DocumentPages::Heading& heading : pages.headings()) {
-        if (heading.text == text)
-            return file.set(entry, "/Dest", placeOf(file, pages, heading));
-    }
+    const auto number = QString::fromStdString(target.substr(1)).toInt();
+    if (number >= 0 && number < pages.headings().size())
+        file.set(entry, "/Dest", placeOf(file, pages, pages.headings()[number]));
 }
 
 void addLinks(File& file, const DocumentPages& pages) {

@@ -116,6 +116,18 @@ TEST_F(Manual, BecomesPagesWithBookmarksLinksAndPictures) {
                 R"(<item page="1">The sample</item> <item page="1">Lists and more</item> <item page="1">Sources</item>)"));
 }
 
+TEST_F(Manual, LinksToEachOfTheHeadingsOfTheSameWords) {
+    const Document document = documentOf("# A\n\n## B\n\nText.\n\n## B\n\n[a](#b) and [b](#b-1)\n");
+    std::vector<std::string> links;
+    for (const DocumentStep& step : document.steps) {
+        if (const auto* paragraph = std::get_if<step::Paragraph>(&step)) {
+            for (const TextSpan& span : paragraph->spans)
+                links.push_back(span.link);
+        }
+    }
+    EXPECT_EQ(links, (std::vector<std::string>{"#1", "#2"}));
+}
+
 TEST_F(Manual, PartsALongTableBelowItsHead) {
     std::string markdown = "# Long\n\n| Row | Value |\n|---|---|\n";
     for (int row = 1; row <= 90; ++row)
@@ -145,7 +157,8 @@ TEST_F(Manual, TellsFileAndLineOfWhatIsWrong) {
          R"(text.md:3: The source "nobody" is not in the list of sources.)"},
         {"{cite adams2004", "text.md:1: A citation has no closing brace in its line."},
         {"# A\n\nSee\n[it](#b).\n", R"(text.md:4: There is no heading for the link "#b".)"},
-        {"## B\n\n## B\n\n[it](#b)\n", R"(text.md:5: Two headings are meant by the link "#b".)"},
+        {"## B\n\n## B\n\n[a](#b) [b](#b-1)\n\n[it](#b-2)",
+         R"(text.md:7: There is no heading for the link "#b-2".)"},
         {"# A\n\n[it](missing.md)\n", R"(text.md:3: There is no file for the link "missing.md".)"},
         {"[it](other.md#part)", R"(text.md:1: The file of the link "other.md#part" has no such heading.)"},
         {"# A\n\n![It](other.md)\n", R"(text.md:3: The picture "other.md" does not exist or is none.)"},
