@@ -14,13 +14,13 @@ namespace lorvane {
 namespace {
 
 constexpr double bodyPoints = 11;
-constexpr double codePoints = 10;
+constexpr double codePoints = 9;
 constexpr double tablePoints = 9.5;
 constexpr double notePoints = 9;
 constexpr double headingPoints[] = {20, 14, 12, 11};
 constexpr double partGap = 10;  ///< points above a part, beside the gap below what stands before
 constexpr double blockGap = 7;  ///< points below a paragraph
-constexpr double codeIndent = 0.3;
+constexpr double codeIndent = 0.2;
 constexpr double pictureDots = 120;  ///< of a picture an inch of the paper, where they have room
 constexpr double wholeTable = 4;     ///< inches of a table that is not parted
 constexpr double leastRoom = 1.5;    ///< inches of a page that a part of a table is worth
