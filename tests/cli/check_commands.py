@@ -2,6 +2,7 @@
 
 import json
 import os
+import re
 import shlex
 import subprocess
 import sys
@@ -10,8 +11,9 @@ import time
 from pathlib import Path
 
 PROGRAM, EXAMPLES = sys.argv[1], Path(sys.argv[2])
-DOCUMENTS = Path(sys.argv[3])
+DOCUMENTS = [Path(document) for document in sys.argv[3:]]
 STUDY = str(EXAMPLES / "schools.Lorvane")
+ANSWERS = ("Power", "Cost", "Degrees of freedom")
 
 
 def run(*arguments, text="", folder=None):
@@ -272,26 +274,54 @@ def check_help():
 
 
 def documented_commands(document):
-    """The commands of a document's blocks, "$ lorvane-cli ...", each with the output that stands below it."""
-    for block in document.read_text().split("```")[1::2]:
+    """The commands of a document's blocks, "$ lorvane-cli ...", each with its input, the lines from <<END to END, and
+    the output that stands below."""
+    for block in document.split("```")[1::2]:
         for step in block.replace("\\\n", "").split("\n$ ")[1:]:
             command, _, output = step.partition("\n")
-            yield shlex.split(command), output.strip()
+            text = ""
+            if command.endswith(" <<END"):
+                command = command.removesuffix(" <<END")
+                text, _, output = output.partition("\nEND\n")
+            yield shlex.split(command), text, output.strip()
 
 
-def check_documents(folder):
+def documented_rows(document):
+    """The rows of tables whose first head is a command, and first cell its further options, with the answers that the
+    other columns tell."""
+    for table in re.findall(r"^\| `lorvane-cli .*\n(?:\|.*\n)+", document, re.MULTILINE):
+        head, _, *rows = ([cell.strip() for cell in row.strip("|").split("|")] for row in table.splitlines())
+        for options, *cells in rows:
+            answers = {name: cell for name, cell in zip(head[1:], cells) if name in ANSWERS}
+            assert answers, f"nothing is told of {options}"
+            yield shlex.split(head[0].strip("`") + " " + options.strip("`")), answers
+
+
+def check_document(document, folder):
     (Path(folder) / "assets").symlink_to(EXAMPLES.parent)
-    for document in (DOCUMENTS / "README.md", DOCUMENTS / "docs/comparison.md"):
-        commands = list(documented_commands(document))
-        assert commands, document
-        for (program, *arguments), output in commands:
-            _, out, err = run(*arguments, folder=folder)
-            assert program.endswith("lorvane-cli") and (out + err).strip() == output, (document, arguments, out + err)
+    commands = list(documented_commands(document))
+    assert commands
+    for (program, *arguments), text, output in commands:
+        _, out, err = run(*arguments, text=text, folder=folder)
+        assert program.endswith("lorvane-cli") and (out + err).strip() == output, (arguments, out + err)
+    for (_, *arguments), answers in documented_rows(document):
+        lines = run(*arguments, folder=folder)[1].splitlines()
+        assert all(f"{name:<20}{answer}" in lines for name, answer in answers.items()), (arguments, answers, lines)
+
+
+def check_documents():
+    assert DOCUMENTS
+    for document in DOCUMENTS:
+        with tempfile.TemporaryDirectory() as folder:
+            try:
+                check_document(document.read_text(encoding="utf-8"), folder)
+            except AssertionError as problem:
+                raise AssertionError(f"{document}: {problem}") from problem
 
 
 def main():
+    check_documents()
     with tempfile.TemporaryDirectory() as folder:
-        check_documents(folder)
         check_answers(folder)
         check_failures(folder)
         check_optimal(folder)
