@@ -5,8 +5,10 @@
 #include <QHBoxLayout>
 #include <QMenu>
 #include <QRadioButton>
+#include <QScreen>
 #include <QShortcut>
 #include <QVBoxLayout>
+#include <algorithm>
 
 #include "base/names.h"
 #include "desktop/kit/guide_sheet.h"
@@ -171,8 +173,8 @@ void GuideView::sync() {
 
 // Through the graph ----------------------------------------------------------------------------------------
 
-GraphGuideView::GraphGuideView(Desk& desk, ToolPanel* panel, Menus& graphMenus)
-    : GuideBase(desk, panel, "frmTipsGraph", graphMenus) {
+GraphGuideView::GraphGuideView(Desk& desk, ToolPanel* panel, Menus& graphMenus, const QWidget& graph)
+    : GuideBase(desk, panel, "frmTipsGraph", graphMenus), graph_(graph) {
     const GraphGuide& guide = desk.application().graphGuide();
     panel->setWindowTitle(shownText(windowTitle(WindowId::frmTipsGraph)));
     addMenuButton("frmTipsGraph.cmdMenu", guide.cmdMenu());
@@ -185,11 +187,25 @@ GraphGuideView::GraphGuideView(Desk& desk, ToolPanel* panel, Menus& graphMenus)
 
 bool GraphGuideView::isOpen() const { return desk_.design().isOpen(WindowId::frmTipsGraph); }
 
+// At the right of the graph, or at its left, or as far at the right as the screen goes.
+void GraphGuideView::standBeside() {
+    const QRect room = graph_.screen()->availableGeometry();
+    const QRect graph = graph_.frameGeometry();
+    int left = graph.right() + 1;
+    if (left + panelWidth > room.right())
+        left = graph.left() - panelWidth;
+    if (left < room.left())
+        left = room.right() - panelWidth;
+    panel()->setPlace({left, std::max(graph.top(), room.top())});
+}
+
 std::string GraphGuideView::menu() const { return desk_.application().graphGuide().frame().menu; }
 
 void GraphGuideView::sync() {
     const GraphGuide& guide = desk_.application().graphGuide();
     const GuideFrame frame = guide.frame();
+    if (!panel()->isVisible() && !panel()->place())
+        standBeside();
     QList<ShownParagraph> text;
     for (const std::string& paragraph : frame.text)
         text.append(ShownParagraph{{shownText(paragraph), false}});

@@ -78,13 +78,16 @@ class GraphGuideView final : public GuideBase {
     Q_OBJECT
 
 public:
-    GraphGuideView(Desk& desk, ToolPanel* panel, Menus& graphMenus);
+    GraphGuideView(Desk& desk, ToolPanel* panel, Menus& graphMenus, const QWidget& graph);
 
     bool isOpen() const override;
     void sync() override;
 
 private:
     std::string menu() const override;
+    void standBeside();
+
+    const QWidget& graph_;
 };
 
 }  // namespace lorvane::desktop

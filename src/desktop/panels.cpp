@@ -74,7 +74,8 @@ void Panels::addScreens() {
     add<TableView>(centre, dialogs.spreadTauSq(), desk_.design().spreadTauSq());
     add<StartView>(centre);
     add<GraphView>(centre);
-    add<GraphGuideView>(clearSight, static_cast<GraphView&>(*views_.back()).menus());
+    auto& graph = static_cast<GraphView&>(*views_.back());
+    add<GraphGuideView>(clearSight, graph.menus(), *graph.panel());
     add<GraphTableView>(clearSight);
     add<ReportViewer>(centre);
     add<AboutView>(centre);

@@ -85,6 +85,13 @@ protected:
         ASSERT_TRUE(QTest::qWaitForWindowActive(&window));
     }
 
+    /// The guide opens where a test asks for it, so that the windows have the room that is their subject.
+    static MemorySettings withoutGuide() {
+        MemorySettings kept;
+        kept.SaveSetting("Lorvane", "Guide", "Open", "0");
+        return kept;
+    }
+
     /// A window manager gives the keyboard to the main window where no other has it.
     void settle() {
         for (int i = 0; i < 8; ++i) {
@@ -148,7 +155,7 @@ protected:
     FixedLocale locale;
     WatchedFiles files;
     WatchedMessageBoxes messages;
-    MemorySettings settings;
+    MemorySettings settings = withoutGuide();
     SlowProgress progress;
     QtClipboard clipboard;
     QtHourglass hourglass;

@@ -228,6 +228,9 @@ TEST_F(Names, AreShownLetterByLetterInEveryWindow) {
         if (desk.application().commands().find(tool.Name)->Enabled && tool.Name != "Exit")
             runTool(tool.Name);
     }
+    set({{"txtNB(4)", 10.0}, {"txtMRange(3)", 0.1}});
+    runTool("Graph");
+    runTool("gfrmTipsGraph");
     set({{"DataType", 2.0}, {"BinaryType", 1.0}, {"txtOR", 1000.0}});
     inspect();
     set({{"txtOR", 2.0}});

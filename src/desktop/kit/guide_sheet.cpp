@@ -67,6 +67,7 @@ GuideSheet::GuideSheet(QWidget* parent)
       choices_(new QVBoxLayout), tools_(new QGridLayout), steps_(new QHBoxLayout) {
     setAttribute(Qt::WA_StyledBackground);
     setProperty("guidePaper", true);
+    setFocusPolicy(Qt::TabFocus);
     auto* column = new QVBoxLayout(this);
     column->setContentsMargins(Margins);
     column->setSpacing(0);
@@ -116,6 +117,8 @@ PushButton* GuideSheet::addStep(Icon sign, const QString& control, bool primary,
     if (signIsLast)
         button->setLayoutDirection(Qt::RightToLeft);
     steps_->addWidget(button, 1);
+    if (primary)
+        setFocusProxy(button);
     return button;
 }
 
@@ -126,7 +129,6 @@ void GuideSheet::orderKeys(const QList<QWidget*>& choices) {
     order << choices;
     for (PushButton* button : toolButtons_)
         order << button;
-    order << text_;
     for (qsizetype i = 1; i < order.size(); ++i)
         setTabOrder(order[i - 1], order[i]);
 }

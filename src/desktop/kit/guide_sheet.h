@@ -51,8 +51,8 @@ public:
     PushButton* addTool(Icon sign, const QString& control);
     PushButton* addStep(Icon sign, const QString& control, bool primary, bool signIsLast);
 
-    /// Leads the Tab key from Next back to the first button of the last row, then to the choices, the tools
-    /// and the text.
+    /// Leads the Tab key from Next, which takes the keyboard first, back to the first button of the last row,
+    /// then to the choices and the tools.
     void orderKeys(const QList<QWidget*>& choices = {});
 
     /// Puts the buttons that are shown into their row, after some have come or gone.
