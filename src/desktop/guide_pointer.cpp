@@ -30,7 +30,7 @@ void outline(OutlineOverlay& overlay, const QList<QWidget*>& widgets) {
 }  // namespace
 
 GuidePointer::GuidePointer(Desk& desk, MainWindow& window)
-    : QObject(&window), desk_(desk), window_(window), onWindow_(new OutlineOverlay(&window)) {
+    : desk_(desk), window_(window), onWindow_(new OutlineOverlay(&window)) {
     soon_.setSingleShot(true);
     connect(&soon_, &QTimer::timeout, this, &GuidePointer::draw);
     connect(&desk_, &Desk::shown, this, &GuidePointer::follow);

@@ -283,6 +283,22 @@ void LevelTable::scrollTo(int position) {
     placeAll();
 }
 
+QWidget* LevelTable::armBeside(const std::string& panel) const {
+    const IndexedName name = splitName(panel);
+    const int level = name.index.value_or(0);
+    if (level < lowestLevel || level > highestLevel)
+        return nullptr;
+    const std::pair<std::string_view, ArmLabel*> arms[] = {
+        {"pnlNT", unitArms_[0](level)},    {"pnlNB", unitArms_[0](level)},
+        {"pnlNC", unitArms_[1](level)},    {"pnlCostT", costArms_[0](level)},
+        {"pnlCostB", costArms_[0](level)}, {"pnlCostC", costArms_[1](level)}};
+    for (const auto& [stem, label] : arms) {
+        if (stem == name.stem)
+            return label;
+    }
+    return nullptr;
+}
+
 void LevelTable::reveal(const std::string& panel) {
     for (const auto& cell : cells_) {
         if (cell->panel() == panel)

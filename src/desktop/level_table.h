@@ -38,6 +38,9 @@ public:
     /// The cell of a panel's name, such as "pnlNT(2)"; null when there is none.
     ValueCell* cell(const std::string& panel) const;
 
+    /// The name of the group beside a cell, "pnlNT(2)"; null for a cell without one.
+    QWidget* armBeside(const std::string& panel) const;
+
     /// Scrolls the column of a cell into sight; nothing for a name without a cell.
     void reveal(const std::string& panel);
 

@@ -314,8 +314,12 @@ QList<QWidget*> MainWindow::control(const std::string& name) const {
         found = findChild<QWidget*>(QString::fromStdString(name));
     if (found == nullptr)
         return {};
-    QWidget* caption = strip_->captionOf(found);
-    return caption == nullptr ? QList<QWidget*>{found} : QList<QWidget*>{found, caption};
+    QList<QWidget*> parts{found};
+    for (QWidget* beside : {strip_->captionOf(found), table_->armBeside(name)}) {
+        if (beside != nullptr)
+            parts << beside;
+    }
+    return parts;
 }
 
 void MainWindow::reveal(const std::vector<std::string>& cells) {
@@ -373,10 +377,13 @@ void MainWindow::dropEvent(QDropEvent* event) {
     QTimer::singleShot(0, this, [this, path] { desk_.askAndOpen(path); });
 }
 
+// A panel that floats does not keep the program running.
 void MainWindow::closeEvent(QCloseEvent* event) {
     if (!desk_.design().isClosed())
         desk_.close("Design");
     event->setAccepted(desk_.design().isClosed());
+    if (event->isAccepted())
+        QCoreApplication::quit();
 }
 
 }  // namespace lorvane::desktop

@@ -304,7 +304,7 @@ TEST_F(App, ARefusalOpensNoWindowThatWasClosed) {
 }
 
 TEST_F(App, ToolsWithoutASubjectAreThereAndDisabled) {
-    for (const char* name : {"gfrmTips", "X Tails", "xPlot.Interactive guide"}) {
+    for (const char* name : {"gfrmScenariosName", "X Tails", "xPlot.Interactive guide"}) {
         const Tool* tool = app.commands().find(name);
         ASSERT_NE(tool, nullptr) << name;
         EXPECT_FALSE(tool->Enabled) << name;
@@ -313,7 +313,7 @@ TEST_F(App, ToolsWithoutASubjectAreThereAndDisabled) {
                                                           tool->Reason + ").");
     }
     app.tool("Add a level");
-    EXPECT_FALSE(app.commands().find("gfrmTips")->Enabled) << "also after an event";
+    EXPECT_FALSE(app.commands().find("gfrmScenariosName")->Enabled) << "also after an event";
     EXPECT_TRUE(app.commands().find("gfrmDetails")->Enabled);
 }
 

@@ -42,14 +42,14 @@ bool isOfDisplay(const std::string& name) {
 bool isOfOtherScreen(const std::string& name) {
     static const std::vector<Band> bands = bandRows();
     if (!name.starts_with("tool:"))
-        return startsWithOneOf(name,
-                               {"XVar",          "LVar",        "XRow",     "LRow",         "NumLines",
-                                "Graph",         "CostScale",   "ColorSet", "CurrentPoint", "DisplayOn",
-                                "DetailsCorner", "xPlot",       "frmTable", "frmXVar",      "frmLVar",
-                                "XRangeTable",   "LValueTable", "frmPrint", "frmTipsGraph", "TipFrame"});
+        return startsWithOneOf(name, {"XVar",          "LVar",        "XRow",     "LRow",         "NumLines",
+                                      "Graph",         "CostScale",   "ColorSet", "CurrentPoint", "DisplayOn",
+                                      "DetailsCorner", "xPlot",       "frmTable", "frmXVar",      "frmLVar",
+                                      "XRangeTable",   "LValueTable", "frmPrint", "frmTipsGraph", "TipFrame",
+                                      "frmTips",       "CurrentTip"});
     const std::string tool = name.substr(5, name.rfind('.') - 5);
-    return tool == "gxPlot" || tool == "gfrmTipsGraph" ||
-           std::any_of(bands.begin(), bands.end(), [&](const Band& band) {
+    const bool isOfGuide = tool == "gfrmTipsGraph" || tool == "Small" || tool == "Medium" || tool == "Large";
+    return tool == "gxPlot" || isOfGuide || std::any_of(bands.begin(), bands.end(), [&](const Band& band) {
                return !band.screen.empty() &&
                       std::any_of(band.entries.begin(), band.entries.end(),
                                   [&](const BandEntry& entry) { return entry.name == tool; });

@@ -217,7 +217,8 @@ TEST_F(Names, AreShownLetterByLetterInEveryWindow) {
     runClick("frmStart.optStart(2)");
     messages.scripted.queue(Answer::Yes);
     messages.scripted.queue(Answer::Yes);
-    for (const char* tool : {"gfrmPrint", "Graph", "Show cost", "Show table", "L Number of Level 1"})
+    for (const char* tool :
+         {"gfrmPrint", "Graph", "gfrmTipsGraph", "Show cost", "Show table", "L Number of Level 1"})
         runTool(tool);
     runClick("frmLVar.Command1");
     set({{"txtQ(1)", 0.0}, {"txtRsq(1)", 0.4}});
@@ -228,9 +229,6 @@ TEST_F(Names, AreShownLetterByLetterInEveryWindow) {
         if (desk.application().commands().find(tool.Name)->Enabled && tool.Name != "Exit")
             runTool(tool.Name);
     }
-    set({{"txtNB(4)", 10.0}, {"txtMRange(3)", 0.1}});
-    runTool("Graph");
-    runTool("gfrmTipsGraph");
     set({{"DataType", 2.0}, {"BinaryType", 1.0}, {"txtOR", 1000.0}});
     inspect();
     set({{"txtOR", 2.0}});

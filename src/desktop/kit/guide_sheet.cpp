@@ -2,13 +2,13 @@
 #include "desktop/kit/guide_sheet.h"
 
 #include <QAccessible>
+#include <QEvent>
 #include <QGridLayout>
 #include <QLabel>
 #include <QPainter>
 #include <QVBoxLayout>
 
 #include "desktop/kit/push_button.h"
-#include "desktop/kit/rule.h"
 #include "desktop/kit/step_strip.h"
 #include "desktop/kit/theme.h"
 #include "desktop/kit/wrapped_label.h"
@@ -43,6 +43,14 @@ PushButton* makeButton(Icon sign, const QString& control, bool primary) {
     button->setIcon(signOf(sign, primary ? Role::GuidePaper : Role::GuideText));
     button->setIconSize({SignSize, SignSize});
     return button;
+}
+
+QWidget* makeRule() {
+    auto* rule = new QWidget;
+    rule->setAttribute(Qt::WA_StyledBackground);
+    rule->setProperty("guideRule", true);
+    rule->setFixedHeight(1);
+    return rule;
 }
 
 }  // namespace
@@ -82,6 +90,7 @@ GuideSheet::GuideSheet(QWidget* parent)
     column->addWidget(title_);
     column->addSpacing(4);
     text_->setFitted();
+    paintText();
     column->addWidget(text_);
     column->addLayout(choices_);
     choices_->setSpacing(6);
@@ -92,10 +101,25 @@ GuideSheet::GuideSheet(QWidget* parent)
     column->addLayout(tools_);
     column->addStretch(1);
     column->addSpacing(12);
-    column->addWidget(new Rule);
+    column->addWidget(makeRule());
     steps_->setContentsMargins(0, 12, 0, 0);
     steps_->setSpacing(6);
     column->addLayout(steps_);
+}
+
+// A rule of the style sheet would take its own size of letters with it.
+void GuideSheet::paintText() {
+    QPalette palette = text_->palette();
+    if (palette.color(QPalette::Text) == colour(Role::GuideText))
+        return;
+    palette.setColor(QPalette::Text, colour(Role::GuideText));
+    text_->setPalette(palette);
+}
+
+void GuideSheet::changeEvent(QEvent* event) {
+    QWidget::changeEvent(event);
+    if (event->type() == QEvent::PaletteChange || event->type() == QEvent::StyleChange)
+        paintText();
 }
 
 QLabel* GuideSheet::addLabel(QHBoxLayout* row, TextStyle style, int stretch) {

@@ -58,7 +58,11 @@ public:
     /// Puts the buttons that are shown into their row, after some have come or gone.
     void arrangeTools();
 
+protected:
+    void changeEvent(QEvent* event) override;
+
 private:
+    void paintText();
     QLabel* addLabel(QHBoxLayout* row, TextStyle style, int stretch);
     void tell(const QString& words);
 

@@ -33,7 +33,7 @@ PanelDock::PanelDock(ToolPanel* panel, const QString& shortName, bool scrollsIts
     connect(this, &QDockWidget::topLevelChanged, this, &PanelDock::syncTitle);
     limitShortcuts();
     syncLeastSize();
-    connect(qApp, &QApplication::focusChanged, this,
+    connect(qApp, &QApplication::focusChanged, title_,
             [this](QWidget*, QWidget* now) { title_->setInUse(now == this || (now && isAncestorOf(now))); });
     syncTitle();
 }

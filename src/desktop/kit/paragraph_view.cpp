@@ -3,7 +3,7 @@
 
 #include <QEvent>
 #include <QTextCursor>
-#include <QtMath>
+#include <cmath>
 #include <memory>
 
 #include "desktop/kit/text_style.h"
@@ -84,7 +84,7 @@ void ParagraphView::resizeEvent(QResizeEvent* event) {
 int ParagraphView::heightForWidth(int width) const {
     const std::unique_ptr<QTextDocument> copy(document()->clone());
     copy->setTextWidth(width);
-    return qCeil(copy->size().height());
+    return static_cast<int>(std::ceil(copy->size().height()));
 }
 
 QSize ParagraphView::sizeHint() const {

@@ -85,7 +85,7 @@ QToolButton[sign="true"] { padding: 0; margin: 0; border-radius: 6px; }
 
 QWidget[guidePaper="true"] { background: @guidePaper; }
 QWidget[guidePaper="true"] QLabel { color: @guideText; }
-QWidget[guidePaper="true"] QTextEdit { background: transparent; color: @guideText; border: none; }
+QWidget[guideRule="true"] { background: @guideLine; }
 QWidget[guidePaper="true"] QRadioButton { color: @guideText; background: transparent; }
 QWidget[guidePaper="true"] QPushButton { background: transparent; color: @guideText; min-width: 40px;
               border: 1px solid @guideLine; padding: 0 8px; }
