@@ -26,7 +26,7 @@ constexpr const char* backControl = "frmTips.frmClusterWizbutton(2)";
 constexpr const char* nextControl = "frmTips.frmClusterWizbutton(3)";
 
 // In the order of GuideTextSize.
-constexpr TextStyle textStyles[] = {TextStyle::Caption, TextStyle::Value, TextStyle::LevelName};
+constexpr TextStyle textStyles[] = {TextStyle::Caption, TextStyle::Body, TextStyle::LevelName};
 
 }  // namespace
 
