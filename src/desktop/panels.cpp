@@ -75,7 +75,7 @@ void Panels::addScreens() {
     add<StartView>(centre);
     add<GraphView>(centre);
     auto& graph = static_cast<GraphView&>(*views_.back());
-    add<GraphGuideView>(clearSight, graph.menus(), *graph.panel());
+    add<GraphGuideView>(centre, graph.menus(), *graph.panel());
     add<GraphTableView>(clearSight);
     add<ReportViewer>(centre);
     add<AboutView>(centre);

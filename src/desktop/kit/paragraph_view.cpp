@@ -17,6 +17,7 @@ constexpr double LineHeight = 142;  ///< percent of the line of the font
 constexpr double Gap = 12;          ///< between two paragraphs
 constexpr int PreferredHeight = 180;
 constexpr int PreferredWidth = 364;
+constexpr int FittedWidth = 296;
 constexpr int LeastHeight = 60;
 
 }  // namespace
@@ -88,6 +89,8 @@ int ParagraphView::heightForWidth(int width) const {
 }
 
 QSize ParagraphView::sizeHint() const {
+    if (sizePolicy().hasHeightForWidth())
+        return {zoomed(*this, FittedWidth), heightForWidth(zoomed(*this, FittedWidth))};
     return {zoomed(*this, PreferredWidth), zoomed(*this, PreferredHeight)};
 }
 
