@@ -1,12 +1,15 @@
 // The windows of the two guides.
 #include "desktop/guide_view.h"
 
+#include <QApplication>
 #include <QButtonGroup>
 #include <QHBoxLayout>
 #include <QMenu>
+#include <QPointer>
 #include <QRadioButton>
 #include <QScreen>
 #include <QShortcut>
+#include <QTimer>
 #include <QVBoxLayout>
 #include <algorithm>
 
@@ -52,8 +55,22 @@ void GuideBase::addTool(Icon sign, const std::string& control, const Button& mod
 PushButton* GuideBase::addStep(Icon sign, const std::string& control, const Button& model, bool primary,
                                bool signIsLast) {
     PushButton* button = sheet_->addStep(sign, QString::fromStdString(control), primary, signIsLast);
-    listen(button, control, model);
+    buttons_.push_back({button, &model});
+    connect(button, &PushButton::clicked, this, [this, control] { move(control); });
     return button;
+}
+
+// A window that a frame opens takes the keyboard; whoever turns the pages keeps it.
+void GuideBase::move(const std::string& control) {
+    const QPointer<QWidget> focus = QApplication::focusWidget();
+    const bool isOurs = focus && sheet_->isAncestorOf(focus);
+    desk_.click(control);
+    if (!isOurs || !isOpen())
+        return;
+    QTimer::singleShot(0, sheet_, [this, focus] {
+        sheet_->activateWindow();
+        (focus && focus->isEnabled() ? focus.data() : sheet_)->setFocus();
+    });
 }
 
 void GuideBase::addMenuButton(const std::string& control, const Button& model) {
@@ -67,7 +84,7 @@ void GuideBase::addKeys(const std::string& back, const std::string& next) {
     const auto press = [this](const QKeySequence& key, const std::string& control) {
         auto* shortcut = new QShortcut(key, panel());
         shortcut->setContext(Qt::WidgetWithChildrenShortcut);
-        connect(shortcut, &QShortcut::activated, this, [this, control] { desk_.click(control); });
+        connect(shortcut, &QShortcut::activated, this, [this, control] { move(control); });
     };
     press(QKeySequence(Qt::ALT | Qt::Key_Left), back);
     press(QKeySequence(Qt::ALT | Qt::Key_Right), next);

@@ -43,6 +43,7 @@ private:
         const Button* model;
     };
     void listen(PushButton* button, const std::string& control, const Button& model);
+    void move(const std::string& control);
 
     GuideSheet* sheet_;
     Menus& menus_;

@@ -112,6 +112,14 @@ TEST_F(GuideOnScreen, IsLedByTheKeyboardAndTellsWhoHearsIt) {
         << heard.toStdString();
     EXPECT_GT(heard.size(), 200);
 
+    set({{"txtd", 0.5}, {"txtNT(2)", 10.0}, {"txtNC(2)", 10.0}, {"txtNT(1)", 20.0}, {"txtNC(1)", 20.0}});
+    goTo(306);
+    key(Qt::Key_Right, Qt::AltModifier);
+    EXPECT_TRUE(isShown("frmOptimal"));
+    key(Qt::Key_Right, Qt::AltModifier);
+    EXPECT_EQ(guide().CurrentTip(), 308) << "the wizard does not take the keyboard";
+    goTo(outcomeFrame);
+    messages.scripted.queue(Answer::OK);
     auto& binary = *panel("frmTips").findChild<QWidget*>(QStringLiteral("frmTips.optdatatype(2)"));
     binary.setFocus();
     key(Qt::Key_Space);
