@@ -3,6 +3,7 @@
 
 #include <algorithm>
 #include <array>
+#include <cmath>
 #include <stdexcept>
 
 #include "base/letter_case.h"
@@ -36,6 +37,11 @@ bool anyLevel(const Study& s, bool (*holds)(const Study&, int)) {
 }
 
 int blockedLevels(const Study& s) { return s.NumLevels - s.RandomizedLevel; }
+
+// Both groups have the same outcome, as in a study that has just begun.
+bool isWithoutEffect(const Study& s) {
+    return s.isMeans() ? s.txtd == 0 : std::fabs(s.txtEvent2 - s.txtPrev) < 1e-9;
+}
 
 struct Condition {
     std::string_view name;
@@ -71,6 +77,7 @@ constexpr Condition conditions[] = {
     {"power missed",
      [](F f) { return f.study().result.xValid && f.study().result.txtPower < f.study().ReqPower; }},
     {"no power", [](F f) { return !f.study().result.xValid; }},
+    {"no effect", [](F f) { return isWithoutEffect(f.study()); }},
     {"tested", [](F f) { return f.study().isTested(); }},
 };
 
