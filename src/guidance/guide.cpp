@@ -52,6 +52,7 @@ Guide::Guide(Design& design, Details& details, const Manuals& manuals, SettingsS
     : design_(design), details_(details), manuals_(manuals), settings_(settings), reach_(std::move(reach)),
       entries_(readEntries()), textSize_(sizeOf(settings.GetSetting(application, section, sizeKey, "1"))) {
     design_.setGuideWanted(settings.GetSetting(application, section, openKey, "1") != "0");
+    syncFiles();
     syncButtons();
     syncOptions();
 }
@@ -66,6 +67,7 @@ void Guide::dotips(int delta) {
 
 void Guide::go(int frame, int delta) {
     CurrentTip_ = GetTip(frame, delta, framesOf(design_.study()));
+    syncFiles();
     syncButtons();
     syncOptions();
     steer();
@@ -160,11 +162,15 @@ GuideFrame Guide::frame() const {
     return shown;
 }
 
+// Asks the disk, so only a move does it: an edit stays in its part.
+void Guide::syncFiles() {
+    cmdPDF_.Visible = manuals_.has(part().document);
+    cmdVideo_.Visible = manuals_.hasFilm(part().caption);
+}
+
 void Guide::syncButtons() {
     cmdBack_.Enabled = CurrentTip_ > 0;
     cmdNext_.Enabled = CurrentTip_ < lastGuideFrame;
-    cmdPDF_.Visible = manuals_.has(part().document);
-    cmdVideo_.Visible = manuals_.hasFilm(part().caption);
     cmdDetails_.Visible = !target().column.empty();
     cmdMenu_.Visible = !menu().empty();
 }

@@ -87,6 +87,7 @@ public:
 
 private:
     void go(int frame, int delta);
+    void syncFiles();
     void syncButtons();
     void syncOptions();
     void steer();
