@@ -11,11 +11,19 @@ namespace lorvane {
 /// Levels whose size may be left to the search.
 inline constexpr int highestFreeLevel = 3;
 
+/// What is asked for.
+enum class OptimalGoal {
+    cheapest = 1,  ///< the least cost that reaches the required power
+    mostPower = 2  ///< the most power that the budget pays
+};
+
 struct OptimalOptions {
+    OptimalGoal goal = OptimalGoal::cheapest;
     IndexedArray<bool, 1, highestFreeLevel> manual;     ///< the level keeps the size below
     IndexedArray<double, 1, highestFreeLevel> numReps;  ///< sizes set by hand, 1 or more
     int iterations = 30;                                ///< larger top levels that are tried
     double power = 0.8;                                 ///< required, between 0 and 1
+    double budget = 0;                                  ///< the most that the whole study may cost
     bool allowLowCellCounts = false;                    ///< a binary study may have small cells
 };
 
