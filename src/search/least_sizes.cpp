@@ -36,6 +36,12 @@ double Getmin(const Study& s, int level) {
     return std::max(1.0, 1 + std::ceil(wanted / degreesOfFreedomPerUnit(s, level)));
 }
 
+double leastForCovariates(const Study& s, int level) {
+    if (s.txtQ(level) <= 0)
+        return 1;
+    return s.isBlocked(level) ? 3 : 2;
+}
+
 // A larger cluster never has lower cells, so the least size is found by halving.
 std::optional<double> GetMinN(const Study& study, DistributionLibrary& library) {
     Study s = study;

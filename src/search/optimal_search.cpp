@@ -15,7 +15,6 @@ namespace lorvane {
 
 namespace {
 
-constexpr double largestSize = 100000000;
 constexpr double largestFirstTop = 110;  // by then a valid design must have been met
 constexpr int slackOfTop = 5;  // a top level with covariates this near to its least size gets a note
 
@@ -101,21 +100,18 @@ void Search::writeLowerSizes(const SizeRatios& ratios) {
     for (int level = 1; level < top(); ++level)
         bench_.setSize(level, roundHalfToEven(std::max(ratios(level), 1.0)));
     for (int level = 1; level < top(); ++level) {
-        if (s_.txtQ(level) > 0)
-            leaveRoomForCovariates(level, bench_.size(level));
-        if (bench_.size(level) > largestSize)
+        leaveRoomForCovariates(level, bench_.size(level));
+        if (bench_.size(level) > largestSizeFound)
             end(OptimalEnding::noSolution);
     }
 }
 
-// A blocked level needs three units for a covariate, an arm two.
 void Search::leaveRoomForCovariates(int level, double ratio) {
-    const bool blocked = s_.isBlocked(level);
-    const double least = blocked ? 3 : 2;
+    const double least = leastForCovariates(s_, level);
     if (ratio >= least)
         return;
     bench_.setSize(level, least);
-    result_.changes.push_back({level, ratio, least, blocked});
+    result_.changes.push_back({level, ratio, least, s_.isBlocked(level)});
 }
 
 // From the least size that leaves degrees of freedom up to the first valid design.
@@ -143,7 +139,7 @@ void Search::raiseTop(double step) {
     if (bench_.reachesPower())
         return;
     const double start = bench_.size(top());
-    const long long most = wholeSteps(largestSize - start, step);
+    const long long most = wholeSteps(largestSizeFound - start, step);
     const auto missesAfter = [&](long long steps) {
         bench_.trySize(top(), start + static_cast<double>(steps) * step);
         return !bench_.reachesPower();

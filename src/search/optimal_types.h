@@ -2,6 +2,7 @@
 #pragma once
 
 #include <cstdint>
+#include <optional>
 #include <string>
 
 #include "engine/per_level.h"
@@ -10,6 +11,9 @@ namespace lorvane {
 
 /// Levels whose size may be left to the search.
 inline constexpr int highestFreeLevel = 3;
+
+/// No search looks at larger sizes.
+inline constexpr double largestSizeFound = 100000000;
 
 /// What is asked for.
 enum class OptimalGoal {
@@ -36,6 +40,14 @@ struct Trial {
     std::int32_t cost = 0;
     double power = 0;
     bool valid = false;
+};
+
+/// What the exact search came to.
+struct ExactResult {
+    std::optional<Trial> best;  ///< nothing when no design will do, or none was met
+    bool proven = false;        ///< all designs are settled; otherwise the search was stopped on the way
+    double looked = 0;          ///< the share of the sizes that was looked at, 0 to 1
+    std::int64_t runs = 0;      ///< runs of the computation
 };
 
 /// A design beside the trials of a search that costs less than all of them.

@@ -1,0 +1,42 @@
+// The exact search: of all designs with whole sizes it finds the one that costs least for a required power,
+// or the one with the most power for a budget, and proves it. Both arms have the same sizes. A size set by
+// hand stays; where low cell counts are not allowed, level 1 is large enough to avoid them. Knows no window.
+//
+// It walks through the sizes of the free levels from the top down and solves for the top level, since power
+// rises with it: the screening of cells looks at level 1 alone, so it only sets a least size there and does
+// not disturb this. The test in normal theory may: where its bound says nothing, the top level is walked unit
+// by unit.
+//
+// Sizes are left out by two bounds that hold for every design. Costs: the levels below at their least sizes,
+// with the least top level. Power: with the weights w of PowerBound and the cost u of a unit, a design whose
+// sum is S costs at least (sum of sqrt(u w))^2 / S for one unit of the top level (Cauchy and Schwarz),
+// however large its free levels may become.
+#pragma once
+
+#include <cstdint>
+#include <optional>
+
+#include "platform/progress.h"
+#include "search/optimal_types.h"
+#include "session/study_trial.h"
+
+namespace lorvane {
+
+/// Powers that agree in so many parts of one count as equal.
+inline constexpr double equalPowers = 1e-9;
+
+/// The least cost of all designs that reach options.power; of several the one with the larger power, then
+/// with fewer units of the top level. A design that is known to reach it may be given to start from. Needs a
+/// study that may be searched. Throws ArithmeticFault.
+ExactResult findCheapest(StudyTrial trial, const OptimalOptions& options, const std::optional<Trial>& known,
+                         Progress& progress);
+
+/// The most power of all designs that cost at most options.budget; of several the cheapest. Where the budget
+/// pays no valid design, the cheapest valid one, whose cost is above it. The same needs; some unit must cost
+/// something.
+ExactResult findMostPower(StudyTrial trial, const OptimalOptions& options, Progress& progress);
+
+/// Whether a design has cell counts that the options do not allow and that a larger level 1 would avoid.
+bool hasForbiddenCells(const StudyTrial& trial, const OptimalOptions& options, const LevelSizes& sizes);
+
+}  // namespace lorvane
