@@ -150,6 +150,33 @@ TEST_F(WizardParts, TheTableMarksTheCheapestAndSharesItsWidth) {
     EXPECT_EQ(table.horizontalHeader()->length(), table.viewport()->width()) << "long heads are cut";
 }
 
+TEST_F(WizardParts, TheProvenRowHasADiamondAndSaysSo) {
+    TrialTable card(&window);
+    card.setGeometry(0, 0, 150, 248);
+    card.show();
+    RecordTable& table = *card.table();
+    const std::vector<QStringList> rows = {{"1,000,000", "1"}, {"2,000,000", "2"}};
+    card.setTrials({"N", "Cost"}, rows, 0, 1, "proven");
+    settle();
+    const QAccessibleTableInterface& cells = *speaker(table).tableInterface();
+    EXPECT_EQ(cells.cellAt(1, 0)->text(QAccessible::Name), "proven, 2,000,000");
+    EXPECT_EQ(cells.cellAt(0, 0)->text(QAccessible::Name), "1,000,000");
+    const auto accent = [&](int left, int width) {
+        const QRect cell = table.visualRect(table.model()->index(1, 0));
+        return pixels(painted(*table.viewport()).copy(left, cell.top(), width, cell.height()),
+                      colour(Role::Accent));
+    };
+    inBothThemes([&] {
+        EXPECT_EQ(accent(0, 3), 0) << "the column is wide enough";
+        EXPECT_GT(accent(3, 20), 0);
+        card.setShown(1);
+        EXPECT_EQ(accent(0, 20), 0) << "in the colour of the text";
+        card.setShown(-1);
+    });
+    card.setTrials({"N", "Cost"}, rows, 0);
+    EXPECT_EQ(accent(0, 20), 0);
+}
+
 TEST_F(WizardParts, TheBandSaysWhatItShowsAndIsAsHighAsItsText) {
     ResultBand band(&window);
     band.resize(700, 40);

@@ -5,6 +5,7 @@
 #include <QPainterPath>
 #include <QPen>
 #include <algorithm>
+#include <numbers>
 
 namespace lorvane::desktop {
 
@@ -35,6 +36,19 @@ void drawDot(QPainter& painter, const QPointF& centre, double diameter, const QC
     painter.setPen(Qt::NoPen);
     painter.setBrush(fill);
     painter.drawEllipse(centre, diameter / 2, diameter / 2);
+}
+
+void drawDiamond(QPainter& painter, const QPointF& centre, double across, const QColor& fill,
+                 const QColor& line, double width) {
+    const double reach = (across - std::numbers::sqrt2 * width) / 2;
+    const QPointF corners[] = {{0, -reach}, {reach, 0}, {0, reach}, {-reach, 0}};
+    QPolygonF diamond;
+    for (const QPointF& corner : corners)
+        diamond << centre + corner;
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(QPen(line, width, Qt::SolidLine, Qt::FlatCap, Qt::MiterJoin));
+    painter.setBrush(fill);
+    painter.drawPolygon(diamond);
 }
 
 void drawBar(QPainter& painter, const QRectF& track, double radius, double share, const QColor& ground,

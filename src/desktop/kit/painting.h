@@ -27,6 +27,10 @@ void drawPlate(QPainter& painter, const QRectF& bounds, double radius, const QCo
 /// A filled dot.
 void drawDot(QPainter& painter, const QPointF& centre, double diameter, const QColor& fill);
 
+/// A square that stands on a corner, so wide from corner to corner; the line lies within that.
+void drawDiamond(QPainter& painter, const QPointF& centre, double across, const QColor& fill,
+                 const QColor& line, double width);
+
 /// A bar with round corners that is filled to a share of its length, 0 to 1.
 void drawBar(QPainter& painter, const QRectF& track, double radius, double share, const QColor& ground,
              const QColor& fill);

@@ -40,6 +40,11 @@ void RecordModel::setRows(std::vector<QStringList> rows) {
     endResetModel();
 }
 
+void RecordModel::setSign(int row, const QString& words) {
+    signRow_ = row;
+    signWords_ = words;
+}
+
 QString RecordModel::text(int row, int column) const {
     return rows_[static_cast<std::size_t>(row)].value(column);
 }
@@ -72,11 +77,19 @@ QVariant RecordModel::tip(int row) const {
     return text.isEmpty() ? QVariant() : QStringLiteral("<p>%1</p>").arg(text.toHtmlEscaped());
 }
 
+QVariant RecordModel::spoken(const QModelIndex& index) const {
+    const QString shown = text(index.row(), index.column());
+    const bool withSign = index.column() == 0 && hasSign(index.row());
+    return withSign ? QStringLiteral("%1, %2").arg(signWords_, shown) : shown;
+}
+
 QVariant RecordModel::data(const QModelIndex& index, int role) const {
     if (role == Qt::DisplayRole)
         return text(index.row(), index.column());
     if (role == Qt::ToolTipRole)
         return tip(index.row());
+    if (role == Qt::AccessibleTextRole)
+        return spoken(index);
     return role == Qt::TextAlignmentRole ? alignment(index.column()) : QVariant();
 }
 

@@ -39,6 +39,11 @@ public:
     /// Where the tip of a row comes from, by its number; asked for when it is shown. Plain text.
     void setTips(std::function<QString(int row)> tips) { tips_ = std::move(tips); }
 
+    /// Says that a row has a sign before its first text, which the words stand for where it cannot be seen. A
+    /// number below 0 takes it away.
+    void setSign(int row, const QString& words);
+    bool hasSign(int row) const { return row == signRow_; }
+
     /// The text of a cell of an existing row; empty where the row has no text for the column.
     QString text(int row, int column) const;
 
@@ -55,10 +60,13 @@ public:
 private:
     QVariant alignment(int column) const;
     QVariant tip(int row) const;
+    QVariant spoken(const QModelIndex& index) const;
 
     std::vector<RecordColumn> columns_;
     std::vector<QStringList> rows_;
     std::function<QString(int)> tips_;
+    QString signWords_;
+    int signRow_ = -1;
     mutable std::vector<double> values_;
     mutable int valuesColumn_ = -1;
 };

@@ -29,6 +29,8 @@ namespace {
 
 constexpr double SortSign = 12;
 constexpr double SortSpace = 4;
+constexpr double DiamondSize = 9;
+constexpr double DiamondLine = 1.4;
 constexpr int FlightTime = 250;  ///< milliseconds
 
 QRectF inner(const QRect& cell, int padding) { return QRectF(cell).adjusted(padding, 0, -padding, 0); }
@@ -91,6 +93,8 @@ public:
         const QString text = index.data().toString();
         const QRectF room = inner(option.rect, table_.room().cellPadding);
         painter->setFont(textFont(table_.isMarked(index) ? TextStyle::BodyStrong : TextStyle::Body));
+        if (table_.hasSign(index))
+            paintDiamond(*painter, room, text, selected);
         painter->setPen(colour(selected ? Role::OnAccent : Role::Text));
         if (isRightAligned(index.data(Qt::TextAlignmentRole)))
             return drawNumber(*painter, room, Qt::AlignRight, text);
@@ -99,6 +103,14 @@ public:
     }
 
 private:
+    /// Before a number at the right of a room.
+    static void paintDiamond(QPainter& painter, const QRectF& room, const QString& number, bool selected) {
+        const double left = room.right() - numberWidth(painter.font(), number) - RecordTable::signSpace;
+        drawDiamond(painter, QPointF(left + DiamondSize / 2, room.center().y()), DiamondSize,
+                    selected ? QColor(Qt::transparent) : colour(Role::Card),
+                    colour(selected ? Role::OnAccent : Role::Accent), DiamondLine);
+    }
+
     const RecordTable& table_;
 };
 
@@ -197,6 +209,15 @@ void RecordTable::setMarkedRow(int row) {
         return;
     markedRow_ = row;
     viewport()->update();
+}
+
+void RecordTable::setSign(int row, const QString& words) {
+    records_->setSign(row, words);
+    viewport()->update();
+}
+
+bool RecordTable::hasSign(const QModelIndex& index) const {
+    return index.column() == 0 && records_->hasSign(numberOf(index));
 }
 
 /// Positions that follow each other are selected as one range, or many would be slow.

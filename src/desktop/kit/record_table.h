@@ -54,6 +54,12 @@ public:
     /// Whether the row of a cell is the one set off; for the painting of cells.
     bool isMarked(const QModelIndex& index) const { return numberOf(index) == markedRow_; }
 
+    /// Sets a diamond before the number in the first column of a row, which screen readers hear as words; a
+    /// row below 0 sets none. It takes so much of the width of the column.
+    void setSign(int row, const QString& words);
+    bool hasSign(const QModelIndex& index) const;
+    static constexpr int signSpace = 14;
+
     /// The numbers of the selected rows, rising.
     QList<int> selectedRows() const;
 

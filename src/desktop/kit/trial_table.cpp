@@ -30,8 +30,10 @@ int widthOf(const RecordModel& records, int column, double widestHead) {
     double widest =
         std::min(widestHead, QFontMetricsF(textFont(TextStyle::CaptionStrong)).horizontalAdvance(title));
     const QFont font = textFont(TextStyle::BodyStrong);
-    for (int row = 0; row < records.rowCount(); ++row)
-        widest = std::max(widest, numberWidth(font, records.text(row, column)));
+    for (int row = 0; row < records.rowCount(); ++row) {
+        const int sign = column == 0 && records.hasSign(row) ? RecordTable::signSpace : 0;
+        widest = std::max(widest, sign + numberWidth(font, records.text(row, column)));
+    }
     return static_cast<int>(std::ceil(widest)) + 2 * Room.cellPadding;
 }
 
@@ -53,7 +55,8 @@ TrialTable::TrialTable(QWidget* parent) : Card(CardTone::Plain, parent), table_(
     table_->setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOn);
 }
 
-void TrialTable::setTrials(const QStringList& heads, const std::vector<QStringList>& rows, int marked) {
+void TrialTable::setTrials(const QStringList& heads, const std::vector<QStringList>& rows, int marked,
+                           int proven, const QString& provenWords) {
     std::vector<RecordColumn> columns;
     for (const QString& head : heads)
         columns.push_back({head, 0, true, false});
@@ -61,6 +64,7 @@ void TrialTable::setTrials(const QStringList& heads, const std::vector<QStringLi
     table_->setColumns(columns);
     table_->setRows(rows);
     table_->setMarkedRow(marked);
+    table_->setSign(proven, provenWords);
     marked_ = marked;
     fitColumns();
     if (!anew)

@@ -1,5 +1,5 @@
-// The table of trials on its card: columns as wide as their numbers, one row marked, one selected at most.
-// Knows texts only.
+// The table of trials on its card: columns as wide as their numbers, one row marked, one proven and one
+// selected at most. Knows texts only.
 #pragma once
 
 #include "desktop/kit/card.h"
@@ -14,9 +14,11 @@ class TrialTable : public Card {
 public:
     explicit TrialTable(QWidget* parent = nullptr);
 
-    /// The heads, the rows of numbers below them, and the number of the row to mark. Where the rows are other
-    /// than before, the table scrolls to the marked one.
-    void setTrials(const QStringList& heads, const std::vector<QStringList>& rows, int marked);
+    /// The heads, the rows of numbers below them, the number of the row to mark, and that of the proven one,
+    /// which has a diamond and says so in words; -1 for none. Where the rows are other than before, the table
+    /// scrolls to the marked one.
+    void setTrials(const QStringList& heads, const std::vector<QStringList>& rows, int marked,
+                   int proven = -1, const QString& provenWords = {});
 
     /// Selects a row, and scrolls to it; below 0 none is, and the keys start from the marked one.
     void setShown(int row);
