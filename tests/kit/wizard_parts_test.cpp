@@ -59,6 +59,18 @@ TEST(RoundScales, MarkWhatIsWithinAndRoundOut) {
     EXPECT_EQ(decimalsOf({-0.25, 0.125, 4}), 3);
 }
 
+TEST(RoundScales, HoldSharesInWholePercents) {
+    const std::tuple<double, double, RoundScale> cases[] = {
+        {0.533, 0.843, {50, 10, 4}}, {0.57, 0.58, {57, 1, 1}}, {0.63, 0.751, {60, 5, 4}},
+        {0.8, 0.8, {79, 1, 2}},      {1, 1, {99, 1, 1}},       {0, 0, {0, 1, 1}}};
+    for (const auto& [low, high, percents] : cases) {
+        const RoundScale scale = percentSteps(low, high);
+        EXPECT_NEAR(100 * scale.low, percents.low, 1e-9) << low;
+        EXPECT_NEAR(100 * scale.high(), percents.high(), 1e-9) << low;
+        EXPECT_EQ(scale.steps, percents.steps) << low;
+    }
+}
+
 TrialPlotContent trials(int count, int best, double unit = 1000) {
     TrialPlotContent content{
         QStringLiteral("Cost"), QStringLiteral("Schools"), QStringLiteral("lowest"), {}, best};
@@ -113,6 +125,24 @@ TEST_F(WizardParts, ThePlotShowsEveryTrialAndTellsOfTheNearest) {
     }
     plot.setContent({});
     EXPECT_EQ(pixels(painted(plot), colour(Role::Treated)), 0) << "without trials an empty card";
+}
+
+TEST_F(WizardParts, ThePlotShowsSharesAroundALimit) {
+    TrialPlot plot(&window);
+    plot.setGeometry(0, 0, 337, 248);
+    TrialPlotContent content = trials(12, 11, 1 / 200.0);
+    content.areShares = true;
+    content.limit = 0.53;
+    content.points[0].value = 0.53;
+    plot.setContent(content);
+    EXPECT_EQ(plot.valueTexts().join(' '), "50% 51% 52% 53% 54% 55%");
+    inBothThemes([&] {
+        const QImage row = painted(plot).copy(70, plot.placeOf(0).toPoint().y(), 200, 1);
+        EXPECT_NEAR(pixels(row, colour(Role::SecondText)), 200 * 4 / 7, 8) << "dashes";
+    });
+    content.limit = 0.95;
+    plot.setContent(content);
+    EXPECT_EQ(plot.valueTexts().join(' '), "50% 60% 70% 80% 90% 100%");
 }
 
 TEST_F(WizardParts, TheTableMarksTheCheapestAndSharesItsWidth) {

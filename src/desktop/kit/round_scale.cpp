@@ -21,6 +21,12 @@ double lineAbove(double value, double step) { return std::ceil(value / step - Ha
 
 bool isWhole(double value) { return std::abs(value - std::round(value)) < Hair * std::max(1.0, value); }
 
+/// The smallest step that is round and whole, and not below a number of 1 or more.
+double wholeRoundStep(double least) {
+    const double step = roundStep(least);
+    return step == std::floor(step) ? step : roundStep(2 * step);
+}
+
 }  // namespace
 
 double roundStep(double least) {
@@ -41,10 +47,18 @@ RoundScale fiveSteps(double low, double high) {
     return scale;
 }
 
-double wholeStep(double length) {
-    const double step = length > MostSteps ? roundStep(length / MostSteps) : 1;
-    return step == std::floor(step) ? step : roundStep(2 * step);
+RoundScale percentSteps(double low, double high) {
+    const double step = wholeRoundStep(std::max(1.0, 100 * (high - low) / Steps));
+    double first = lineBelow(100 * low, step);
+    double last = lineAbove(100 * high, step);
+    if (first == last) {
+        first = std::max(0.0, first - step);
+        last = std::min(100.0, last + step);
+    }
+    return {first / 100, step / 100, static_cast<int>(std::round((last - first) / step))};
 }
+
+double wholeStep(double length) { return length > MostSteps ? wholeRoundStep(length / MostSteps) : 1; }
 
 RoundScale marksWithin(double low, double high) {
     if (!(high > low))

@@ -21,6 +21,10 @@ double roundStep(double least);
 /// below. It never begins below 0.
 RoundScale fiveSteps(double low, double high);
 
+/// A scale of round steps, mostly four to six of them and each of whole percents, that holds two shares of 0
+/// to 1. It stays within 0 and 1.
+RoundScale percentSteps(double low, double high);
+
 /// The distance of marks on whole numbers, itself whole and round, that gives no more than seven marks on a
 /// length.
 double wholeStep(double length);

@@ -42,6 +42,7 @@ constexpr double LegendRight = 13;
 constexpr double LegendSign = 10;  ///< from the middle of a mark to its words
 constexpr double LegendGap = 16;   ///< from the middle of a mark to the words before it
 constexpr double BestRoom = 0.05;  ///< of the range of costs, below the cheapest
+constexpr double Dash = 4, DashGap = 3;
 
 QColor way() {
     QColor faint = colour(Role::Treated);
@@ -78,23 +79,26 @@ const TrialPlot::Unit& TrialPlot::unitOf(double highest) {
 }
 
 QString TrialPlot::fullTitle() const {
-    const Unit& unit = unitOf(costs_.high());
+    const Unit& unit = unitOf(values_.high());
     return unit.name == nullptr ? content_.title
                                 : QStringLiteral("%1 (%2)").arg(content_.title, tr(unit.name));
 }
 
 void TrialPlot::measure() {
     const auto bySize = [](const TrialPoint& a, const TrialPoint& b) { return a.size < b.size; };
-    const auto byCost = [](const TrialPoint& a, const TrialPoint& b) { return a.cost < b.cost; };
+    const auto byValue = [](const TrialPoint& a, const TrialPoint& b) { return a.value < b.value; };
     const QList<TrialPoint>& points = content_.points;
+    values_ = {};
     if (points.isEmpty())
         return;
     const auto [narrow, wide] = std::minmax_element(points.begin(), points.end(), bySize);
-    const auto [cheap, dear] = std::minmax_element(points.begin(), points.end(), byCost);
+    const auto [least, most] = std::minmax_element(points.begin(), points.end(), byValue);
     lowSize_ = narrow->size;
     highSize_ = wide->size;
-    const double room = BestRoom * (dear->cost - cheap->cost);
-    costs_ = fiveSteps(std::max(0.0, cheap->cost - room), dear->cost);
+    const double low = std::min(least->value, content_.limit.value_or(least->value));
+    const double high = std::max(most->value, content_.limit.value_or(most->value));
+    values_ = content_.areShares ? percentSteps(low, high)
+                                 : fiveSteps(std::max(0.0, low - BestRoom * (high - low)), high);
 }
 
 void TrialPlot::setContent(const TrialPlotContent& content) {
@@ -112,15 +116,25 @@ void TrialPlot::setContent(const TrialPlotContent& content) {
 
 // Places ---------------------------------------------------------------------------------------------------
 
-QString TrialPlot::costText(int line) const {
-    return QString::number((costs_.low + line * costs_.step) / unitOf(costs_.high()).size);
+QString TrialPlot::valueText(int line) const {
+    const double value = values_.low + line * values_.step;
+    if (content_.areShares)
+        return QString::number(std::round(100 * value)) + QLatin1Char('%');
+    return QString::number(value / unitOf(values_.high()).size);
+}
+
+QStringList TrialPlot::valueTexts() const {
+    QStringList texts;
+    for (int line = 0; line <= values_.steps; ++line)
+        texts << valueText(line);
+    return texts;
 }
 
 QRectF TrialPlot::field() const {
     const QFont font = textFont(TextStyle::Mark);
     double widest = 0;
-    for (int line = 0; line <= costs_.steps; ++line)
-        widest = std::max(widest, numberWidth(font, costText(line)));
+    for (const QString& text : valueTexts())
+        widest = std::max(widest, numberWidth(font, text));
     const double left = std::max(LeastLeft, Padding + widest + MarkGap);
     return {left, Top, width() - left - Right, height() - Top - Bottom};
 }
@@ -131,14 +145,14 @@ double TrialPlot::across(double size) const {
     return length > 0 ? area.left() + area.width() * (size - lowSize_) / length : area.center().x();
 }
 
-double TrialPlot::down(double cost) const {
+double TrialPlot::down(double value) const {
     const QRectF area = field();
-    return area.bottom() - area.height() * (cost - costs_.low) / (costs_.high() - costs_.low);
+    return area.bottom() - area.height() * (value - values_.low) / (values_.high() - values_.low);
 }
 
 QPointF TrialPlot::placeOf(int point) const {
     const TrialPoint& trial = content_.points[point];
-    return {across(trial.size), down(trial.cost)};
+    return {across(trial.size), down(trial.value)};
 }
 
 int TrialPlot::nearest(const QPointF& place) const {
@@ -186,17 +200,27 @@ void TrialPlot::leaveEvent(QEvent*) { setPointed(-1); }
 
 // Painting -------------------------------------------------------------------------------------------------
 
-/// Where the lines would be too close for their costs there are only the lowest and the highest.
-void TrialPlot::paintCosts(QPainter& painter) const {
+/// Where the lines would be too close for their texts there are only the lowest and the highest.
+void TrialPlot::paintValues(QPainter& painter) const {
     const QRectF area = field();
     painter.setFont(textFont(TextStyle::Mark));
     painter.setPen(colour(Role::SecondText));
-    const bool low = area.height() / costs_.steps < LeastStep;
-    for (int line = 0; line <= costs_.steps; line += low ? costs_.steps : 1) {
-        const double y = std::round(down(costs_.low + line * costs_.step));
+    const bool low = area.height() / values_.steps < LeastStep;
+    for (int line = 0; line <= values_.steps; line += low ? values_.steps : 1) {
+        const double y = std::round(down(values_.low + line * values_.step));
         painter.fillRect(QRectF(area.left(), y, area.width(), 1), colour(Role::Line));
-        drawNumber(painter, QRectF(0, y - 9.5, area.left() - MarkGap, 20), Qt::AlignRight, costText(line));
+        drawNumber(painter, QRectF(0, y - 9.5, area.left() - MarkGap, 20), Qt::AlignRight, valueText(line));
     }
+}
+
+void TrialPlot::paintLimit(QPainter& painter) const {
+    const QRectF area = field();
+    const double y = std::round(down(*content_.limit)) + 0.5;
+    QPen dashes(colour(Role::SecondText), 1, Qt::CustomDashLine, Qt::FlatCap);
+    dashes.setDashPattern({Dash, DashGap});
+    painter.setRenderHint(QPainter::Antialiasing, false);
+    painter.setPen(dashes);
+    painter.drawLine(QPointF(area.left(), y), QPointF(area.right(), y));
 }
 
 void TrialPlot::paintSizes(QPainter& painter) const {
@@ -262,8 +286,10 @@ void TrialPlot::paintEvent(QPaintEvent*) {
     paintHead(painter);
     if (content_.points.isEmpty())
         return;
-    paintCosts(painter);
+    paintValues(painter);
     paintSizes(painter);
+    if (content_.limit)
+        paintLimit(painter);
     paintTrials(painter);
     paintMark(painter, placeOf(content_.best), true);
     if (content_.shown >= 0)

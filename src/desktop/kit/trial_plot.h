@@ -1,7 +1,9 @@
-// The drawing of trials: the cost of each above a size, a line that joins them in their order, a ring at the
-// cheapest and a dot at the one that is shown, both told in the head. All texts are given, and the owner says
-// which trials these are.
+// The drawing of trials: the cost or the power of each above a size, a line that joins them in their order, a
+// ring at the cheapest and a dot at the one that is shown, both told in the head. All texts are given, and
+// the owner says which trials these are.
 #pragma once
+
+#include <optional>
 
 #include <QList>
 #include <QStringList>
@@ -14,7 +16,7 @@ namespace lorvane::desktop {
 /// One trial.
 struct TrialPoint {
     double size = 0;
-    double cost = 0;    ///< 0 or more
+    double value = 0;   ///< 0 or more
     QStringList words;  ///< the lines of its tool tip
     bool operator==(const TrialPoint&) const = default;
 };
@@ -28,6 +30,8 @@ struct TrialPlotContent {
     int best = 0;    ///< number of the cheapest in points, from 0; must be one of them unless there are none
     int shown = -1;  ///< number of the one with the dot; below 0 none has it
     QString shownLabel = {};  ///< what the dot marks
+    bool areShares = false;   ///< the values are shares of 0 to 1, written as per cent, and not costs
+    std::optional<double> limit = {};  ///< the value of a dashed line
     bool operator==(const TrialPlotContent&) const = default;
 };
 
@@ -40,6 +44,9 @@ public:
 
     /// The content; both scales follow from the points.
     void setContent(const TrialPlotContent& content);
+
+    /// The texts at the lines of the values, from the lowest up.
+    QStringList valueTexts() const;
 
     /// The middle of the dot of a trial, in the widget's coordinates. The trial must be one of the points.
     QPointF placeOf(int point) const;
@@ -62,22 +69,23 @@ private:
 
     QRectF field() const;
     double across(double size) const;
-    double down(double cost) const;
-    QString costText(int line) const;
+    double down(double value) const;
+    QString valueText(int line) const;
     QString fullTitle() const;
     int nearest(const QPointF& place) const;
     int pointAt(const QPointF& place) const;
     void setPointed(int point);
     void measure();
 
-    void paintCosts(QPainter& painter) const;
+    void paintValues(QPainter& painter) const;
+    void paintLimit(QPainter& painter) const;
     void paintSizes(QPainter& painter) const;
     void paintTrials(QPainter& painter) const;
     void paintHead(QPainter& painter) const;
     void paintMark(QPainter& painter, const QPointF& place, bool best) const;
 
     TrialPlotContent content_;
-    RoundScale costs_;
+    RoundScale values_;
     double lowSize_ = 0;
     double highSize_ = 0;
     int pointed_ = -1;
