@@ -11,6 +11,7 @@
 #include "desktop/kit/offer_card.h"
 #include "desktop/kit/push_button.h"
 #include "desktop/kit/result_band.h"
+#include "desktop/kit/text_style.h"
 #include "desktop/kit/theme.h"
 #include "desktop/kit/trial_plot.h"
 #include "desktop/kit/trial_table.h"
@@ -143,6 +144,43 @@ TEST_F(WizardParts, ThePlotShowsSharesAroundALimit) {
     content.limit = 0.95;
     plot.setContent(content);
     EXPECT_EQ(plot.valueTexts().join(' '), "50% 60% 70% 80% 90% 100%");
+}
+
+TEST_F(WizardParts, ADesignBesideTheTrialsIsMarkedAndPicked) {
+    TrialPlot plot(&window);
+    plot.setGeometry(0, 0, 337, 248);
+    plot.show();
+    TrialPlotContent content = trials(31, 0);
+    content.title = "Cost of each trial";
+    content.shownLabel = "shown";
+    content.provenLabel = "proven";
+    content.points << TrialPoint{40, 98000, {"Schools 40"}, false};
+    plot.setContent(content);
+    EXPECT_EQ(spoken(plot) + plot.valueTexts().last().toStdString(), "Cost of each trial (thousands)130");
+    const QPoint between = (plot.placeOf(30).toPoint() + plot.placeOf(31).toPoint()) / 2;
+    EXPECT_EQ(painted(plot).pixelColor(between), colour(Role::Card)) << "not on the line";
+    content.proven = 31;
+    content.bestLabel = "most power";
+    plot.setContent(content);
+    EXPECT_EQ(spoken(plot) + plot.valueTexts().last().toStdString(), "Cost of each trial130,000");
+    EXPECT_EQ(spoken(plot, QAccessible::Description), "most power: Schools 17, Cost; proven: Schools 40");
+    const QPoint place = plot.placeOf(31).toPoint();
+    const QImage unshown = painted(plot);
+    EXPECT_EQ(unshown.pixelColor(place), colour(Role::Card));
+    QSignalSpy picked(&plot, &TrialPlot::picked);
+    QTest::mouseClick(window.windowHandle(), Qt::LeftButton, {}, place + QPoint(2, 2));
+    ASSERT_EQ(picked.count(), 1);
+    EXPECT_EQ(picked[0][0], 31);
+    content.shown = 31;
+    plot.setContent(content);
+    EXPECT_EQ(plot.placeOf(31).toPoint(), place) << "nothing moves by a click";
+    EXPECT_NE(painted(plot).pixelColor(place), colour(Role::Card)) << "a full diamond";
+    const QFontMetricsF metrics(textFont(TextStyle::CaptionStrong));
+    const QRect title(10, 8, 8 + static_cast<int>(metrics.horizontalAdvance(content.title)), 24);
+    const QImage withMarks = painted(plot).copy(title);
+    content.points.clear();
+    plot.setContent(content);
+    EXPECT_EQ(withMarks, painted(plot).copy(title)) << "three marks leave the title whole";
 }
 
 TEST_F(WizardParts, TheTableMarksTheCheapestAndSharesItsWidth) {

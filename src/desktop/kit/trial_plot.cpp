@@ -5,9 +5,9 @@
 #include <cmath>
 
 #include <QFontMetricsF>
+#include <QLocale>
 #include <QMouseEvent>
 #include <QPainter>
-#include <QPainterPath>
 #include <QToolTip>
 
 #include "desktop/kit/card.h"
@@ -35,12 +35,14 @@ constexpr double DotSize = 4.5;
 constexpr double PointedSize = 8;
 constexpr double RingSize = 10;
 constexpr double RingLine = 1.7;
+constexpr double DiamondSize = 13;
 constexpr double WayLine = 1.25;
 constexpr float WayShare = 0.45F;
 constexpr double ShownSize = 10;
 constexpr double LegendRight = 13;
 constexpr double LegendSign = 10;  ///< from the middle of a mark to its words
 constexpr double LegendGap = 16;   ///< from the middle of a mark to the words before it
+constexpr double NarrowGap = 11;   ///< the same where the title would be cut
 constexpr double BestRoom = 0.05;  ///< of the range of costs, below the cheapest
 constexpr double Dash = 4, DashGap = 3;
 
@@ -66,22 +68,52 @@ struct TrialPlot::Unit {
     const char* name;
 };
 
+// Content --------------------------------------------------------------------------------------------------
+
 TrialPlot::TrialPlot(QWidget* parent) : PaintedText(parent) {
     setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
     setMouseTracking(true);
 }
 
-const TrialPlot::Unit& TrialPlot::unitOf(double highest) {
+const TrialPlot::Unit& TrialPlot::unit() const {
     static constexpr Unit Units[] = {
         {1e7, 1e6, QT_TR_NOOP("millions")}, {1e4, 1e3, QT_TR_NOOP("thousands")}, {0, 1, nullptr}};
+    if (inFull_)
+        return Units[2];
     return *std::find_if(std::begin(Units), std::end(Units),
-                         [&](const Unit& unit) { return highest >= unit.from; });
+                         [&](const Unit& unit) { return values_.high() >= unit.from; });
 }
 
 QString TrialPlot::fullTitle() const {
-    const Unit& unit = unitOf(values_.high());
-    return unit.name == nullptr ? content_.title
-                                : QStringLiteral("%1 (%2)").arg(content_.title, tr(unit.name));
+    const char* name = unit().name;
+    return name == nullptr ? content_.title : QStringLiteral("%1 (%2)").arg(content_.title, tr(name));
+}
+
+/// From left to right in the head; on the drawing each lies over those before it.
+QList<TrialPlot::Mark> TrialPlot::marks() const {
+    if (content_.points.isEmpty())
+        return {};
+    return {{Sign::Ring, content_.best, content_.bestLabel},
+            {Sign::Diamond, content_.proven, content_.provenLabel},
+            {Sign::Dot, content_.shown, content_.shownLabel}};
+}
+
+/// The dot comes and goes with a click, so its room counts without it.
+bool TrialPlot::titleFits(double gap) const {
+    const QFontMetricsF words(textFont(TextStyle::Mark));
+    double room = width() - Padding - LegendRight;
+    for (const Mark& mark : marks())
+        if (mark.point >= 0 || (mark.sign == Sign::Dot && !mark.words.isEmpty()))
+            room -= words.horizontalAdvance(mark.words) + LegendSign + gap;
+    return QFontMetricsF(textFont(TextStyle::CaptionStrong)).horizontalAdvance(fullTitle()) <= room;
+}
+
+/// The title gives up its unit first, then the marks stand closer.
+void TrialPlot::fitHead() {
+    inFull_ = false;
+    inFull_ = unit().name != nullptr && !titleFits(LegendGap);
+    headGap_ = titleFits(LegendGap) ? LegendGap : NarrowGap;
+    setAccessibleName(fullTitle());
 }
 
 void TrialPlot::measure() {
@@ -107,11 +139,19 @@ void TrialPlot::setContent(const TrialPlotContent& content) {
     content_ = content;
     setPointed(-1);
     measure();
-    setAccessibleName(fullTitle());
-    if (content_.best < content_.points.size())
-        setAccessibleDescription(QStringLiteral("%1: %2").arg(
-            content_.bestLabel, content_.points[content_.best].words.join(QStringLiteral(", "))));
+    fitHead();
+    QStringList told;
+    for (const Mark& mark : marks())
+        if (mark.point >= 0 && mark.sign != Sign::Dot)
+            told << QStringLiteral("%1: %2").arg(
+                mark.words, content_.points[mark.point].words.join(QStringLiteral(", ")));
+    setAccessibleDescription(told.join(QStringLiteral("; ")));
     update();
+}
+
+void TrialPlot::resizeEvent(QResizeEvent* event) {
+    PaintedText::resizeEvent(event);
+    fitHead();
 }
 
 // Places ---------------------------------------------------------------------------------------------------
@@ -120,7 +160,9 @@ QString TrialPlot::valueText(int line) const {
     const double value = values_.low + line * values_.step;
     if (content_.areShares)
         return QString::number(std::round(100 * value)) + QLatin1Char('%');
-    return QString::number(value / unitOf(values_.high()).size);
+    if (inFull_)
+        return QLocale(QLocale::English).toString(value, 'f', decimalsOf(values_));
+    return QString::number(value / unit().size);
 }
 
 QStringList TrialPlot::valueTexts() const {
@@ -236,42 +278,56 @@ void TrialPlot::paintSizes(QPainter& painter) const {
 }
 
 void TrialPlot::paintTrials(QPainter& painter) const {
-    QPainterPath path(placeOf(0));
-    for (int i = 1; i < content_.points.size(); ++i)
-        path.lineTo(placeOf(i));
+    QPolygonF line;
+    for (int i = 0; i < content_.points.size(); ++i)
+        if (content_.points[i].onLine)
+            line << placeOf(i);
     painter.setRenderHint(QPainter::Antialiasing);
-    painter.strokePath(path, QPen(way(), WayLine, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
+    painter.setPen(QPen(way(), WayLine, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
+    painter.drawPolyline(line);
     for (int i = 0; i < content_.points.size(); ++i)
         drawDot(painter, placeOf(i), i == pointed_ ? PointedSize : DotSize, colour(Role::Treated));
 }
 
-void TrialPlot::paintMark(QPainter& painter, const QPointF& place, bool best) const {
-    if (!best)
+void TrialPlot::paintSign(QPainter& painter, Sign sign, const QPointF& place, const QColor& ground) const {
+    if (sign == Sign::Dot)
         return drawDot(painter, place, ShownSize, shownColour());
+    if (sign == Sign::Diamond)
+        return drawDiamond(painter, place, DiamondSize, ground, colour(Role::Accent), RingLine);
     painter.setRenderHint(QPainter::Antialiasing);
     painter.setPen(QPen(colour(Role::Treated), RingLine));
-    painter.setBrush(colour(Role::Card));
+    painter.setBrush(ground);
     painter.drawEllipse(place, RingSize / 2, RingSize / 2);
+}
+
+/// A dot would cover the diamond, so the diamond is filled instead.
+void TrialPlot::paintMarks(QPainter& painter) const {
+    for (const Mark& mark : marks()) {
+        const bool isBoth = mark.point == content_.shown && mark.point == content_.proven;
+        if (mark.point < 0 || (isBoth && mark.sign == Sign::Dot))
+            continue;
+        paintSign(painter, mark.sign, placeOf(mark.point), isBoth ? shownColour() : colour(Role::Card));
+    }
 }
 
 /// The marks with their words from the right end, the title before them.
 void TrialPlot::paintHead(QPainter& painter) const {
     double right = width() - LegendRight;
-    const QFontMetricsF marks(textFont(TextStyle::Mark));
-    const auto addMark = [&](const QString& words, bool best) {
+    const QFontMetricsF metrics(textFont(TextStyle::Mark));
+    const auto addMark = [&](const QString& words, Sign sign) {
         painter.setFont(textFont(TextStyle::Mark));
         painter.setPen(colour(Role::SecondText));
-        right -= marks.horizontalAdvance(words);
+        right -= metrics.horizontalAdvance(words);
         const QRectF line(0, TitleMiddle - 10, width(), 20);
         painter.drawText(QPointF(right, centredBaseline(painter.font(), line)), words);
         right -= LegendSign;
-        paintMark(painter, QPointF(right, TitleMiddle), best);
-        right -= LegendGap;
+        paintSign(painter, sign, QPointF(right, TitleMiddle), colour(Role::Card));
+        right -= headGap_;
     };
-    if (content_.shown >= 0)
-        addMark(content_.shownLabel, false);
-    if (!content_.points.isEmpty())
-        addMark(content_.bestLabel, true);
+    const QList<Mark> told = marks();
+    for (qsizetype i = told.size() - 1; i >= 0; --i)
+        if (told[i].point >= 0)
+            addMark(told[i].words, told[i].sign);
     const QFont font = textFont(TextStyle::CaptionStrong);
     painter.setFont(font);
     painter.setPen(colour(Role::SecondText));
@@ -291,9 +347,7 @@ void TrialPlot::paintEvent(QPaintEvent*) {
     if (content_.limit)
         paintLimit(painter);
     paintTrials(painter);
-    paintMark(painter, placeOf(content_.best), true);
-    if (content_.shown >= 0)
-        paintMark(painter, placeOf(content_.shown), false);
+    paintMarks(painter);
 }
 
 }  // namespace lorvane::desktop

@@ -1,6 +1,6 @@
 // The drawing of trials: the cost or the power of each above a size, a line that joins them in their order, a
-// ring at the cheapest and a dot at the one that is shown, both told in the head. All texts are given, and
-// the owner says which trials these are.
+// ring at the best, a diamond at the one that is proven to be it, and a dot at the one that is shown, all
+// told in the head. All texts are given, and the owner says which trials these are.
 #pragma once
 
 #include <optional>
@@ -13,11 +13,12 @@
 
 namespace lorvane::desktop {
 
-/// One trial.
+/// One trial, or a design beside them.
 struct TrialPoint {
     double size = 0;
-    double value = 0;   ///< 0 or more
-    QStringList words;  ///< the lines of its tool tip
+    double value = 0;    ///< 0 or more
+    QStringList words;   ///< the lines of its tool tip
+    bool onLine = true;  ///< the line passes by the others
     bool operator==(const TrialPoint&) const = default;
 };
 
@@ -27,10 +28,12 @@ struct TrialPlotContent {
     QString sizeLabel;  ///< below the sizes
     QString bestLabel;  ///< what the ring marks
     QList<TrialPoint> points;
-    int best = 0;    ///< number of the cheapest in points, from 0; must be one of them unless there are none
+    int best = 0;    ///< number of the one with the ring, from 0; must be one of them unless there are none
     int shown = -1;  ///< number of the one with the dot; below 0 none has it
-    QString shownLabel = {};  ///< what the dot marks
-    bool areShares = false;   ///< the values are shares of 0 to 1, written as per cent, and not costs
+    QString shownLabel = {};   ///< what the dot marks; with a label the head keeps room for it
+    int proven = -1;           ///< number of the one with the diamond, another than best; below 0 none has it
+    QString provenLabel = {};  ///< what the diamond marks
+    bool areShares = false;    ///< the values are shares of 0 to 1, written as per cent, and not costs
     std::optional<double> limit = {};  ///< the value of a dashed line
     bool operator==(const TrialPlotContent&) const = default;
 };
@@ -59,14 +62,23 @@ signals:
 
 protected:
     void paintEvent(QPaintEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
     void mouseMoveEvent(QMouseEvent* event) override;
     void mousePressEvent(QMouseEvent* event) override;
     void leaveEvent(QEvent* event) override;
 
 private:
+    enum class Sign { Ring, Diamond, Dot };
+    struct Mark {
+        Sign sign;
+        int point;  ///< below 0 for none
+        QString words;
+    };
     struct Unit;
-    static const Unit& unitOf(double highest);
 
+    const Unit& unit() const;
+    QList<Mark> marks() const;
+    bool titleFits(double gap) const;
     QRectF field() const;
     double across(double size) const;
     double down(double value) const;
@@ -76,16 +88,20 @@ private:
     int pointAt(const QPointF& place) const;
     void setPointed(int point);
     void measure();
+    void fitHead();
 
     void paintValues(QPainter& painter) const;
     void paintLimit(QPainter& painter) const;
     void paintSizes(QPainter& painter) const;
     void paintTrials(QPainter& painter) const;
     void paintHead(QPainter& painter) const;
-    void paintMark(QPainter& painter, const QPointF& place, bool best) const;
+    void paintMarks(QPainter& painter) const;
+    void paintSign(QPainter& painter, Sign sign, const QPointF& place, const QColor& ground) const;
 
     TrialPlotContent content_;
     RoundScale values_;
+    bool inFull_ = false;  ///< the values, since their unit has no room in the head
+    double headGap_ = 0;
     double lowSize_ = 0;
     double highSize_ = 0;
     int pointed_ = -1;
