@@ -29,6 +29,7 @@ void OptimalWindow::registerNames(ControlRegistry& registry) const {
                                                            {"pnlOther", &pnlOther_}};
     for (const auto& [name, panel] : panels)
         registry.add(std::string("frmOptimal.") + name, *panel);
+    question_.registerNames(registry);
     registry.add("frmOptimal.State", [this]() -> ControlValue { return static_cast<double>(state_); });
     for (int button = resetButton; button <= closeButton; ++button)
         registry.add(indexedName("frmOptimal.cmdOpt", button), cmdOpt_(button));
@@ -68,7 +69,37 @@ void OptimalWindow::registerRowNames(ControlRegistry& registry, int level) const
 void OptimalWindow::registerEvents(EventRegistry& events) {
     for (int level = lowestLevel; level <= highestFreeLevel; ++level)
         registerRow(events, level);
+    registerQuestion(events);
     registerButtons(events);
+}
+
+// A click into a field asks its question, too.
+void OptimalWindow::registerQuestion(EventRegistry& events) {
+    using Question = OptimalQuestion;
+    using enum OptimalGoal;
+    const std::string power = "frmOptimal.txtReqPower", budget = "frmOptimal.txtBudget";
+    const std::pair<std::string, OptimalGoal> asking[] = {{"frmOptimal.optGoal(1)", cheapest},
+                                                          {"frmOptimal.optGoal(2)", mostPower},
+                                                          {power, cheapest},
+                                                          {budget, mostPower}};
+    for (const auto& [name, goal] : asking)
+        events.onClick(name, [this, goal = goal] {
+            changeQuestion([goal](Question& question) { return question.ask(goal); });
+        });
+    const std::pair<const char*, bool (Question::*)(int)> arrows[] = {
+        {"frmOptimal.spnReqPower", &Question::spinPower}, {"frmOptimal.spnBudget", &Question::spinBudget}};
+    for (const auto& [name, spin] : arrows)
+        events.onSpin(name, [this, spin = spin](int direction) {
+            changeQuestion([&](Question& question) { return (question.*spin)(direction); });
+        });
+    events.addTextBox(power, question_.field(cheapest));
+    events.onTyped(power, [this] { changeQuestion(&Question::takePower); });
+    events.addTextBox(budget, question_.field(mostPower));
+    events.onTyped(budget, [this] { changeQuestion(&Question::takeBudget); });
+    events.addNumber(budget,
+                     {Question::leastBudget, Question::largestBudget, [this](double amount) {
+                          changeQuestion([&](Question& question) { return question.setBudget(amount); });
+                      }});
 }
 
 void OptimalWindow::registerRow(EventRegistry& events, int level) {

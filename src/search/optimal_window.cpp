@@ -23,8 +23,6 @@ constexpr const char* numbersAreShown = "Numbers are shown here. Click <Paste> t
 constexpr const char* pasteCheapest = "Paste";
 constexpr const char* pasted = "Click <Reset> to modify options or <Close> to close this panel";
 
-std::string percentText(double power) { return shortestText(roundHalfToEven(power * 100 * 100) / 100) + "%"; }
-
 std::string joined(const std::vector<std::string>& paragraphs, const char* between) {
     std::string text;
     for (const std::string& paragraph : paragraphs)
@@ -62,7 +60,8 @@ private:
 
 }  // namespace
 
-OptimalWindow::OptimalWindow(Design& design, Progress& progress) : design_(design), progress_(progress) {
+OptimalWindow::OptimalWindow(Design& design, Progress& progress)
+    : design_(design), progress_(progress), question_(design) {
     pnlAdjustOuter_.Visible = false;
     pnlAdjustInnerTitle_.Caption = "Notes";
     for (const auto& [button, caption] :
@@ -83,6 +82,7 @@ bool OptimalWindow::canBeSeen() const {
 // An edit takes the result away, also of a wizard that makes way: it must not be pasted onto another study.
 void OptimalWindow::follow(const Changed& changed) {
     writeHeads();
+    question_.follow(hasResult());
     if (changed.reach == Reach::study || changed.reach == Reach::anew)
         ReDisplayOptimal();
 }
@@ -132,7 +132,7 @@ void OptimalWindow::DisplayOptimalOptions() {
         const double size = s.isBlocked(level) ? s.txtNB(level) : s.txtNT(level);
         setSize(level, std::clamp(size, smallestSize, largestSize));
     }
-    requiredPower_.reset();
+    question_.startAnew();
 }
 
 void OptimalWindow::setSize(int level, double size) {
@@ -145,14 +145,11 @@ void OptimalWindow::writeHeads() {
         lblGroup_(group).Caption = design_.study().txtGroupName(group);
 }
 
-double OptimalWindow::requiredPower() const { return requiredPower_.value_or(design_.study().ReqPower); }
-
 void OptimalWindow::ReDisplayOptimal() {
     if (running_ || !canBeSeen())
         return;
-    const Study& s = design_.study();
-    pnlFindPower_.Caption = "Find the number of " + s.txtName(s.NumLevels) + " needed for power of " +
-                            percentText(requiredPower()) + ", using the following settings";
+    question_.follow(false);
+    pnlFindPower_.Caption = question_.heading();
     for (int level = lowestLevel; level <= highestLevel; ++level)
         writeRow(level);
     forgetResult();
@@ -230,6 +227,14 @@ void OptimalWindow::say(State state, std::string title, std::string text) {
     }
 }
 
+// While a search runs the question stays as it was asked.
+void OptimalWindow::changeQuestion(const std::function<bool(OptimalQuestion&)>& change) {
+    if (running_)
+        question_.follow(true);
+    else if (change(question_))
+        ReDisplayOptimal();
+}
+
 void OptimalWindow::choose(int level, bool manual) {
     LevelRow& row = rows_(level);
     if (level >= design_.study().NumLevels || !row.optManual.Enabled)
@@ -253,12 +258,14 @@ void OptimalWindow::spin(int level, int direction) {
 
 OptimalOptions OptimalWindow::options() const {
     OptimalOptions options;
+    options.goal = question_.goal();
+    options.budget = question_.budget();
     for (int level = lowestLevel; level <= highestFreeLevel; ++level) {
         options.manual(level) = level < design_.study().NumLevels && isManual(level);
         options.numReps(level) = rows_(level).txtNumReps;
     }
     options.iterations = design_.settings().IterationsForOptimal;
-    options.power = requiredPower();
+    options.power = design_.study().ReqPower;
     options.allowLowCellCounts = design_.settings().AllowLowCellCounts;
     return options;
 }

@@ -1,8 +1,8 @@
-// The optimal design wizard: options of the levels, the search, its sizes and cost, its notes. A display
-// model with its commands.
+// The optimal design wizard: the question, options of the levels, the search, its sizes and cost, its notes.
+// A display model with its commands.
 #pragma once
 
-#include <optional>
+#include <functional>
 #include <string>
 #include <vector>
 
@@ -13,6 +13,7 @@
 #include "screen/design.h"
 #include "screen/part.h"
 #include "search/optimal_outcome.h"
+#include "search/optimal_question.h"
 #include "search/optimal_search.h"
 #include "search/optimal_texts.h"
 
@@ -65,14 +66,12 @@ public:
     /// The whole run. The study is as before afterwards. Throws ArithmeticFault.
     void ComputeOptimalDesign();
 
-    /// The power that a run must reach when it is not the study's own.
-    void requirePower(double power) { requiredPower_ = power; }
-
     /// Writes the sizes of the design that is looked at into the study; nothing without a result.
     void paste();
 
     State state() const noexcept { return state_; }
 
+    const OptimalQuestion& question() const { return question_; }
     const LevelRow& row(int level) const { return rows_(level); }
     const Panel& lblLevel() const { return lblLevel_; }                  ///< head of the names
     const Panel& lblGroup(int group) const { return lblGroup_(group); }  ///< heads of the arms
@@ -116,10 +115,12 @@ private:
     bool isManual(int level) const { return rows_(level).optManual.Value; }
     void registerRowNames(ControlRegistry& registry, int level) const;
     void registerRow(EventRegistry& events, int level);
+    void registerQuestion(EventRegistry& events);
     void registerButtons(EventRegistry& events);
     void registerOffers(EventRegistry& events);
     void pressCompute();
     void close();
+    void changeQuestion(const std::function<bool(OptimalQuestion&)>& change);
     void choose(int level, bool manual);
     void spin(int level, int direction);
     void writeNumber(int level, double size);
@@ -131,7 +132,6 @@ private:
     void writeCells(int level, const std::string& arms, const std::string& block);
     void showButtons(bool reset, bool compute, bool paste, bool close);
     OptimalOptions options() const;
-    double requiredPower() const;
     void showNone(const OptimalResult& result, const std::vector<ReadinessProblem>& problems);
     void showFound(OptimalResult result, const OptimalOptions& options);
     void lookAt(void (OptimalOutcome::*design)());
@@ -141,6 +141,7 @@ private:
 
     Design& design_;
     Progress& progress_;
+    OptimalQuestion question_;
     IndexedArray<LevelRow, 1, 4> rows_;
     Panel pnlFindPower_, pnlOptimalTitle_, pnlOptimalInner_, pnlOptimalCost_, pnlOptimalNote_;
     Panel pnlProblem_, pnlCostWords_{"Cost = "}, pnlCostNumber_;
@@ -152,7 +153,6 @@ private:
     IndexedArray<Button, 1, 4> cmdOpt_;
     Button cmdCheapest_{"Cheapest"}, cmdOther_{"Show this design"}, cmdNotes_;
     OptimalOutcome outcome_;
-    std::optional<double> requiredPower_;
     State state_ = State::message;
     int primary_ = 2;
     bool running_ = false;  ///< refreshes of a run do not reach the wizard

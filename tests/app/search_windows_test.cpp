@@ -131,6 +131,40 @@ TEST_F(SearchWindows, ComputeSearchesAnewAfterASuccess) {
     EXPECT_GT(byHand.cost, first.cost);
 }
 
+TEST_F(SearchWindows, TheQuestionStaysWhileASearchRuns) {
+    struct Meddling final : Progress {
+        bool goOn() override {
+            for (const char* control : {"frmOptimal.optGoal(2)", "frmOptimal.txtBudget"})
+                wizard->click(control);
+            for (const char* arrows : {"frmOptimal.spnBudget", "frmOptimal.spnReqPower"})
+                wizard->spin(arrows, 1);
+            wizard->setNumber("frmOptimal.txtBudget", 5);
+            wizard->type("frmOptimal.txtReqPower", "99%");
+            wizard->type("frmOptimal.txtBudget", "7");
+            return ++looks < 3;
+        }
+        Application* wizard = nullptr;
+        int looks = 0;
+    } progress;
+    Platform platform = outside.platform();
+    platform.progress = &progress;
+    Application wizard(platform);
+    progress.wizard = &wizard;
+    Values values = twentyClusters;
+    for (const char* cost : {"txtCostT(2)", "txtCostC(2)", "txtCostT(1)", "txtCostC(1)"})
+        values.push_back({cost, 10.0});
+    wizard.load(values);
+    wizard.tool("gfrmOptimal");
+    wizard.click("frmOptimal.cmdOpt(2)");
+    EXPECT_EQ(progress.looks, 3);
+    const OptimalQuestion& question = wizard.optimalWindow().question();
+    EXPECT_EQ(question.goal(), OptimalGoal::cheapest);
+    EXPECT_EQ(question.budget(), 4200);
+    EXPECT_EQ(question.field(OptimalGoal::cheapest).Text, "80%");
+    EXPECT_EQ(question.field(OptimalGoal::mostPower).Text, "$4,200");
+    EXPECT_EQ(wizard.session().study().ReqPower, 0.8);
+}
+
 // A study of any design that the search can take.
 Values searchable(int levels, int randomized, DataTypes dataType) {
     Values values = {{"NumLevels", 1.0 * levels},
