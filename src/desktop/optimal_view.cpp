@@ -18,6 +18,7 @@
 #include "desktop/kit/trial_plot.h"
 #include "desktop/kit/trial_table.h"
 #include "desktop/kit/zoom.h"
+#include "desktop/optimal_goal.h"
 #include "desktop/optimal_levels.h"
 
 namespace lorvane::desktop {
@@ -58,9 +59,9 @@ QStringList together(const QStringList& titles, const QStringList& texts) {
 }  // namespace
 
 OptimalView::OptimalView(Desk& desk, ToolPanel* panel, Menus& menus)
-    : PanelView(desk, panel, "frmOptimal"), title_(new QLabel), levels_(new OptimalLevels(desk, menus)),
-      band_(new ResultBand), other_(new OfferCard), trials_(makeTrials()), openNotes_(nullptr),
-      notes_(nullptr) {
+    : PanelView(desk, panel, "frmOptimal"), goal_(new GoalLine(desk)), title_(new QLabel),
+      levels_(new OptimalLevels(desk, menus)), band_(new ResultBand), other_(new OfferCard),
+      trials_(makeTrials()), openNotes_(nullptr), notes_(nullptr) {
     panel->setWindowTitle(shownText(windowTitle(WindowId::frmOptimal)));
     panel->setAttribute(Qt::WA_ShowWithoutActivating, false);
     panel->installEventFilter(this);
@@ -68,9 +69,9 @@ OptimalView::OptimalView(Desk& desk, ToolPanel* panel, Menus& menus)
     title_->setWordWrap(true);
     QVBoxLayout* box = panel->content();
     box->setSizeConstraint(QLayout::SetMinAndMaxSize);
-    box->setContentsMargins(22, 18, 22, 15);
+    box->setContentsMargins(22, 12, 22, 15);
     box->setSpacing(12);
-    for (QWidget* part : std::initializer_list<QWidget*>{title_, levels_, band_, other_, trials_}) {
+    for (QWidget* part : std::initializer_list<QWidget*>{goal_, title_, levels_, band_, other_, trials_}) {
         part->setFixedWidth(contentWidth);
         box->addWidget(part, part == trials_ ? 1 : 0);
     }
@@ -289,6 +290,7 @@ void OptimalView::keepOnScreen() {
 }
 
 void OptimalView::sync() {
+    goal_->sync();
     title_->setText(captionOf(model().pnlFindPower()));
     title_->setMinimumHeight(0);  // or it would be as high as a former one
     title_->setFixedHeight(title_->heightForWidth(contentWidth));

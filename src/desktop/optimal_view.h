@@ -1,5 +1,5 @@
-// The optimal design wizard: the levels, the message or the cost, the design beside the trials, the trials,
-// the buttons, the notes.
+// The optimal design wizard: the question, the levels, the message or the cost, the design beside the trials,
+// the trials, the buttons, the notes.
 #pragma once
 
 #include <map>
@@ -11,6 +11,7 @@ class QLabel;
 
 namespace lorvane::desktop {
 
+class GoalLine;
 class Menus;
 class NotesOverlay;
 class OfferCard;
@@ -54,6 +55,7 @@ private:
     void select(int trial);
     void leave();
 
+    GoalLine* goal_;
     QLabel* title_;
     OptimalLevels* levels_;
     ResultBand* band_;

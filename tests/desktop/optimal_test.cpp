@@ -89,10 +89,12 @@ TEST_F(Wizard, ShowsTheTrialThatIsChosenByKeysAndPointer) {
         return model().outcome()->shownTrial().value_or(99);
     };
     QStringList stops;
-    for (int i = 0; i < 9; ++i, key(Qt::Key_Tab))
+    for (int i = 0; i < 12; ++i, key(Qt::Key_Tab))
         stops << panel("frmOptimal").focusWidget()->objectName().section(QLatin1Char('.'), 1);
-    EXPECT_EQ(stops.join(QLatin1Char(' ')).toStdString(),
-              "cmdOpt(3) cmdOpt(4) optAuto(2) optAuto(1)   cmdOpt(1) cmdNotes cmdOpt(2)")
+    EXPECT_EQ(
+        stops.join(QLatin1Char(' ')).toStdString(),
+        "cmdOpt(3) cmdOpt(4) optGoal(1) txtReqPower txtBudget optAuto(2) optAuto(1)   cmdOpt(1) cmdNotes "
+        "cmdOpt(2)")
         << "the two without a name are the other design's button and the table";
     table.setFocus();
     key(Qt::Key_Down);
@@ -194,6 +196,63 @@ TEST_F(Wizard, OptionsArrowsAndTypedSizesReachTheProgram) {
     EXPECT_TRUE(model().row(1).optAuto.Value);
     key(Qt::Key_Escape);
     EXPECT_FALSE(isShown("frmOptimal"));
+}
+
+TEST_F(Wizard, QuestionsAreChosenByOptionFieldAndKey) {
+    using enum OptimalGoal;
+    const OptimalQuestion& question = model().question();
+    auto& power = part<EntryCell>("frmOptimal.txtReqPower");
+    auto& budget = part<EntryCell>("frmOptimal.txtBudget");
+    const auto asked = [&] {
+        EXPECT_NE(power.isAtRest(), budget.isAtRest());
+        EXPECT_EQ(part<QRadioButton>("frmOptimal.optGoal(2)").isChecked(), power.isAtRest());
+        return question.goal();
+    };
+    EXPECT_EQ(asked(), cheapest);
+    DesktopBench::click(budget, inside(budget));
+    EXPECT_EQ(asked(), mostPower) << "at once, not after the time of a double click";
+    DesktopBench::click(power, arrow(power, 1));
+    EXPECT_EQ(asked(), cheapest);
+    EXPECT_EQ(study().ReqPower, 0.85);
+    EXPECT_EQ(power.text(), "85%");
+    part<QRadioButton>("frmOptimal.optGoal(1)").setFocus();
+    key(Qt::Key_Right);
+    EXPECT_EQ(asked(), mostPower);
+    key(Qt::Key_Left);
+    EXPECT_EQ(asked(), cheapest);
+    click("frmOptimal.optGoal(2)");
+    EXPECT_EQ(asked(), mostPower);
+
+    budget.setFocus();
+    for (const Qt::Key typed : {Qt::Key_9, Qt::Key_0, Qt::Key_Escape})
+        key(typed);
+    ASSERT_TRUE(isShown("frmOptimal")) << "Escape has left the field only";
+    EXPECT_EQ(question.budget(), study().result.txtCost);
+    key(Qt::Key_9);
+    type("0000");
+    key(Qt::Key_Return);
+    EXPECT_EQ(budget.text(), "$90,000");
+    EXPECT_TRUE(budget.hasFocus());
+    EXPECT_EQ(model().result(), nullptr) << "Enter has not pressed Compute";
+    messages.scripted.queue(Answer::OK);
+    int told = 0;
+    messages.beforeShowing = [&] { ++told; };
+    power.setFocus();
+    for (const Qt::Key typed : {Qt::Key_8, Qt::Key_1, Qt::Key_Return})
+        key(typed);
+    EXPECT_EQ(told, 1) << "no choice";
+    EXPECT_EQ(power.text(), "85%");
+    EXPECT_EQ(asked(), mostPower);
+
+    budget.setFocus();
+    const int usual = budget.width();
+    key(Qt::Key_2);
+    type("147483647");
+    key(Qt::Key_Return);
+    EXPECT_EQ(budget.text(), "$2,147,483,647");
+    EXPECT_GT(budget.width(), usual);
+    EXPECT_LE(budget.geometry().right(), 756);
+    EXPECT_EQ(panel("frmOptimal").width(), 800);
 }
 
 TEST_F(Wizard, ALongSearchIsWatchedAndStopped) {

@@ -128,6 +128,11 @@ void ValueCell::setLarge(bool large) {
     update();
 }
 
+void ValueCell::setAtRest(bool atRest) {
+    if (replaced(atRest_, atRest))
+        update();
+}
+
 bool ValueCell::isChangeable() const { return traitsOf(kind_).field; }
 
 void ValueCell::setLinkWords(const QString& words) { linkWords_ = words; }
@@ -381,7 +386,7 @@ QColor ValueCell::plateColour() const {
 }
 
 QColor ValueCell::textColour() const {
-    if (!isEnabled())
+    if (!isEnabled() || atRest_)
         return colour(Role::Quiet);
     return colour(isChangeable() ? Role::Text : Role::SecondText);
 }

@@ -51,6 +51,11 @@ public:
     void setLarge(bool large);
     bool isLarge() const { return large_; }
 
+    /// Shows the value in quiet text: it counts only after the user has turned to it. It can be changed all
+    /// the same.
+    void setAtRest(bool atRest);
+    bool isAtRest() const { return atRest_; }
+
     /// Whether it takes steps: by its arrows, by the keys Up, Down, PageUp and PageDown, and by the wheel
     /// with Ctrl. Spin and Choice do.
     bool isChangeable() const;
@@ -142,6 +147,7 @@ private:
     Kind kind_;
     Problem problem_ = Problem::None;
     bool large_ = false;
+    bool atRest_ = false;
     QString text_;
     QString linkWords_;
     int arrowUnderPointer_ = 0;
