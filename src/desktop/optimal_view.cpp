@@ -31,6 +31,9 @@ constexpr int buttonsHeight = 32;
 constexpr int usualHeight = 650;
 constexpr int frameHeight = 40;  // of the window system, above and below
 constexpr int fewestRows = 3, mostRows = 10;
+constexpr int fewestRowsWhenLow = 2;
+constexpr QMargins usualMargins(22, 12, 22, 15), tightMargins(22, 8, 22, 10);
+constexpr int usualSpacing = 12, tightSpacing = 5;
 enum ButtonNumber { reset = 1, compute, paste, close };
 constexpr const char* trialsName = "frmOptimal.vsTrials";
 constexpr std::size_t heads = 1;  // rows of the program's table before the first trial
@@ -69,8 +72,6 @@ OptimalView::OptimalView(Desk& desk, ToolPanel* panel, Menus& menus)
     title_->setWordWrap(true);
     QVBoxLayout* box = panel->content();
     box->setSizeConstraint(QLayout::SetMinAndMaxSize);
-    box->setContentsMargins(22, 12, 22, 15);
-    box->setSpacing(12);
     for (QWidget* part : std::initializer_list<QWidget*>{goal_, title_, levels_, band_, other_, trials_}) {
         part->setFixedWidth(contentWidth);
         box->addWidget(part, part == trials_ ? 1 : 0);
@@ -265,17 +266,29 @@ void OptimalView::keepFocus() {
         primary()->setFocus();
 }
 
+int OptimalView::room() const { return panel()->screen()->availableGeometry().height() - frameHeight; }
+
+bool OptimalView::isLow() const { return room() < usualHeight; }
+
+// On a low screen the parts move together to make room for the trials.
+void OptimalView::fitSpacing() {
+    const bool isTight = isLow() && model().outcome() != nullptr;
+    panel()->content()->setContentsMargins(isTight ? tightMargins : usualMargins);
+    panel()->content()->setSpacing(isTight ? tightSpacing : usualSpacing);
+}
+
 // The trials come in as many rows as the usual height has room for, and later in the height that the user
 // gave them.
 void OptimalView::fitHeight(int trials) {
-    const int room = panel()->screen()->availableGeometry().height() - frameHeight;
-    const int least = TrialTable::heightOf(fewestRows);
+    const int fewest = isLow() ? fewestRowsWhenLow : fewestRows;
+    const int least = TrialTable::heightOf(fewest);
     trials_->setMinimumHeight(least);
     panel()->content()->activate();
     const int others = panel()->content()->totalMinimumSize().height() - least;
-    const int rows = (std::min(usualHeight, room) - others - TrialTable::heightOf(0)) / TrialTable::rowHeight;
-    const int usual = std::clamp(rows, fewestRows, std::clamp(trials, fewestRows, mostRows));
-    trials_->setMaximumHeight(std::clamp(room - others, least, TrialTable::heightOf(mostRows)));
+    const int rows =
+        (std::min(usualHeight, room()) - others - TrialTable::heightOf(0)) / TrialTable::rowHeight;
+    const int usual = std::clamp(rows, fewest, std::clamp(trials, fewest, mostRows));
+    trials_->setMaximumHeight(std::clamp(room() - others, least, TrialTable::heightOf(mostRows)));
     panel()->content()->activate();
     givenHeight_ = chosenHeight_.value_or(TrialTable::heightOf(usual));
     panel()->resize(panel()->width(), others + givenHeight_);
@@ -290,6 +303,7 @@ void OptimalView::keepOnScreen() {
 }
 
 void OptimalView::sync() {
+    fitSpacing();
     goal_->sync();
     title_->setText(captionOf(model().pnlFindPower()));
     title_->setMinimumHeight(0);  // or it would be as high as a former one

@@ -22,7 +22,7 @@ class TrialPlot;
 class TrialTable;
 
 /// "frmOptimal". Escape closes the notes first, then the wizard. With trials the window has any height in
-/// which three to ten of them are seen.
+/// which three to ten of them are seen, on a low screen two.
 class OptimalView final : public PanelView {
     Q_OBJECT
 
@@ -46,6 +46,9 @@ private:
     void syncButtons();
     void syncNotes();
     void keepFocus();
+    int room() const;
+    bool isLow() const;
+    void fitSpacing();
     void fitHeight(int trials);
     void keepOnScreen();
 
