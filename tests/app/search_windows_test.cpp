@@ -138,7 +138,6 @@ TEST_F(SearchWindows, TheQuestionStaysWhileASearchRuns) {
                 wizard->click(control);
             for (const char* arrows : {"frmOptimal.spnBudget", "frmOptimal.spnReqPower"})
                 wizard->spin(arrows, 1);
-            wizard->setNumber("frmOptimal.txtBudget", 5);
             wizard->type("frmOptimal.txtReqPower", "99%");
             wizard->type("frmOptimal.txtBudget", "7");
             return ++looks < 3;
@@ -150,10 +149,9 @@ TEST_F(SearchWindows, TheQuestionStaysWhileASearchRuns) {
     platform.progress = &progress;
     Application wizard(platform);
     progress.wizard = &wizard;
-    Values values = twentyClusters;
-    for (const char* cost : {"txtCostT(2)", "txtCostC(2)", "txtCostT(1)", "txtCostC(1)"})
-        values.push_back({cost, 10.0});
-    wizard.load(values);
+    wizard.load(twentyClusters);
+    wizard.set(
+        Values{{"txtCostT(2)", 10.0}, {"txtCostT(1)", 10.0}, {"txtCostC(2)", 10.0}, {"txtCostC(1)", 10.0}});
     wizard.tool("gfrmOptimal");
     wizard.click("frmOptimal.cmdOpt(2)");
     EXPECT_EQ(progress.looks, 3);
