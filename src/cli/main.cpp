@@ -59,10 +59,18 @@ void addPower(CLI::App& cli, PowerRequest& request) {
 }
 
 void addOptimal(CLI::App& cli, OptimalRequest& request) {
-    CLI::App* command = cli.add_subcommand("optimal", "The cheapest design that reaches a power");
+    CLI::App* command =
+        cli.add_subcommand("optimal", "The cheapest design for a power, or the most power for a budget");
     command->add_option("STUDY", request.study, "Study file")->required();
-    command->add_option("--power", request.power, "Required power; the study's own where it is not given")
-        ->type_name("P");
+    CLI::Option* power =
+        command->add_option("--power", request.power, "Required power; the study's own where it is not given")
+            ->type_name("P");
+    CLI::Option* told =
+        command->add_flag("--told", request.told, "Only the quick search, without the proof behind it");
+    command->add_option("--budget", request.budget, "Find the most power that costs at most so much")
+        ->type_name("B")
+        ->excludes(power)
+        ->excludes(told);
     command
         ->add_option("--fix", request.fixes,
                      "Keep a level below the top at N units per unit above; may be repeated")
@@ -75,7 +83,8 @@ void addOptimal(CLI::App& cli, OptimalRequest& request) {
     addForce(command, request.force);
     command->add_flag("--json", request.json, "Answer with one JSON object");
     command->footer(
-        "Example:\n  lorvane-cli optimal schools.Lorvane --power 0.9 --fix 1=22 --out cheap.Lorvane");
+        "Example:\n  lorvane-cli optimal schools.Lorvane --power 0.9 --fix 1=22 --out cheap.Lorvane\n"
+        "  lorvane-cli optimal schools.Lorvane --budget 120000");
 }
 
 void addMdes(CLI::App& cli, MdesRequest& request) {

@@ -1,4 +1,4 @@
-// The command for the cheapest design.
+// The command for the cheapest design, and for the most power that a budget pays.
 #include "cli/optimal_command.h"
 
 #include <cmath>
@@ -9,7 +9,10 @@
 #include "base/number_text.h"
 #include "base/use_problem.h"
 #include "cli/json_text.h"
+#include "platform/time_limit.h"
+#include "search/optimal_proof.h"
 #include "search/optimal_texts.h"
+#include "search/proof_texts.h"
 #include "session/answers.h"
 #include "session/assignments.h"
 #include "session/structure.h"
@@ -19,6 +22,8 @@ namespace lorvane {
 namespace {
 
 using Json = nlohmann::ordered_json;
+
+constexpr double highestBudget = 2147483647;
 
 // The setting has a name of its own on the command line.
 void setIterations(Session& session, int iterations) {
@@ -48,11 +53,16 @@ OptimalOptions optionsOf(const OptimalRequest& request, const Session& session) 
     if (request.power && !(*request.power > 0 && *request.power < 1))
         throw UseProblem("--power takes a power above 0 and below 1, not " + shortestText(*request.power) +
                          ".");
+    if (request.budget && !(*request.budget >= 1 && *request.budget <= highestBudget))
+        throw UseProblem("--budget takes an amount from 1 to 2147483647, not " +
+                         shortestText(*request.budget) + ".");
     OptimalOptions options;
     options.numReps.fill(1);
     options.iterations = session.settings().IterationsForOptimal;
     options.power = request.power.value_or(session.study().ReqPower);
     options.allowLowCellCounts = session.settings().AllowLowCellCounts;
+    options.goal = request.budget ? OptimalGoal::mostPower : OptimalGoal::cheapest;
+    options.budget = std::floor(request.budget.value_or(0));
     for (const std::string& text : request.fixes)
         fix(text, session.study().NumLevels, options);
     return options;
@@ -60,12 +70,50 @@ OptimalOptions optionsOf(const OptimalRequest& request, const Session& session) 
 
 /// The search for one request, and what it tells.
 struct Answer {
+    OptimalOptions options;
     OptimalResult result;
-    std::string cost;
     std::string notes;
     std::string why;  ///< why nothing was found; empty when something was
     bool found() const { return why.empty(); }
+    bool asksForPower() const { return options.goal == OptimalGoal::mostPower; }
+    bool isProven() const { return result.proof && result.proof->proven; }
+
+    /// The design of the exact search, where it ran and met one.
+    const Trial& best() const {
+        return result.proof && result.proof->best ? *result.proof->best : result.bestTrial();
+    }
 };
+
+OptimalResult run(const OptimalRequest& request, const OptimalOptions& options, const Session& session) {
+    NoProgress unwatched;
+    TimeLimit limit(unwatched, session.clock(), longestProof);
+    if (options.goal == OptimalGoal::mostPower)
+        return searchMostPower(session.trial(), options, limit);
+    OptimalResult result = searchOptimalDesign(session.trial(), options, unwatched);
+    if (result.ending == OptimalEnding::found && !request.told)
+        proveCheapest(session.trial(), options, limit, result);
+    return result;
+}
+
+// The sentence of the proof comes first. That a cheaper design exists is not told: it is the answer.
+std::string notesOf(const Study& s, const Answer& answer, const Currency& currency) {
+    const OptimalResult& result = answer.result;
+    std::vector<std::string> notes;
+    if (answer.isProven())
+        notes.push_back(answer.asksForPower() ? proofWords(s, result, currency)
+                                              : "No cheaper design exists.");
+    if (otherDesign(result))
+        notes.push_back("The quick search finds " + optimalCostText(result.bestTrial().cost, currency) +
+                        " with " + sizesInWords(s, result.bestTrial().sizes) + ".");
+    for (std::string& note : optimalNotes(s, result, answer.options, currency)) {
+        if (!otherDesign(result) || note != proofWords(s, result, currency))
+            notes.push_back(std::move(note));
+    }
+    std::string text;
+    for (const std::string& note : notes)
+        text += (text.empty() ? "" : "\n\n") + note;
+    return text;
+}
 
 Answer search(const OptimalRequest& request, Session& session) {
     Answer answer;
@@ -73,21 +121,18 @@ Answer search(const OptimalRequest& request, Session& session) {
         answer.why = onOneLine(whyNoPower(session));
         return answer;
     }
-    const OptimalOptions options = optionsOf(request, session);
-    NoProgress unwatched;
-    answer.result = searchOptimalDesign(session.trial(), options, unwatched);
+    answer.options = optionsOf(request, session);
+    answer.result = run(request, answer.options, session);
     session.keepSearchOutcome(answer.result.flags);
+    const Currency& currency = session.settings().currency;
     if (answer.result.ending != OptimalEnding::found) {
         const OptimalFailure failure =
-            optimalFailure(session.study(), answer.result, readinessProblems(session.study()));
+            optimalFailure(session.study(), answer.result, readinessProblems(session.study()), currency);
         const std::string title = onOneLine(failure.title);
         answer.why = title + (title.empty() ? "" : ". ") + onOneLine(failure.text);
         return answer;
     }
-    const Currency& currency = session.settings().currency;
-    answer.cost = optimalCostText(answer.result.cheapest().cost, currency);
-    for (const std::string& note : optimalNotes(session.study(), answer.result, options, currency))
-        answer.notes += (answer.notes.empty() ? "" : "\n\n") + note;
+    answer.notes = notesOf(session.study(), answer, currency);
     return answer;
 }
 
@@ -100,28 +145,47 @@ std::string sizeWords(const Study& s, int level, double size) {
     return words;
 }
 
-void printFound(const Study& s, const Answer& answer, std::ostream& out) {
-    const Trial& best = answer.result.cheapest();
-    printLine(out, "Cost", answer.cost);
+// What is asked for comes first.
+void printFound(const Study& s, const Answer& answer, const Currency& currency, std::ostream& out) {
+    const Trial& best = answer.best();
+    const std::string cost = optimalCostText(best.cost, currency);
+    if (!answer.asksForPower())
+        printLine(out, "Cost", cost);
     printLine(out, "Power", fixedText(best.power, 4));
+    if (answer.asksForPower()) {
+        printLine(out, "Cost", cost);
+        printLine(out, "Left", leftOfBudget(best, answer.options.budget, currency));
+    }
     for (int level = s.NumLevels; level >= 1; --level)
         printLine(out, s.txtName(level), sizeWords(s, level, best.sizes(level)));
     printNote(out, answer.notes);
 }
 
-Json optimalJson(const Study& s, const Answer& answer) {
+Json sizesJson(const Study& s, const Trial& design) {
     Json sizes = Json::array();
-    for (int level = 1; answer.found() && level <= s.NumLevels; ++level)
+    for (int level = 1; level <= s.NumLevels; ++level)
         sizes.push_back({{"level", level},
                          {"name", s.txtName(level)},
                          {"blocked", s.isBlocked(level)},
-                         {"size", answer.result.cheapest().sizes(level)}});
-    return {{"found", answer.found()},
-            {"cost", answer.found() ? Json(answer.result.cheapest().cost) : Json()},
-            {"power", answer.found() ? Json(answer.result.cheapest().power) : Json()},
-            {"sizes", std::move(sizes)},
-            {"notes", answer.notes},
-            {"message", answer.why}};
+                         {"size", design.sizes(level)}});
+    return sizes;
+}
+
+Json optimalJson(const Study& s, const Answer& answer) {
+    Json json = {{"found", answer.found()}, {"proven", answer.found() && answer.isProven()}};
+    json["cost"] = answer.found() ? Json(answer.best().cost) : Json();
+    json["power"] = answer.found() ? Json(answer.best().power) : Json();
+    json["sizes"] = answer.found() ? sizesJson(s, answer.best()) : Json::array();
+    json["notes"] = answer.notes;
+    json["message"] = answer.why;
+    if (answer.asksForPower()) {
+        json["budget"] = answer.options.budget;
+        json["left"] = answer.found() ? Json(answer.options.budget - answer.best().cost) : Json();
+    } else if (answer.found() && answer.result.proof) {
+        const Trial& quick = answer.result.bestTrial();
+        json["told"] = {{"cost", quick.cost}, {"power", quick.power}, {"sizes", sizesJson(s, quick)}};
+    }
+    return json;
 }
 
 }  // namespace
@@ -138,13 +202,13 @@ int printOptimal(const OptimalRequest& request, const CommandLine& line) {
     if (request.json)
         line.out << jsonText(optimalJson(session.study(), answer)) << '\n';
     else if (answer.found())
-        printFound(session.study(), answer, line.out);
+        printFound(session.study(), answer, session.settings().currency, line.out);
     if (!answer.found()) {
         line.errors << answer.why << '\n';
         return ExitCodes::noAnswer;
     }
     if (!request.out.empty()) {
-        pasteSizes(session, answer.result.cheapest().sizes);
+        pasteSizes(session, answer.best().sizes);
         line.store.save(session, request.out);
     }
     return ExitCodes::done;

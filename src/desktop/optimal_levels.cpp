@@ -162,7 +162,7 @@ void OptimalLevels::syncSize(const Row& row) {
 void OptimalLevels::syncCells(const Row& row) {
     const OptimalWindow::LevelRow& level = model().row(row.level);
     const OptimalOutcome* outcome = model().outcome();
-    const bool isAnswer = outcome != nullptr && level.isTop && outcome->showsCheapest();
+    const bool isAnswer = outcome != nullptr && level.isTop && outcome->showsBest();
     const std::pair<NumberLabel*, const Panel*> cells[] = {{row.treated, &level.OptimalpnlNT},
                                                            {row.control, &level.OptimalpnlNC},
                                                            {row.block, &level.OptimalpnlNB}};

@@ -197,23 +197,32 @@ void OptimalView::syncBand() {
 // The rows of the table and the points of the plot.
 void OptimalView::showTrials(const OptimalOutcome& outcome) {
     const OptimalWindow& m = model();
-    const OptimalResult& result = outcome.result();
     const std::vector<Grid::Row>& table = outcome.vsTrials().rows;
     const QStringList titles = textsOf(table.front());
-    TrialPlotContent content{captionOf(m.lblPlot()),        captionOf(m.lblPlotSize()),
-                             captionOf(m.lblPlotBest()),    {},
-                             static_cast<int>(result.best), -1,
-                             captionOf(m.lblPlotShown())};
+    TrialPlotContent content;
+    content.title = captionOf(m.lblPlot());
+    content.sizeLabel = captionOf(m.lblPlotSize());
+    content.bestLabel = captionOf(m.lblPlotBest());
+    content.shownLabel = captionOf(m.lblPlotShown());
+    content.provenLabel = captionOf(m.lblPlotProven());
+    content.best = static_cast<int>(outcome.best());
+    content.areShares = outcome.result().goal == OptimalGoal::mostPower;
+    if (content.areShares)
+        content.limit = desk_.study().ReqPower;
     if (m.lblPlotShown().Visible)
-        content.shown = static_cast<int>(*outcome.shownTrial());
+        content.shown = static_cast<int>(outcome.shownDesign());
+    if (m.lblPlotProven().Visible)
+        content.proven = static_cast<int>(*outcome.other());
     std::vector<QStringList> rows;
-    for (const Trial& trial : result.trials) {
-        rows.push_back(textsOf(table[rows.size() + heads]));
-        content.points << TrialPoint{trial.sizes(desk_.study().NumLevels), static_cast<double>(trial.cost),
-                                     together(titles, rows.back())};
+    for (const Trial& design : outcome.designs()) {
+        const std::size_t number = rows.size();
+        rows.push_back(textsOf(table[number + heads]));
+        content.points << TrialPoint{design.sizes(desk_.study().NumLevels),
+                                     content.areShares ? design.power : static_cast<double>(design.cost),
+                                     together(titles, rows.back()), outcome.isTrial(number)};
     }
     plot_->setContent(content);
-    table_->setTrials(titles, rows, content.best);
+    table_->setTrials(titles, rows, content.best, content.proven, content.provenLabel);
     table_->setShown(content.shown);
 }
 
@@ -227,7 +236,7 @@ void OptimalView::syncTrials() {
         return;
     showTrials(*outcome);
     if (!were)
-        fitHeight(static_cast<int>(outcome->result().trials.size()));
+        fitHeight(static_cast<int>(outcome->designs().size()));
 }
 
 void OptimalView::syncButtons() {

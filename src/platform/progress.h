@@ -10,6 +10,9 @@ public:
     /// Called again and again during long work, when everything on display is right; false when the user asks
     /// to stop.
     virtual bool goOn() = 0;
+
+    /// How much is done, 0 to 1. Work that knows tells it before it asks to go on.
+    virtual void tell(double /*share*/) {}
 };
 
 /// Work that nobody watches.

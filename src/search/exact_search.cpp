@@ -19,7 +19,7 @@ namespace lorvane {
 namespace {
 
 constexpr double tolerance = 1e-9;  // of every bound
-constexpr int stepsBetweenLooks = 4096;
+constexpr int stepsBetweenLooks = 512;
 constexpr double highestMoney = std::numeric_limits<std::int32_t>::max();
 constexpr double infinite = std::numeric_limits<double>::infinity();
 
@@ -71,6 +71,8 @@ public:
 
     ExactResult cheapest(const std::optional<Trial>& known);
     ExactResult mostPower();
+    ExactResult mostPowerOf(double top);
+    double leastTop() const { return levels_.leastTopOfAll(); }
 
 private:
     // How far the walk through the sizes of one level is.
@@ -102,6 +104,7 @@ private:
     bool tryTop(double top);
     bool isBetter(const Trial& trial) const;
     void take(const Trial& trial);
+    double share() const;
     void look();
     template <typename Search>
     ExactResult untilStopped(Search search);
@@ -118,6 +121,7 @@ private:
     PowerBound bound_;
     FreeLevels levels_;
     const int top_;
+    Range tops_{levels_.leastTopOfAll(), largestSizeFound};
     OptimalGoal goal_ = OptimalGoal::cheapest;
     double power_ = 0;             ///< what a design of use must reach
     double limit_ = highestMoney;  ///< and the most that it may cost
@@ -140,12 +144,7 @@ ExactResult ExactSearch::untilStopped(Search search) {
         result.proven = true;
     } catch (const SearchStopped&) {
     }
-    double part = 1;
-    for (const Part& level : parts_) {
-        result.looked += part * level.done / level.all;
-        part /= level.all;
-    }
-    result.looked = result.proven ? 1 : std::min(result.looked, 1.0);
+    result.looked = result.proven ? 1 : share();
     result.best = best_;
     result.runs = bench_.runs();
     return result;
@@ -164,6 +163,12 @@ ExactResult ExactSearch::mostPower() {
         else
             lookForCheapest(0, std::nullopt);
     });
+}
+
+ExactResult ExactSearch::mostPowerOf(double top) {
+    tops_ = {top, top};
+    best_.reset();
+    return untilStopped([&] { lookForMostPower(); });
 }
 
 void ExactSearch::lookForCheapest(double power, const std::optional<Trial>& known) {
@@ -280,7 +285,7 @@ double ExactSearch::sweepSize(const FreeLevel& free, const Above& above, double 
 double ExactSearch::nextSize(const FreeLevel& free, const Above& above, double size, double lowerTop) {
     if (roundsCosts() || free.weight <= 0 || bound_.saysNothing())
         return size + 1;
-    if (lowerTop < levels_.leastTopOfAll())
+    if (lowerTop < tops_.first)
         return infinite;
     const double room = bound_.largestSum(lowerTop) - above.sum;
     if (room <= 0)
@@ -299,7 +304,7 @@ double ExactSearch::largestForTop(const FreeLevel& free, const Above& above, dou
 // Bounds ---------------------------------------------------------------------------------------------------
 
 Range ExactSearch::affordableSizes(const FreeLevel& free, const Above& above) const {
-    const double room = largestCost() / levels_.leastTopOfAll() - above.cost;
+    const double room = largestCost() / tops_.first - above.cost;
     const double most = std::floor(room / (free.leastCost * above.units) * (1 + tolerance));
     return {free.least, std::min(most, largestSizeFound)};
 }
@@ -315,8 +320,7 @@ Range ExactSearch::usefulSizes(const FreeLevel& free, const Above& above) {
     const double K = above.cost, V = above.sum;
     const double B = free.cost * above.units, D = free.weight / above.units;
     const double leastCost = K + free.leastCost * above.units * free.least;
-    const double top =
-        std::clamp(std::floor(largestCost() / leastCost), levels_.leastTopOfAll(), largestSizeFound);
+    const double top = std::clamp(std::floor(largestCost() / leastCost), tops_.first, tops_.last);
     const double root = std::sqrt(bound_.largestSum(top) / top * largestCost()) - free.rest;
     if (std::isinf(root))
         return affordable;
@@ -331,7 +335,7 @@ Range ExactSearch::usefulSizes(const FreeLevel& free, const Above& above) {
 }
 
 double ExactSearch::mostTop(const Above& design) const {
-    return std::min(std::floor(largestCost() / design.cost * (1 + tolerance)), largestSizeFound);
+    return std::min(std::floor(largestCost() / design.cost * (1 + tolerance)), tops_.last);
 }
 
 // The top level --------------------------------------------------------------------------------------------
@@ -377,7 +381,7 @@ double ExactSearch::leastReaching(double from, double last) {
 
 // The largest top level that the budget pays.
 void ExactSearch::settleMostPower(const Above& design) {
-    const double least = levels_.leastTop(sizes_);
+    const double least = std::max(levels_.leastTop(sizes_), tops_.first);
     double top = bound_.risesWithTop() ? mostTop(design) : least;
     while (top >= least && top <= mostTop(design) && design.sum <= bound_.largestSum(top)) {
         tryTop(top);
@@ -439,8 +443,20 @@ void ExactSearch::take(const Trial& trial) {
         limit_ = 0;
 }
 
+double ExactSearch::share() const {
+    double share = 0, part = 1;
+    for (const Part& level : parts_) {
+        share += part * level.done / level.all;
+        part /= level.all;
+    }
+    return std::min(share, 1.0);
+}
+
 void ExactSearch::look() {
-    if (++steps_ % stepsBetweenLooks == 0 && !progress_.goOn())
+    if (++steps_ % stepsBetweenLooks != 0)
+        return;
+    progress_.tell(share());
+    if (!progress_.goOn())
         throw SearchStopped();
 }
 
@@ -461,6 +477,21 @@ ExactResult findCheapest(StudyTrial trial, const OptimalOptions& options, const 
 ExactResult findMostPower(StudyTrial trial, const OptimalOptions& options, Progress& progress) {
     const double least = prepare(trial, options);
     return ExactSearch(trial, options, least, progress).mostPower();
+}
+
+std::vector<Trial> findMostPowerOfTops(StudyTrial trial, const OptimalOptions& options, double first,
+                                       double last, Progress& progress) {
+    const double least = prepare(trial, options);
+    ExactSearch search(trial, options, least, progress);
+    std::vector<Trial> designs;
+    for (double top = std::max(first, search.leastTop()); top <= last; ++top) {
+        const ExactResult result = search.mostPowerOf(top);
+        if (!result.proven)
+            break;
+        if (result.best)
+            designs.push_back(*result.best);
+    }
+    return designs;
 }
 
 bool hasForbiddenCells(const StudyTrial& trial, const OptimalOptions& options, const LevelSizes& sizes) {

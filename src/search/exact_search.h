@@ -13,8 +13,7 @@
 // however large its free levels may become.
 #pragma once
 
-#include <cstdint>
-#include <optional>
+#include <vector>
 
 #include "platform/progress.h"
 #include "search/optimal_types.h"
@@ -35,6 +34,11 @@ ExactResult findCheapest(StudyTrial trial, const OptimalOptions& options, const 
 /// pays no valid design, the cheapest valid one, whose cost is above it. The same needs; some unit must cost
 /// something.
 ExactResult findMostPower(StudyTrial trial, const OptimalOptions& options, Progress& progress);
+
+/// The most power for every size of the top level of a range, in their order; sizes that the budget pays no
+/// valid design for are left out. It ends early when the progress asks for it.
+std::vector<Trial> findMostPowerOfTops(StudyTrial trial, const OptimalOptions& options, double first,
+                                       double last, Progress& progress);
 
 /// Whether a design has cell counts that the options do not allow and that a larger level 1 would avoid.
 bool hasForbiddenCells(const StudyTrial& trial, const OptimalOptions& options, const LevelSizes& sizes);

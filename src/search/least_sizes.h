@@ -13,8 +13,8 @@ namespace lorvane {
 /// the same in both arms.
 double Getmin(const Study& study, int level);
 
-/// The size that a search gives a level below the top at least before it starts, or where it is set by hand: a
-/// blocked level needs three units for a covariate, an arm two.
+/// The size that a search gives a level below the top at least before it starts, or where it is set by hand:
+/// a blocked level needs three units for a covariate, an arm two.
 double leastForCovariates(const Study& study, int level);
 
 /// The least size of level 1, the same in both arms, at which no cell of a binary study is low; nothing when

@@ -26,6 +26,7 @@ void OptimalWindow::registerNames(ControlRegistry& registry) const {
                                                            {"lblPlotSize", &lblPlotSize_},
                                                            {"lblPlotBest", &lblPlotBest_},
                                                            {"lblPlotShown", &lblPlotShown_},
+                                                           {"lblPlotProven", &lblPlotProven_},
                                                            {"pnlOther", &pnlOther_}};
     for (const auto& [name, panel] : panels)
         registry.add(std::string("frmOptimal.") + name, *panel);
@@ -132,7 +133,7 @@ void OptimalWindow::registerButtons(EventRegistry& events) {
 
 // What is not on offer cannot be looked at.
 void OptimalWindow::registerOffers(EventRegistry& events) {
-    events.onClick("frmOptimal.cmdCheapest", [this] { lookAt(&OptimalOutcome::showCheapest); });
+    events.onClick("frmOptimal.cmdCheapest", [this] { lookAt(&OptimalOutcome::showBest); });
     events.onClick("frmOptimal.cmdOther", [this] {
         if (outcome_.other())
             lookAt(&OptimalOutcome::showOther);

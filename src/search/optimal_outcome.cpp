@@ -8,6 +8,7 @@
 #include "base/money.h"
 #include "base/number_text.h"
 #include "search/optimal_texts.h"
+#include "search/proof_texts.h"
 
 namespace lorvane {
 
@@ -23,17 +24,38 @@ void OptimalOutcome::take(OptimalResult result, const Study& study, const Optima
                           const Currency& currency) {
     result_ = std::move(result);
     currency_ = currency;
-    other_ = otherDesign(study, result_, currency);
+    budget_ = options.budget;
+    proof_ = result_.proof ? proofWords(study, result_, currency) : "";
     notes_ = optimalNotes(study, result_, options, currency);
+    listDesigns(study.NumLevels);
     writeTrials(study);
     writeTable(study);
-    showCheapest();
+    showBest();
 }
 
 void OptimalOutcome::forget() { *this = {}; }
 
+// Another design of the same sizes as a trial is that trial.
+void OptimalOutcome::listDesigns(int top) {
+    designs_ = result_.trials;
+    best_ = result_.best;
+    other_.reset();
+    const std::optional<Trial> found = otherDesign(result_);
+    if (!found)
+        return;
+    const auto place =
+        std::lower_bound(designs_.begin(), designs_.end(), *found,
+                         [top](const Trial& a, const Trial& b) { return a.sizes(top) < b.sizes(top); });
+    other_ = static_cast<std::size_t>(place - designs_.begin());
+    otherIsTrial_ = place != designs_.end() && haveSameSizes(*place, *found);
+    if (otherIsTrial_)
+        return;
+    designs_.insert(place, *found);
+    best_ += *other_ <= best_ ? 1 : 0;
+}
+
 std::optional<std::size_t> OptimalOutcome::otherNote() const {
-    const auto note = other_ ? std::find(notes_.begin(), notes_.end(), other_->words) : notes_.end();
+    const auto note = other_ ? std::find(notes_.begin(), notes_.end(), proof_) : notes_.end();
     if (note == notes_.end())
         return std::nullopt;
     return static_cast<std::size_t>(note - notes_.begin());
@@ -63,7 +85,7 @@ void OptimalOutcome::writeTable(const Study& s) {
         titles.emplace_back(trimmed(s.txtName(level)));
     titles.insert(titles.end(), {"Cost", "Power"});
     vsTrials_.rows = {std::move(titles)};
-    for (const Trial& trial : result_.trials) {
+    for (const Trial& trial : designs_) {
         Grid::Row& row = vsTrials_.rows.emplace_back();
         for (int level = s.NumLevels; level >= lowestLevel; --level)
             row.push_back(shortestText(trial.sizes(level)));
@@ -72,48 +94,50 @@ void OptimalOutcome::writeTable(const Study& s) {
     }
 }
 
-void OptimalOutcome::showTrial(std::size_t trial) {
-    trial_ = trial;
-    showsOther_ = false;
+void OptimalOutcome::show(std::size_t design) {
+    shown_ = design;
     vsTrials_.selected.clear();
-    if (!showsCheapest())
-        vsTrials_.selected = {trial + heads};
+    if (!showsBest())
+        vsTrials_.selected = {design + heads};
 }
 
-void OptimalOutcome::showCheapest() { showTrial(result_.best); }
-
-// Of several rows the first one; the cheapest without any.
+// Of several rows the first one; the best without any.
 void OptimalOutcome::showSelected() {
-    showTrial(vsTrials_.selected.empty() ? result_.best : vsTrials_.selected.front() - heads);
+    show(vsTrials_.selected.empty() ? best_ : vsTrials_.selected.front() - heads);
 }
 
-void OptimalOutcome::showOther() {
-    showCheapest();
-    showsOther_ = true;
+std::string OptimalOutcome::figure() const {
+    return asksForPower() ? fixedText(shown().power, shownPowerDecimals)
+                          : optimalCostText(shown().cost, currency_);
 }
-
-Trial OptimalOutcome::shown() const {
-    return showsOther_ ? Trial{other_->sizes, other_->cost, other_->power, true} : result_.trials[trial_];
-}
-
-std::optional<std::size_t> OptimalOutcome::shownTrial() const {
-    return showsOther_ ? std::nullopt : std::optional(trial_);
-}
-
-std::string OptimalOutcome::costText() const { return optimalCostText(shown().cost, currency_); }
 
 std::string OptimalOutcome::words() const {
-    const Trial design = shown();
-    if (!design.valid)
+    if (!shown().valid)
         return "This trial gives no power, so it cannot be pasted.";
-    const std::string words = "Power " + fixedText(design.power, shownPowerDecimals) + ". " +
-                              (showsOther_ ? "This design costs " : "This trial costs ");
-    const std::string cheapest = showsOther_ ? "the best trial." : "the cheapest.";
-    const std::int32_t more = design.cost - result_.cheapest().cost;
+    return asksForPower() ? wordsOfPower() : wordsOfCost();
+}
+
+std::string OptimalOutcome::wordsOfCost() const {
+    if (showsBest())
+        return "Numbers are shown here. Click <Paste> to copy to the main screen.";
+    const std::string words = "Power " + fixedText(shown().power, shownPowerDecimals) + ". " +
+                              (showsOther() ? "This design costs " : "This trial costs ");
+    const std::string cheapest = showsOther() ? "the best trial." : "the cheapest.";
+    const std::int32_t more = shown().cost - result_.bestTrial().cost;
     if (more == 0)
         return words + "as much as " + cheapest;
     return words + ReFormatCurrency(std::abs(more), currency_) + (more > 0 ? " more" : " less") + " than " +
            cheapest;
+}
+
+std::string OptimalOutcome::wordsOfPower() const {
+    const std::string cost = "Cost " + ReFormatCurrency(shown().cost, currency_);
+    const std::string left = ", " + leftOfBudget(shown(), budget_, currency_) + " left. ";
+    if (showsBest())
+        return cost + " of " + amountText(budget_, currency_) + left +
+               "Click <Paste> to copy to the main screen.";
+    const double less = result_.bestTrial().power - shown().power;
+    return cost + left + "This trial has " + fixedText(less, shownPowerDecimals) + " less power.";
 }
 
 }  // namespace lorvane

@@ -7,7 +7,6 @@
 #include "base/leaps.h"
 #include "base/money.h"
 #include "search/least_sizes.h"
-#include "search/nearby_designs.h"
 #include "search/optimal_ratios.h"
 #include "search/trial_bench.h"
 
@@ -225,10 +224,10 @@ void Search::iterate() {
 void Search::chooseBest() {
     for (std::size_t i = 1; i < result_.trials.size(); ++i) {
         const std::int32_t cost = result_.trials[i].cost;
-        if (cost >= 0 && cost < result_.cheapest().cost)
+        if (cost >= 0 && cost < result_.bestTrial().cost)
             result_.best = i;
     }
-    bench_.setSizes(result_.cheapest().sizes);
+    bench_.setSizes(result_.bestTrial().sizes);
     bench_.compute();
 }
 
@@ -252,7 +251,6 @@ void Search::search() {
         return;
     result_.topRaisedForDf = s_.result.Adjusteddf == SizeAdjustments::topRaised;
     result_.covariatesAreTight = covariatesAreTight();
-    result_.nearby = cheaperNearby(bench_, options_, result_.cheapest());
 }
 
 void Search::run() {

@@ -5,6 +5,7 @@
 #include <utility>
 
 #include "base/number_text.h"
+#include "search/proof_texts.h"
 #include "validation/icc_messages.h"
 
 namespace lorvane {
@@ -144,15 +145,6 @@ std::string noSolutionText(const Study& s, const OptimalResult& result) {
     return text;
 }
 
-std::string nearbyNote(const Study& s, const Trial& nearby, const Currency& currency) {
-    std::string note = "A nearby design costs " + ReFormatCurrency(nearby.cost, currency) + ":";
-    for (int level = s.NumLevels; level >= 1; --level) {
-        note += level == s.NumLevels ? " " : ", ";
-        note += shortestText(nearby.sizes(level)) + " " + s.txtName(level);
-    }
-    return note + ".";
-}
-
 }  // namespace
 
 std::vector<ReadinessProblem> readinessProblems(const Study& study) {
@@ -165,12 +157,14 @@ std::vector<ReadinessProblem> readinessProblems(const Study& study) {
 }
 
 OptimalFailure optimalFailure(const Study& s, const OptimalResult& result,
-                              const std::vector<ReadinessProblem>& problems) {
+                              const std::vector<ReadinessProblem>& problems, const Currency& currency) {
     switch (result.ending) {
     case OptimalEnding::noSolution:
         return {"", noSolutionText(s, result)};
     case OptimalEnding::costOverflow:
         return {"", "Cannot compute because the cost has exceeded the computer's memory."};
+    case OptimalEnding::budgetTooLow:
+        return {"The budget is too low", budgetTooLowText(s, result, currency)};
     case OptimalEnding::stopped:
         return {"", "The search was stopped. Click <Compute> to start it again."};
     case OptimalEnding::notReady:
@@ -198,19 +192,13 @@ std::vector<std::string> optimalNotes(const Study& s, const OptimalResult& resul
         notes.push_back("It may be possible to lower costs by removing some covariates.");
     if (result.level1Raised)
         notes.push_back(raisedLevel1Note(s));
-    if (const auto other = otherDesign(s, result, currency))
-        notes.push_back(other->words);
+    if (otherDesign(result))
+        notes.push_back(proofWords(s, result, currency));
+    if (std::string note = unprovenNote(result); !note.empty())
+        notes.push_back(std::move(note));
     if (std::string note = truncationNote(s); !note.empty())
         notes.push_back(std::move(note));
     return notes;
-}
-
-std::optional<OtherDesign> otherDesign(const Study& s, const OptimalResult& result,
-                                       const Currency& currency) {
-    if (!result.nearby)
-        return std::nullopt;
-    const Trial& nearby = *result.nearby;
-    return OtherDesign{nearby.sizes, nearby.cost, nearby.power, nearbyNote(s, nearby, currency)};
 }
 
 std::string optimalCostText(std::int32_t cost, const Currency& currency) {

@@ -2,7 +2,6 @@
 #pragma once
 
 #include <cstdint>
-#include <optional>
 #include <string>
 #include <vector>
 
@@ -34,15 +33,11 @@ struct OptimalFailure {
     std::string text;
 };
 OptimalFailure optimalFailure(const Study& study, const OptimalResult& result,
-                              const std::vector<ReadinessProblem>& problems);
+                              const std::vector<ReadinessProblem>& problems, const Currency& currency);
 
 /// The notes of a finished run, a paragraph each. The options are those of the run.
 std::vector<std::string> optimalNotes(const Study& study, const OptimalResult& result,
                                       const OptimalOptions& options, const Currency& currency);
-
-/// The design beside the trials of a finished run, with the words of its note; nothing where there is none.
-std::optional<OtherDesign> otherDesign(const Study& study, const OptimalResult& result,
-                                       const Currency& currency);
 
 /// The cost of a design, "$115,600".
 std::string optimalCostText(std::int32_t cost, const Currency& currency);

@@ -3,7 +3,6 @@
 
 #include <cstdint>
 #include <optional>
-#include <string>
 
 #include "engine/per_level.h"
 
@@ -42,20 +41,21 @@ struct Trial {
     bool valid = false;
 };
 
+/// Sizes of the levels that a study lacks are 0 in both.
+inline bool haveSameSizes(const Trial& a, const Trial& b) {
+    for (int level = LevelSizes::first; level <= LevelSizes::last; ++level) {
+        if (a.sizes(level) != b.sizes(level))
+            return false;
+    }
+    return true;
+}
+
 /// What the exact search came to.
 struct ExactResult {
     std::optional<Trial> best;  ///< nothing when no design will do, or none was met
     bool proven = false;        ///< all designs are settled; otherwise the search was stopped on the way
     double looked = 0;          ///< the share of the sizes that was looked at, 0 to 1
     std::int64_t runs = 0;      ///< runs of the computation
-};
-
-/// A design beside the trials of a search that costs less than all of them.
-struct OtherDesign {
-    LevelSizes sizes;
-    std::int32_t cost = 0;
-    double power = 0;
-    std::string words;  ///< the sentence that tells of it
 };
 
 }  // namespace lorvane

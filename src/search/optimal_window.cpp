@@ -18,45 +18,7 @@ namespace lorvane {
 
 namespace {
 
-constexpr const char* setOptions = "Set options above, then click <Compute>";
-constexpr const char* numbersAreShown = "Numbers are shown here. Click <Paste> to copy to the main screen.";
-constexpr const char* pasteCheapest = "Paste";
 constexpr const char* pasted = "Click <Reset> to modify options or <Close> to close this panel";
-
-std::string joined(const std::vector<std::string>& paragraphs, const char* between) {
-    std::string text;
-    for (const std::string& paragraph : paragraphs)
-        text += (text.empty() ? "" : between) + paragraph;
-    return text;
-}
-
-OptimalWindow::State stateAfter(OptimalEnding ending) {
-    switch (ending) {
-    case OptimalEnding::found:
-        return OptimalWindow::State::result;
-    case OptimalEnding::notReady:
-    case OptimalEnding::noSolution:
-        return OptimalWindow::State::problem;
-    case OptimalEnding::costOverflow:
-    case OptimalEnding::stopped:
-        break;
-    }
-    return OptimalWindow::State::message;
-}
-
-// Adds a dot to the running text at every look of the search.
-class Dots final : public Progress {
-public:
-    Dots(std::string& text, Progress& progress) : text_(text), progress_(progress) {}
-    bool goOn() override {
-        text_ += ".";
-        return progress_.goOn();
-    }
-
-private:
-    std::string& text_;
-    Progress& progress_;
-};
 
 }  // namespace
 
@@ -168,7 +130,7 @@ void OptimalWindow::forgetResult() {
 }
 
 void OptimalWindow::hideOffers() {
-    cmdOpt_(pasteButton).Caption = pasteCheapest;
+    cmdOpt_(pasteButton).Caption = pasteBest;
     pnlOther_.Visible = cmdOther_.Visible = cmdCheapest_.Visible = cmdNotes_.Visible = false;
     lblPlotShown_.Visible = false;
 }
@@ -270,95 +232,8 @@ OptimalOptions OptimalWindow::options() const {
     return options;
 }
 
-void OptimalWindow::ComputeOptimalDesign() {
-    if (!design_.study().result.xValid) {
-        say(State::problem, wizardTitle, modifyData);
-        return;
-    }
-    const WhileSet running(running_);
-    const OptimalOptions options = this->options();
-    for (int level = lowestLevel; level <= highestLevel; ++level)
-        writeRow(level);
-    forgetResult();
-    showButtons(false, false, false, false);
-    say(State::message, "", setOptions);
-    pnlOptimalInner_.Caption +=
-        "                          Iterating (" + std::to_string(options.iterations) + " iterations) .";
-    for (int level = lowestLevel; level <= highestFreeLevel; ++level)
-        rows_(level).optAuto.Enabled = rows_(level).optManual.Enabled = !isManual(level);
-    Dots dots(pnlOptimalInner_.Caption, progress_);
-    Session& session = design_.session();
-    OptimalResult result = searchOptimalDesign(session.trial(), options, dots);
-    session.keepSearchOutcome(result.flags);
-    if (result.aTrialFailed)
-        design_.ask(wizardTitle,
-                    "The program has encountered a problem in trying to find the optimal design.");
-    // The refresh takes some of the flags back that tell why the search cannot run.
-    const std::vector<ReadinessProblem> problems = readinessProblems(design_.study());
-    session.refresh();
-    for (int level = lowestLevel; level <= highestLevel; ++level)
-        writeRow(level);
-    if (result.ending == OptimalEnding::found)
-        showFound(std::move(result), options);
-    else
-        showNone(result, problems);
-}
-
-void OptimalWindow::showNone(const OptimalResult& result, const std::vector<ReadinessProblem>& problems) {
-    if (result.ending == OptimalEnding::notReady) {
-        for (const ReadinessProblem& problem : problems)
-            markProblem(design_, problem);
-    }
-    const OptimalFailure failure = optimalFailure(design_.study(), result, problems);
-    say(stateAfter(result.ending), failure.title, failure.text);
-    if (result.ending == OptimalEnding::noSolution) {
-        pnlOptimalCost_.Caption = "Solution not found. ";
-        pnlProblem_.Caption = trimmed(pnlOptimalCost_.Caption);
-    }
-    showButtons(true, true, false, true);
-    primary_ = computeButton;
-}
-
-void OptimalWindow::showFound(OptimalResult result, const OptimalOptions& options) {
-    const Study& s = design_.study();
-    outcome_.take(std::move(result), s, options, design_.settings().currency);
-    const std::string units = inSentence(outcome_.vsTrials().rows.front().front());
-    lblPlotSize_.Caption = "Number of " + units + (s.isBlocked(s.NumLevels) ? "" : " per group");
-    if (outcome_.other())
-        pnlOther_.Caption = outcome_.other()->words;
-    const std::size_t notes = outcome_.notes().size();
-    cmdNotes_.Caption = "Notes (" + std::to_string(notes) + ")";
-    pnlAdjustInner_.Caption = joined(outcome_.notes(), "\n\n");
-    pnlAdjustOuter_.Visible = notes > 0;
-    showDesign();
-}
-
-// What is looked at is on offer, and the way to the other ones.
-void OptimalWindow::showDesign() {
-    const bool cheapest = outcome_.showsCheapest();
-    pnlCostNumber_.Caption = outcome_.costText();
-    pnlOptimalCost_.Caption = pnlCostWords_.Caption + pnlCostNumber_.Caption;
-    pnlOptimalNote_.Caption = cheapest ? numbersAreShown : outcome_.words();
-    cmdCheapest_.Visible = !cheapest;
-    pnlOther_.Visible = outcome_.other().has_value();
-    cmdOther_.Visible = pnlOther_.Visible && !outcome_.showsOther();
-    cmdNotes_.Visible = !outcome_.notes().empty();
-    lblPlotShown_.Visible = !cheapest && !outcome_.showsOther();
-    std::vector<std::string> paragraphs = {pnlOptimalCost_.Caption, pnlOptimalNote_.Caption};
-    paragraphs.insert(paragraphs.end(), outcome_.notes().begin(), outcome_.notes().end());
-    showSizes();
-    say(State::result, "", joined(paragraphs, "\n"));
-    showButtons(true, true, true, true);
-    Button& paste = cmdOpt_(pasteButton);
-    paste.Caption = cheapest                ? pasteCheapest
-                    : outcome_.showsOther() ? "Paste this design"
-                                            : "Paste this trial";
-    paste.Enabled = outcome_.shown().valid;
-    primary_ = paste.Enabled ? pasteButton : closeButton;
-}
-
 void OptimalWindow::lookAt(void (OptimalOutcome::*design)()) {
-    if (!hasResult())
+    if (!hasResult() || running_)
         return;
     (outcome_.*design)();
     showDesign();

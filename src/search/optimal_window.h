@@ -88,18 +88,19 @@ public:
     const Panel& pnlAdjustOuter() const { return pnlAdjustOuter_; }  ///< visible: notes lie over the wizard
     const Panel& pnlAdjustInnerTitle() const { return pnlAdjustInnerTitle_; }
     const Panel& pnlAdjustInner() const { return pnlAdjustInner_; }  ///< paragraphs parted by empty lines
-    /// Title of the plot of the trials, what it has across, and the words for the marks of the cheapest one
-    /// and of the one that is looked at.
+    /// Title of the plot of the trials, what it has across, and the words for the marks of the best one, of
+    /// the one that is looked at, and of the one that the exact search found beside it.
     const Panel& lblPlot() const { return lblPlot_; }
     const Panel& lblPlotSize() const { return lblPlotSize_; }
     const Panel& lblPlotBest() const { return lblPlotBest_; }
     const Panel& lblPlotShown() const { return lblPlotShown_; }
-    const Button& cmdCheapest() const { return cmdCheapest_; }  ///< back to the cheapest trial
-    const Panel& pnlOther() const { return pnlOther_; }         ///< the design beside the trials in words
-    const Button& cmdOther() const { return cmdOther_; }        ///< looks at that design
-    const Button& cmdNotes() const { return cmdNotes_; }        ///< opens the notes again; has their number
+    const Panel& lblPlotProven() const { return lblPlotProven_; }  ///< visible: another design was found
+    const Button& cmdCheapest() const { return cmdCheapest_; }     ///< back to the best trial
+    const Panel& pnlOther() const { return pnlOther_; }            ///< what the exact search came to
+    const Button& cmdOther() const { return cmdOther_; }           ///< looks at the design that it found
+    const Button& cmdNotes() const { return cmdNotes_; }  ///< opens the notes again; has their number
 
-    /// What the last run found, and its trials, while the result is on display; null otherwise.
+    /// What the last run found, with its trials, while the result is on display; null otherwise.
     const OptimalOutcome* outcome() const { return hasResult() ? &outcome_ : nullptr; }
     const OptimalResult* result() const { return hasResult() ? &outcome_.result() : nullptr; }
     bool isRunning() const noexcept { return running_; }
@@ -108,6 +109,8 @@ private:
     static constexpr int resetButton = 1, computeButton = 2, pasteButton = 3, closeButton = 4;
     static constexpr double smallestSize = 1;
     static constexpr double largestSize = 1000000;
+    static constexpr const char* setOptions = "Set options above, then click <Compute>";
+    static constexpr const char* pasteBest = "Paste";
 
     bool isOpen() const;
     bool canBeSeen() const;
@@ -132,8 +135,13 @@ private:
     void writeCells(int level, const std::string& arms, const std::string& block);
     void showButtons(bool reset, bool compute, bool paste, bool close);
     OptimalOptions options() const;
+    void computeCheapest(const OptimalOptions& options);
+    void computeMostPower(const OptimalOptions& options);
+    void prove(OptimalResult& result, const OptimalOptions& options);
+    bool endSearch(const OptimalResult& result);
     void showNone(const OptimalResult& result, const std::vector<ReadinessProblem>& problems);
-    void showFound(OptimalResult result, const OptimalOptions& options);
+    void takeResult(OptimalResult result, const OptimalOptions& options);
+    void offerNotes();
     void lookAt(void (OptimalOutcome::*design)());
     void showDesign();
     void showSizes();
@@ -148,10 +156,10 @@ private:
     Panel pnlAdjustOuter_, pnlAdjustInnerTitle_, pnlAdjustInner_;
     Panel lblLevel_{"Level"};
     IndexedArray<Panel, 1, 2> lblGroup_;
-    Panel lblPlot_{"Cost of each trial"}, lblPlotSize_, lblPlotBest_{"cheapest"}, lblPlotShown_{"shown"};
+    Panel lblPlot_, lblPlotSize_, lblPlotBest_, lblPlotShown_{"shown"}, lblPlotProven_;
     Panel pnlOther_;
     IndexedArray<Button, 1, 4> cmdOpt_;
-    Button cmdCheapest_{"Cheapest"}, cmdOther_{"Show this design"}, cmdNotes_;
+    Button cmdCheapest_, cmdOther_{"Show this design"}, cmdNotes_;
     OptimalOutcome outcome_;
     State state_ = State::message;
     int primary_ = 2;

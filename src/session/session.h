@@ -65,6 +65,7 @@ public:
 
     const SessionState& state() const noexcept { return now_.state; }
     const Study& study() const noexcept { return now_.state.study; }
+    const Clock& clock() const noexcept { return clock_; }
     const StudySettings& settings() const noexcept { return now_.state.settings; }
     const DisplaySettings& display() const noexcept { return now_.state.display; }
     const ScenarioGrid& scenarios() const noexcept { return now_.state.scenarios; }

@@ -117,7 +117,7 @@ TEST_F(SearchWindows, ComputeSearchesAnewAfterASuccess) {
         wizard.click("frmOptimal.cmdOpt(2)");
         EXPECT_GT(progress.looks, 0);
         EXPECT_TRUE(wizard.optimalWindow().cmdOpt(3).Visible);
-        return wizard.optimalWindow().result()->cheapest();
+        return wizard.optimalWindow().result()->bestTrial();
     };
     const Trial first = found();
     const Trial second = found();
@@ -186,6 +186,59 @@ Values searchable(int levels, int randomized, DataTypes dataType) {
             values.push_back({indexedName(stem, level), costs[level - 1]});
     }
     return values;
+}
+
+// Blocks that cost a hundred thousand times as much as what is in them: the proof takes its time.
+TEST_F(SearchWindows, AProofThatIsStoppedLeavesTheResult) {
+    struct Impatient final : Progress {
+        bool goOn() override {
+            const OptimalWindow& window = wizard->optimalWindow();
+            if (window.result() == nullptr)
+                return true;
+            ++looks;
+            words = window.pnlOther().Caption;
+            wizard->click("frmOptimal.cmdOther");
+            wizard->select("frmOptimal.vsTrials", {3});
+            wizard->click("frmOptimal.cmdOpt(3)");
+            return looks < 3;
+        }
+        Application* wizard = nullptr;
+        int looks = 0;
+        std::string words;
+    } progress;
+    Platform platform = outside.platform();
+    platform.progress = &progress;
+    Application wizard(platform);
+    progress.wizard = &wizard;
+    wizard.load(searchable(4, 1, DataTypes::binary));
+    wizard.set(Values{{"BinaryType", 3.0},
+                      {"PowerOption", 2.0},
+                      {"txtRD", 0.0434},
+                      {"txtPrev", 0.15},
+                      {"ReqPower", 0.99},
+                      {"txtCostB(4)", 1000000.0},
+                      {"txtCostB(3)", 6500.0},
+                      {"txtCostB(2)", 9.0},
+                      {"txtCostT(1)", 1.0},
+                      {"txtCostC(1)", 2.0},
+                      {"txtTauSq(4)", 0.0614},
+                      {"txtTauSq(3)", 0.0045},
+                      {"txtTauSq(2)", 0.0003}});
+    const double before = wizard.session().study().txtNB(4);
+    wizard.tool("gfrmOptimal");
+    wizard.click("frmOptimal.cmdOpt(2)");
+    EXPECT_EQ(progress.looks, 3);
+    EXPECT_TRUE(progress.words.starts_with("Looking for a cheaper design: ")) << progress.words;
+    const OptimalWindow& window = wizard.optimalWindow();
+    ASSERT_NE(window.result(), nullptr);
+    EXPECT_TRUE(window.outcome()->showsBest()) << "nothing was done with it on the way";
+    EXPECT_FALSE(window.outcome()->isProven());
+    EXPECT_NE(window.pnlAdjustInner().Caption.find("The proof was stopped"), std::string::npos);
+    EXPECT_TRUE(window.pnlAdjustOuter().Visible);
+    EXPECT_TRUE(window.cmdOpt(3).Visible);
+    EXPECT_EQ(wizard.session().study().txtNB(4), before);
+    wizard.click("frmOptimal.cmdOpt(3)");
+    EXPECT_EQ(wizard.session().study().txtNB(4), window.result()->bestTrial().sizes(4));
 }
 
 TEST_F(SearchWindows, WhatIsPastedHasThePowerAndTheCostThatWereTold) {

@@ -53,20 +53,24 @@ TEST_F(Wizard, RunsAndPastesByTheKeyboardAlone) {
     EXPECT_FALSE(part<TrialPlot>().isVisible());
     key(Qt::Key_Return);
     ASSERT_NE(model().result(), nullptr);
-    ASSERT_TRUE(part<NotesOverlay>().isVisible());
+    EXPECT_FALSE(part<NotesOverlay>().isVisible()) << "the card tells of the other design";
     EXPECT_TRUE(part<TrialPlot>().isVisible());
     const OptimalResult& result = *model().result();
     const QAbstractItemModel& rows = *part<TrialTable>().table()->model();
-    ASSERT_EQ(rows.rowCount(), static_cast<int>(result.trials.size()));
-    const int best = static_cast<int>(result.best);
+    ASSERT_EQ(rows.rowCount(), static_cast<int>(result.trials.size()) + 1) << "and the cheaper design";
+    const int best = static_cast<int>(model().outcome()->best());
+    const int other = static_cast<int>(*model().outcome()->other());
     EXPECT_TRUE(part<TrialTable>().table()->isMarked(rows.index(best, 0)));
+    EXPECT_TRUE(part<TrialTable>().table()->hasSign(rows.index(other, 0)));
     for (const int level : {3, 2, 1})
         EXPECT_EQ(rows.index(best, 3 - level).data().toString(),
                   model().row(level).OptimalpnlNT.Caption.c_str());
     const auto& band = std::get<BandFigure>(part<ResultBand>().content());
     EXPECT_EQ(band.words + band.number, QString::fromStdString(model().pnlOptimalCost().Caption));
-    const LevelSizes sizes = result.cheapest().sizes;
+    const LevelSizes sizes = result.bestTrial().sizes;
 
+    desk.click("frmOptimal.cmdNotes");
+    EXPECT_TRUE(part<NotesOverlay>().isVisible());
     key(Qt::Key_Escape);
     EXPECT_FALSE(part<NotesOverlay>().isVisible());
     ASSERT_TRUE(isShown("frmOptimal"));
@@ -79,14 +83,13 @@ TEST_F(Wizard, RunsAndPastesByTheKeyboardAlone) {
 
 TEST_F(Wizard, ShowsTheTrialThatIsChosenByKeysAndPointer) {
     key(Qt::Key_Return);
-    key(Qt::Key_Escape);
     RecordTable& table = *part<TrialTable>().table();
-    const int best = static_cast<int>(model().result()->best);
+    const int best = static_cast<int>(model().outcome()->best());
     const auto shown = [&] {
         const auto& band = std::get<BandFigure>(part<ResultBand>().content());
         EXPECT_EQ(band.number, QString::fromStdString(model().pnlCostNumber().Caption));
-        EXPECT_EQ(band.back.isEmpty(), model().outcome()->showsCheapest());
-        return model().outcome()->shownTrial().value_or(99);
+        EXPECT_EQ(band.back.isEmpty(), model().outcome()->showsBest());
+        return model().outcome()->shownDesign();
     };
     QStringList stops;
     for (int i = 0; i < 12; ++i, key(Qt::Key_Tab))
@@ -97,10 +100,11 @@ TEST_F(Wizard, ShowsTheTrialThatIsChosenByKeysAndPointer) {
         "cmdOpt(2)")
         << "the two without a name are the other design's button and the table";
     table.setFocus();
-    key(Qt::Key_Down);
-    key(Qt::Key_Down);
-    EXPECT_EQ(shown(), best + 2);
-    EXPECT_EQ(part<PushButton>("frmOptimal.cmdOpt(3)").text(), "Paste this trial");
+    for (const char* pasted : {"Paste this trial", "Paste this design", "Paste this trial"}) {
+        key(Qt::Key_Down);
+        EXPECT_EQ(part<PushButton>("frmOptimal.cmdOpt(3)").text(), pasted) << shown();
+    }
+    EXPECT_EQ(shown(), best + 3);
     DesktopBench::click(part<TrialPlot>(),
                         part<TrialPlot>().mapTo(table.window(), part<TrialPlot>().placeOf(7).toPoint()));
     EXPECT_EQ(shown(), 7U);
@@ -121,7 +125,6 @@ TEST_F(Wizard, ShowsTheTrialThatIsChosenByKeysAndPointer) {
 TEST_F(Wizard, NotesAndTheDesignBesideTheTrialsComeBack) {
     key(Qt::Key_Return);
     ASSERT_TRUE(model().outcome()->other());
-    key(Qt::Key_Escape);
     EXPECT_TRUE(part<PushButton>("frmOptimal.cmdOpt(3)").hasFocus());
     part<PushButton>("frmOptimal.cmdNotes").setFocus();
     key(Qt::Key_Return);
@@ -132,9 +135,31 @@ TEST_F(Wizard, NotesAndTheDesignBesideTheTrialsComeBack) {
     EXPECT_FALSE(part<NotesOverlay>().isVisible()) << "the button of the note shows its design";
     EXPECT_TRUE(model().outcome()->showsOther());
     part<ResultBand>().findChild<PushButton*>()->click();
-    EXPECT_TRUE(model().outcome()->showsCheapest());
+    EXPECT_TRUE(model().outcome()->showsBest());
     part<OfferCard>().findChild<PushButton*>()->click();
     EXPECT_TRUE(model().outcome()->showsOther());
+}
+
+TEST_F(Wizard, ABudgetIsAnsweredWithPowerAndPasted) {
+    for (const Qt::Key typed :
+         {Qt::Key_1, Qt::Key_2, Qt::Key_0, Qt::Key_0, Qt::Key_0, Qt::Key_0, Qt::Key_Return}) {
+        if (typed == Qt::Key_1)
+            part<EntryCell>("frmOptimal.txtBudget").setFocus();
+        key(typed);
+    }
+    part<PushButton>("frmOptimal.cmdOpt(2)").setFocus();
+    key(Qt::Key_Return);
+    ASSERT_NE(model().result(), nullptr);
+    const auto& band = std::get<BandFigure>(part<ResultBand>().content());
+    EXPECT_EQ(band.words, "Power = ");
+    EXPECT_EQ(part<OfferCard>().text(), "No design has more power for this budget.");
+    EXPECT_TRUE(part<TrialPlot>().valueTexts().first().endsWith(QLatin1Char('%')));
+    const Trial best = model().outcome()->shown();
+    key(Qt::Key_Return);
+    EXPECT_EQ(study().result.txtPower, best.power);
+    EXPECT_EQ(study().result.txtCost, best.cost);
+    EXPECT_LE(best.cost, 120000);
+    EXPECT_EQ(model().question().budget(), 120000);
 }
 
 // The trials take what height there is, three to ten of them.

@@ -173,11 +173,11 @@ TEST(ExactSearch, TheQuickSearchIsNeverBelowAndSeldomFarAbove) {
             continue;
         const OptimalResult quick = bench.search();
         ASSERT_EQ(quick.ending, OptimalEnding::found);
-        const ExactResult exact = findCheapest(bench.trial, bench.options, quick.cheapest(), bench.progress);
+        const ExactResult exact = findCheapest(bench.trial, bench.options, quick.bestTrial(), bench.progress);
         ASSERT_TRUE(exact.proven);
         ASSERT_EQ(exact.best->cost, cheapest(bench).best->cost) << "whatever it starts from";
-        ASSERT_GE(quick.cheapest().cost, exact.best->cost);
-        above.push_back(100.0 * quick.cheapest().cost / exact.best->cost - 100);
+        ASSERT_GE(quick.bestTrial().cost, exact.best->cost);
+        above.push_back(100.0 * quick.bestTrial().cost / exact.best->cost - 100);
     }
     std::sort(above.begin(), above.end());
     std::cout << "Above the optimum: exact "
@@ -240,7 +240,7 @@ TEST(ExactSearch, MeetsTheOptimaOfOthers) {
         }
         EXPECT_NEAR(found.best->power, c.power == 0 ? found.best->power : c.power, 1e-6);
         if (c.budget == 0) {
-            EXPECT_LE(bench.search().cheapest().cost, 1.1 * found.best->cost);
+            EXPECT_LE(bench.search().bestTrial().cost, 1.1 * found.best->cost);
         }
     }
 }
@@ -304,7 +304,7 @@ TEST(ExactSearch, KeepsWhatIsSetByHand) {
     const Trial least = *cheapest(bench).best;
     EXPECT_EQ(least.sizes(1), 8);
     EXPECT_EQ(least.sizes(2), 2) << "for the covariate";
-    EXPECT_EQ(least.cost, bench.search().cheapest().cost) << "a fixed model, with all set by hand";
+    EXPECT_EQ(least.cost, bench.search().bestTrial().cost) << "a fixed model, with all set by hand";
     bench.options.budget = least.cost - 1;
     const Trial most = *mostPower(bench).best;
     EXPECT_EQ(most.sizes(3), least.sizes(3) - 1);

@@ -160,8 +160,9 @@ void checkTrials(SearchBench& bench, const OptimalResult& result) {
             EXPECT_FALSE(trial.power >= bench.options.power && trials.reachesPower())
                 << "level " << level << " of trial " << i << " can still shrink";
         }
-        EXPECT_LE(result.cheapest().cost, trial.cost);
-        EXPECT_TRUE(trial.cost > result.cheapest().cost || i >= result.best) << "a tie keeps the smaller top";
+        EXPECT_LE(result.bestTrial().cost, trial.cost);
+        EXPECT_TRUE(trial.cost > result.bestTrial().cost || i >= result.best)
+            << "a tie keeps the smaller top";
     }
 }
 
@@ -193,7 +194,7 @@ TEST(OptimalSearch, EveryTrialReachesThePowerWithNothingToSpare) {
         ASSERT_EQ(result.trials.size(), 6u);
         for (int level = 1; level < bench.study().NumLevels; ++level) {
             const bool kept = bench.options.manual(level) && result.changes.empty();
-            EXPECT_TRUE(!kept || result.cheapest().sizes(level) == bench.options.numReps(level));
+            EXPECT_TRUE(!kept || result.bestTrial().sizes(level) == bench.options.numReps(level));
         }
         checkTrials(bench, result);
     }
@@ -331,7 +332,7 @@ TEST(OptimalSearch, CovariatesAndLowCellsRaiseTheSizes) {
     risks.refresh();
     result = risks.search();
     EXPECT_TRUE(result.level1Raised);
-    EXPECT_EQ(result.cheapest().sizes(1), *GetMinN(risks.study(), risks.library));
+    EXPECT_EQ(result.bestTrial().sizes(1), *GetMinN(risks.study(), risks.library));
     risks.options.allowLowCellCounts = true;
     EXPECT_FALSE(risks.search().level1Raised);
 }
