@@ -7,42 +7,19 @@
 #include <limits>
 #include <utility>
 
-#include "engine/power_test.h"
-#include "search/free_levels.h"
+#include "search/design_bounds.h"
 #include "search/least_sizes.h"
 #include "search/optimal_ratios.h"
-#include "search/power_bound.h"
 #include "search/trial_bench.h"
 
 namespace lorvane {
 
 namespace {
 
-constexpr double tolerance = 1e-9;  // of every bound
 constexpr int stepsBetweenLooks = 512;
 constexpr double highestMoney = std::numeric_limits<std::int32_t>::max();
-constexpr double infinite = std::numeric_limits<double>::infinity();
 
 double powerKey(double power) { return std::round(power / equalPowers); }
-
-// Sizes of one level, both ends included; empty when first lies above last.
-struct Range {
-    double first;
-    double last;
-};
-
-// What the levels above a free level come to, in one unit of the top level: their cost, their weighted sum,
-// and the units that the next free level is counted in.
-struct Above {
-    double cost;
-    double sum;
-    double units;
-
-    Above with(const FreeLevel& free, double size) const {
-        const double all = units * size;
-        return {cost + free.cost * all, sum + free.weight / all, all * free.units};
-    }
-};
 
 // The level-1 size that avoids low cell counts; nothing is asked where none does, or where they are allowed.
 double leastLevel1(const Study& study, DistributionLibrary& library, const OptimalOptions& options) {
@@ -65,14 +42,14 @@ void writeSizesByHand(Study& study, const OptimalOptions& options, double leastO
 class ExactSearch {
 public:
     ExactSearch(StudyTrial& trial, const OptimalOptions& options, double leastOfLevel1, Progress& progress)
-        : study_(trial.study), library_(trial.library()), options_(options), progress_(progress),
-          bench_(trial.study, library_, 0, progress), bound_(trial.study, library_),
-          levels_(trial.study, options, leastOfLevel1), top_(trial.study.NumLevels) {}
+        : study_(trial.study), options_(options), progress_(progress),
+          bench_(trial.study, trial.library(), 0, progress),
+          bounds_(trial.study, trial.library(), options, leastOfLevel1), top_(trial.study.NumLevels) {}
 
     ExactResult cheapest(const std::optional<Trial>& known);
     ExactResult mostPower();
     ExactResult mostPowerOf(double top);
-    double leastTop() const { return levels_.leastTopOfAll(); }
+    double leastTop() const { return levels().leastTopOfAll(); }
 
 private:
     // How far the walk through the sizes of one level is.
@@ -86,20 +63,15 @@ private:
     void require(double power);
     void seed();
     void walk();
-    void visit(std::size_t place, const Above& above);
-    Range narrowed(std::size_t place, const Above& above);
-    void visitSize(std::size_t place, const Above& above, double size);
-    void sweep(std::size_t place, const Above& above);
-    double sweepSize(const FreeLevel& free, const Above& above, double size);
-    void settle(const Above& design);
-    double settleCheapest(const Above& design);
-    void settleMostPower(const Above& design);
+    void visit(std::size_t place, const Chosen& above);
+    SizeRange narrowed(std::size_t place, const Chosen& above);
+    void visitSize(std::size_t place, const Chosen& above, double size);
+    void sweep(std::size_t place, const Chosen& above);
+    double sweepSize(const FreeLevel& free, const Chosen& above, double size);
+    void settle(const Chosen& design);
+    double settleCheapest(const Chosen& design);
+    void settleMostPower(const Chosen& design);
     double leastReaching(double from, double last);
-    double mostTop(const Above& design) const;
-    double nextSize(const FreeLevel& free, const Above& above, double size, double lowerTop);
-    double largestForTop(const FreeLevel& free, const Above& above, double size) const;
-    Range affordableSizes(const FreeLevel& free, const Above& above) const;
-    Range usefulSizes(const FreeLevel& free, const Above& above);
     void setSize(int level, double size);
     bool tryTop(double top);
     bool isBetter(const Trial& trial) const;
@@ -109,23 +81,17 @@ private:
     template <typename Search>
     ExactResult untilStopped(Search search);
 
-    double largestCost() const { return limit_ + levels_.roundingOfCost(); }
-    bool roundsCosts() const { return levels_.roundingOfCost() > 0; }
-    Above topOnly() const { return {levels_.top().cost, levels_.top().weight, levels_.top().units}; }
+    const FreeLevels& levels() const { return bounds_.levels(); }
 
     Study& study_;
-    DistributionLibrary& library_;
     const OptimalOptions& options_;
     Progress& progress_;
     TrialBench bench_;
-    PowerBound bound_;
-    FreeLevels levels_;
+    DesignBounds bounds_;
     const int top_;
-    Range tops_{levels_.leastTopOfAll(), largestSizeFound};
     OptimalGoal goal_ = OptimalGoal::cheapest;
-    double power_ = 0;             ///< what a design of use must reach
-    double limit_ = highestMoney;  ///< and the most that it may cost
-    LevelSizes sizes_;             ///< of the levels below the top
+    double power_ = 0;  ///< what a design of use must reach
+    LevelSizes sizes_;  ///< of the levels below the top
     std::optional<Trial> best_;
     std::int64_t found_ = 0;  ///< how often a better design was met
     int steps_ = 0;
@@ -166,7 +132,7 @@ ExactResult ExactSearch::mostPower() {
 }
 
 ExactResult ExactSearch::mostPowerOf(double top) {
-    tops_ = {top, top};
+    bounds_.keepTop(top);
     best_.reset();
     return untilStopped([&] { lookForMostPower(); });
 }
@@ -174,14 +140,14 @@ ExactResult ExactSearch::mostPowerOf(double top) {
 void ExactSearch::lookForCheapest(double power, const std::optional<Trial>& known) {
     goal_ = OptimalGoal::cheapest;
     best_ = known;
-    limit_ = known ? known->cost : highestMoney;
+    bounds_.limitCost(known ? known->cost : highestMoney);
     require(power);
     walk();
 }
 
 void ExactSearch::lookForMostPower() {
     goal_ = OptimalGoal::mostPower;
-    limit_ = options_.budget;
+    bounds_.limitCost(options_.budget);
     require(0);
     seed();
     walk();
@@ -189,8 +155,7 @@ void ExactSearch::lookForMostPower() {
 
 void ExactSearch::require(double power) {
     power_ = power;
-    bound_.require(power);
-    levels_.weigh(bound_.weights());
+    bounds_.requirePower(power);
 }
 
 // The ratios that cost least are near the best sizes, so that the bounds bite from the beginning.
@@ -199,9 +164,9 @@ void ExactSearch::seed() {
     const std::optional<SizeRatios> ratios = computeOptimalRatios(copy, options_);
     if (!ratios)
         return;
-    Above design = topOnly();
-    for (std::size_t place = 0; place < levels_.count(); ++place) {
-        const FreeLevel& free = levels_[place];
+    Chosen design = bounds_.topOnly();
+    for (std::size_t place = 0; place < levels().count(); ++place) {
+        const FreeLevel& free = levels()[place];
         const double size = std::max(free.least, std::round((*ratios)(free.level)));
         setSize(free.level, size);
         design = design.with(free, size);
@@ -211,23 +176,22 @@ void ExactSearch::seed() {
 
 void ExactSearch::walk() {
     parts_.fill({});
-    visit(0, topOnly());
+    visit(0, bounds_.topOnly());
 }
 
 // The walk -------------------------------------------------------------------------------------------------
 
 // From the size that weighs least outwards, so that good designs come early.
-void ExactSearch::visit(std::size_t place, const Above& above) {
-    if (levels_.count() == 0)
+void ExactSearch::visit(std::size_t place, const Chosen& above) {
+    if (levels().count() == 0)
         return settle(above);
-    if (place + 1 == levels_.count())
+    if (place + 1 == levels().count())
         return sweep(place, above);
-    const FreeLevel& free = levels_[place];
-    const Range all = usefulSizes(free, above);
-    if (all.first > all.last)
+    const FreeLevel& free = levels()[place];
+    const SizeRange all = bounds_.usefulSizes(free, above);
+    if (all.isEmpty())
         return;
-    const double lightest =
-        std::sqrt(above.cost * free.weight / (above.sum * free.cost)) / std::max(above.units, 1.0);
+    const double lightest = bounds_.lightestSize(free, above);
     const double start =
         std::isfinite(lightest) ? std::clamp(std::round(lightest), all.first, all.last) : all.first;
     parts_[place] = {};
@@ -238,14 +202,14 @@ void ExactSearch::visit(std::size_t place, const Above& above) {
 }
 
 // The sizes that are of use by now.
-Range ExactSearch::narrowed(std::size_t place, const Above& above) {
-    const Range range = usefulSizes(levels_[place], above);
+SizeRange ExactSearch::narrowed(std::size_t place, const Chosen& above) {
+    const SizeRange range = bounds_.usefulSizes(levels()[place], above);
     parts_[place].all = std::max(range.last - range.first + 1, parts_[place].done + 1);
     return range;
 }
 
-void ExactSearch::visitSize(std::size_t place, const Above& above, double size) {
-    const FreeLevel& free = levels_[place];
+void ExactSearch::visitSize(std::size_t place, const Chosen& above, double size) {
+    const FreeLevel& free = levels()[place];
     look();
     setSize(free.level, size);
     visit(place + 1, above.with(free, size));
@@ -254,9 +218,9 @@ void ExactSearch::visitSize(std::size_t place, const Above& above, double size) 
 }
 
 // The lowest free level, with every size that may be of use.
-void ExactSearch::sweep(std::size_t place, const Above& above) {
-    const FreeLevel& free = levels_[place];
-    Range range = usefulSizes(free, above);
+void ExactSearch::sweep(std::size_t place, const Chosen& above) {
+    const FreeLevel& free = levels()[place];
+    SizeRange range = bounds_.usefulSizes(free, above);
     const double first = range.first;
     std::int64_t found = found_;
     double size = first;
@@ -265,82 +229,25 @@ void ExactSearch::sweep(std::size_t place, const Above& above) {
         look();
         size = sweepSize(free, above, size);
         if (std::exchange(found, found_) != found_)
-            range = usefulSizes(free, above);
+            range = bounds_.usefulSizes(free, above);
     }
 }
 
 // Settles a size and gives the next one that may be better.
-double ExactSearch::sweepSize(const FreeLevel& free, const Above& above, double size) {
+double ExactSearch::sweepSize(const FreeLevel& free, const Chosen& above, double size) {
     const bool isCheapest = goal_ == OptimalGoal::cheapest;
-    const double settled = isCheapest ? size : largestForTop(free, above, size);
+    const double settled = isCheapest ? size : bounds_.largestWithSameTop(free, above, size);
     setSize(free.level, settled);
-    const Above design = above.with(free, settled);
+    const Chosen design = above.with(free, settled);
     if (isCheapest)
-        return nextSize(free, above, size, settleCheapest(design) - 1);
+        return bounds_.nextSize(free, above, size, settleCheapest(design) - 1);
     settleMostPower(design);
     return settled + 1;
 }
 
-// Only a lower top level makes up for a larger size.
-double ExactSearch::nextSize(const FreeLevel& free, const Above& above, double size, double lowerTop) {
-    if (roundsCosts() || free.weight <= 0 || bound_.saysNothing())
-        return size + 1;
-    if (lowerTop < tops_.first)
-        return infinite;
-    const double room = bound_.largestSum(lowerTop) - above.sum;
-    if (room <= 0)
-        return infinite;
-    return std::max(size + 1, std::ceil(free.weight / above.units / room * (1 - tolerance)));
-}
-
-// With the same top level the largest size has the most power. The test in normal theory may lose some.
-double ExactSearch::largestForTop(const FreeLevel& free, const Above& above, double size) const {
-    if (roundsCosts() || free.weight <= 0 || bound_.saysNothing() || isNormalTest(study_))
-        return size;
-    const double top = mostTop(above.with(free, size));
-    return std::max(size, std::floor((limit_ / top - above.cost) / (free.cost * above.units)));
-}
-
-// Bounds ---------------------------------------------------------------------------------------------------
-
-Range ExactSearch::affordableSizes(const FreeLevel& free, const Above& above) const {
-    const double room = largestCost() / tops_.first - above.cost;
-    const double most = std::floor(room / (free.leastCost * above.units) * (1 + tolerance));
-    return {free.least, std::min(most, largestSizeFound)};
-}
-
-// With K and V the cost and the sum so far, B and D those of this level at a size of 1 and r what the levels
-// below add at least, a size x needs (sqrt((K + B x)(V + D / x)) + r)^2 <= largest cost times largest sum,
-// for one unit of the top level. That holds between the roots of a quadratic.
-Range ExactSearch::usefulSizes(const FreeLevel& free, const Above& above) {
-    const Range affordable = affordableSizes(free, above);
-    if (bound_.saysNothing() || affordable.first > affordable.last)
-        return affordable;
-    constexpr Range none{1, 0};
-    const double K = above.cost, V = above.sum;
-    const double B = free.cost * above.units, D = free.weight / above.units;
-    const double leastCost = K + free.leastCost * above.units * free.least;
-    const double top = std::clamp(std::floor(largestCost() / leastCost), tops_.first, tops_.last);
-    const double root = std::sqrt(bound_.largestSum(top) / top * largestCost()) - free.rest;
-    if (std::isinf(root))
-        return affordable;
-    const double p = root * root - K * V - B * D;
-    const double discriminant = p * p * (1 + tolerance) - 4 * B * V * K * D;
-    if (root <= 0 || p <= 0 || discriminant < 0)
-        return none;
-    const double sum = p + std::sqrt(discriminant);
-    const double first = std::ceil(2 * K * D / sum * (1 - tolerance));
-    const double last = B * V > 0 ? std::floor(sum / (2 * B * V) * (1 + tolerance)) : infinite;
-    return {std::max(first, affordable.first), std::min(last, affordable.last)};
-}
-
-double ExactSearch::mostTop(const Above& design) const {
-    return std::min(std::floor(largestCost() / design.cost * (1 + tolerance)), tops_.last);
-}
-
 // The top level --------------------------------------------------------------------------------------------
 
-void ExactSearch::settle(const Above& design) {
+void ExactSearch::settle(const Chosen& design) {
     if (goal_ == OptimalGoal::cheapest)
         settleCheapest(design);
     else
@@ -348,15 +255,18 @@ void ExactSearch::settle(const Above& design) {
 }
 
 // The least top level that reaches the power, or the first that costs too much.
-double ExactSearch::settleCheapest(const Above& design) {
-    const double least = levels_.leastTop(sizes_);
-    const double last = bound_.risesWithTop() ? mostTop(design) : std::min(least, mostTop(design));
-    const double from = bound_.leastTop(design.sum, least);
-    if (!(from <= last))
-        return std::min(from, last + 1);
+double ExactSearch::settleCheapest(const Chosen& design) {
+    const double least = bounds_.leastTop(sizes_);
+    const double largest = bounds_.largestTop(design);
+    const double last = bounds_.risesWithTop() ? largest : std::min(least, largest);
+    if (!(least <= last))
+        return last + 1;
+    const double from = bounds_.leastTopForPower(design, least);
+    if (from > last)
+        return last + 1;
     const double top = leastReaching(from, last);
-    if (roundsCosts()) {  // a few more units may cost the same
-        for (double more = top + 1; more <= mostTop(design); ++more)
+    if (bounds_.roundsCosts()) {  // a few more units may cost the same
+        for (double more = top + 1; more <= bounds_.largestTop(design); ++more)
             tryTop(more);
     }
     return top;
@@ -379,13 +289,13 @@ double ExactSearch::leastReaching(double from, double last) {
     return top;
 }
 
-// The largest top level that the budget pays.
-void ExactSearch::settleMostPower(const Above& design) {
-    const double least = std::max(levels_.leastTop(sizes_), tops_.first);
-    double top = bound_.risesWithTop() ? mostTop(design) : least;
-    while (top >= least && top <= mostTop(design) && design.sum <= bound_.largestSum(top)) {
+// The largest top level that the budget pays; its cost may round to more.
+void ExactSearch::settleMostPower(const Chosen& design) {
+    const double least = bounds_.leastTop(sizes_);
+    double top = bounds_.risesWithTop() ? bounds_.largestTop(design) : least;
+    while (top >= least && top <= bounds_.largestTop(design) && bounds_.canReachPower(design, top)) {
         tryTop(top);
-        if (study_.result.txtCost <= limit_ && !study_.result.txtCostProblem)
+        if (study_.result.txtCost <= bounds_.costLimit() && !study_.result.txtCostProblem)
             return;
         --top;
     }
@@ -410,7 +320,7 @@ bool ExactSearch::tryTop(double top) {
 }
 
 bool ExactSearch::isBetter(const Trial& trial) const {
-    if (trial.cost > limit_)
+    if (trial.cost > bounds_.costLimit())
         return false;
     if (!best_)
         return true;
@@ -433,14 +343,14 @@ void ExactSearch::take(const Trial& trial) {
     best_ = trial;
     ++found_;
     if (goal_ == OptimalGoal::cheapest) {
-        limit_ = trial.cost;
+        bounds_.limitCost(trial.cost);
         return;
     }
     const double better = (powerKey(trial.power) + 0.5) * equalPowers;
     if (better < 1)
         require(better);
     else
-        limit_ = 0;
+        bounds_.limitCost(0);
 }
 
 double ExactSearch::share() const {

@@ -7,10 +7,7 @@
 // not disturb this. The test in normal theory may: where its bound says nothing, the top level is walked unit
 // by unit.
 //
-// Sizes are left out by two bounds that hold for every design. Costs: the levels below at their least sizes,
-// with the least top level. Power: with the weights w of PowerBound and the cost u of a unit, a design whose
-// sum is S costs at least (sum of sqrt(u w))^2 / S for one unit of the top level (Cauchy and Schwarz),
-// however large its free levels may become.
+// What cannot be of use is left out by the bounds of DesignBounds, which hold for every design.
 #pragma once
 
 #include <vector>

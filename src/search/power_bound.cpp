@@ -15,6 +15,7 @@ namespace {
 
 constexpr double infinite = std::numeric_limits<double>::infinity();
 constexpr double tolerance = 1e-9;  // of every bound, far above the errors of the computation
+constexpr double roundingErrors = 16 * std::numeric_limits<double>::epsilon();
 constexpr double stepOfRoot = 1e-11;
 constexpr std::size_t knownSums = 4096;
 constexpr double largestNoncentrality = 1e6;
@@ -38,17 +39,19 @@ Variances variancesOf(Study& s, DistributionLibrary& library) {
     return {1 / (s.result.xLambda * s.result.xLambda), s.result.txtVarPooled, s.result.txtVarSep};
 }
 
-// With units of one kind doubled, the parts of this level and of all below it halve.
+// With units of one kind doubled, the parts of this level and of all below it halve. What rounding may have
+// left counts as nothing.
 using Part = double Variances::*;
 PerLevel<double> weightsOf(const PerLevel<Variances>& doubled, int levels, Part part) {
     PerLevel<double> weights;
+    const double whole = doubled(levels).*part;
     double below = 0;
-    for (int level = 1; level < levels; ++level) {
-        const double both = 2 * (doubled(levels).*part - doubled(level).*part);
-        weights(level) = both - below;
+    for (int level = 1; level <= levels; ++level) {
+        const double both = level < levels ? 2 * (whole - doubled(level).*part) : whole;
+        const double weight = both - below;
+        weights(level) = std::fabs(weight) > roundingErrors * std::fabs(whole) ? weight : 0;
         below = both;
     }
-    weights(levels) = doubled(levels).*part - below;
     return weights;
 }
 
@@ -62,6 +65,14 @@ PerLevel<double> withoutNegative(PerLevel<double> weights, int levels) {
         weights(level) = 0;
     }
     return weights;
+}
+
+bool isAnyNegative(const PerLevel<double>& weights, int levels) {
+    for (int level = 1; level <= levels; ++level) {
+        if (weights(level) < 0)
+            return true;
+    }
+    return false;
 }
 
 bool areFinite(const PerLevel<double>& weights, int levels) {
@@ -95,8 +106,11 @@ PowerBound::PowerBound(const Study& study, DistributionLibrary& library)
         setSize(probe, level, 1);
     }
     lambdaWeights_ = weightsOf(doubled, top, &Variances::lambda);
-    pooledWeights_ = withoutNegative(weightsOf(doubled, top, &Variances::pooled), top);
-    separateWeights_ = withoutNegative(weightsOf(doubled, top, &Variances::separate), top);
+    const PerLevel<double> pooled = weightsOf(doubled, top, &Variances::pooled);
+    const PerLevel<double> separate = weightsOf(doubled, top, &Variances::separate);
+    hasNegativeParts_ = isAnyNegative(pooled, top) || isAnyNegative(separate, top);
+    pooledWeights_ = withoutNegative(pooled, top);
+    separateWeights_ = withoutNegative(separate, top);
     rises_ = !(isNormal_ && study.txtTails == Tails::one && probe.result.txtBinaryES < 0);
     study_.result = probe.result;
     require(0);
@@ -115,7 +129,7 @@ void PowerBound::require(double power) {
     for (int level = 1; level <= top; ++level)
         sum += weights_(level);
     saysNothing_ = sum <= 0;
-    roundingError_ = 16 * std::numeric_limits<double>::epsilon() * sum;
+    roundingError_ = roundingErrors * sum;
 }
 
 void PowerBound::requireOfT() { weights_ = withoutNegative(lambdaWeights_, study_.NumLevels); }
@@ -123,7 +137,8 @@ void PowerBound::requireOfT() { weights_ = withoutNegative(lambdaWeights_, study
 void PowerBound::requireOfNormal() {
     const bool twoTails = study_.txtTails == Tails::two;
     const double crit = NormInv(library_, twoTails ? study_.txtAlpha / 2 : study_.txtAlpha);
-    double ratio = infinite;  // the least of pooled and separate variance in any design
+    // The least ratio of pooled and separate variance in any design, where each is a sum of parts.
+    double ratio = hasNegativeParts_ ? 0 : infinite;
     for (int level = 1; level <= study_.NumLevels; ++level) {
         if (separateWeights_(level) > 0)
             ratio = std::min(ratio, pooledWeights_(level) / separateWeights_(level));

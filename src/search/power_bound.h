@@ -67,8 +67,9 @@ private:
     PerLevel<double> lambdaWeights_;  ///< n / lambda^2
     PerLevel<double> pooledWeights_;
     PerLevel<double> separateWeights_;
-    double firstDf_ = 0;  ///< of the test at a top level of 1
-    double moreDf_ = 0;   ///< for every further unit
+    bool hasNegativeParts_ = false;  ///< one of the two has a negative weight of its own
+    double firstDf_ = 0;             ///< of the test at a top level of 1
+    double moreDf_ = 0;              ///< for every further unit
     double power_ = 0;
     bool isNormal_;
     bool rises_ = true;
