@@ -1,11 +1,12 @@
-// Time of the search for the cheapest design on all nine designs, means and binary, with the runs of the
-// computation that it took; of a search whose top level ends in the millions; and of the curve of power.
+// Time of the quick search for the cheapest design on all nine designs, means and binary, of the proof behind
+// it and of the most power for a budget, with the runs of the computation that each took; of a search whose
+// top level ends in the millions; and of the curve of power.
 #include <benchmark/benchmark.h>
 
 #include <string>
 
 #include "engine/design_routines.h"
-#include "search/optimal_search.h"
+#include "search/optimal_proof.h"
 #include "search/power_curve.h"
 #include "support/test_library.h"
 #include "support/usual_study.h"
@@ -46,6 +47,31 @@ void optimal(benchmark::State& state, int levels, int randomized, DataTypes data
         state.SkipWithError("nothing was found");
 }
 
+// The proof, from the result of the quick search on.
+void proof(benchmark::State& state, int levels, int randomized, DataTypes dataType) {
+    Bench bench(levels, randomized, dataType);
+    OptimalResult result = bench.search();
+    for (auto _ : state)
+        proveCheapest(bench.trial, OptimalOptions(), bench.progress, result);
+    state.counters["runs"] = static_cast<double>(result.proof->runs);
+    if (!result.proof->proven)
+        state.SkipWithError("nothing was proven");
+}
+
+// The most power for what the quick search costs, with the trials around it.
+void mostPower(benchmark::State& state, int levels, int randomized, DataTypes dataType) {
+    Bench bench(levels, randomized, dataType);
+    OptimalOptions options;
+    options.goal = OptimalGoal::mostPower;
+    options.budget = bench.search().bestTrial().cost;
+    OptimalResult result;
+    for (auto _ : state)
+        result = searchMostPower(bench.trial, options, bench.progress);
+    state.counters["runs"] = static_cast<double>(result.runs);
+    if (!result.proof || !result.proof->proven)
+        state.SkipWithError("nothing was proven");
+}
+
 // A whole curve.
 void powerCurve(benchmark::State& state, int levels, int randomized, DataTypes dataType) {
     NumericDistributionLibrary library;
@@ -83,7 +109,10 @@ void registerAll() {
             const std::string name(routinesOf(levels, randomized).name);
             for (const auto& [suffix, type] :
                  {std::pair{"Means", DataTypes::means}, {"Binary", DataTypes::binary}}) {
-                for (const auto& [what, run] : {std::pair{"optimal/", &optimal}, {"curve/", &powerCurve}})
+                for (const auto& [what, run] : {std::pair{"optimal/", &optimal},
+                                                {"proof/", &proof},
+                                                {"power/", &mostPower},
+                                                {"curve/", &powerCurve}})
                     benchmark::RegisterBenchmark((what + name + suffix).c_str(), run, levels, randomized,
                                                  type)
                         ->Unit(benchmark::kMillisecond);
