@@ -151,7 +151,7 @@ void printFound(const Study& s, const Answer& answer, const Currency& currency, 
     const std::string cost = optimalCostText(best.cost, currency);
     if (!answer.asksForPower())
         printLine(out, "Cost", cost);
-    printLine(out, "Power", fixedText(best.power, 4));
+    printLine(out, "Power", powerText(best.power));
     if (answer.asksForPower()) {
         printLine(out, "Cost", cost);
         printLine(out, "Left", leftOfBudget(best, answer.options.budget, currency));

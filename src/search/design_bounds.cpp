@@ -87,7 +87,7 @@ double DesignBounds::nextSize(const FreeLevel& free, const Chosen& above, double
 }
 
 double DesignBounds::largestWithSameTop(const FreeLevel& free, const Chosen& above, double size) const {
-    if (!leaps(free) || isNormal_)
+    if (!leaps(free))
         return size;
     const double top = largestTop(above.with(free, size));
     return std::max(size, std::floor((limit_ / top - above.cost) / (free.cost * above.units)));

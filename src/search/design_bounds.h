@@ -71,9 +71,9 @@ public:
     /// cost. Infinite where none is low enough.
     double nextSize(const FreeLevel& free, const Chosen& above, double size, double lowerTop);
 
-    /// The largest size of the lowest free level that costs no unit of the top level, which has the most
-    /// power with it. The test in normal theory may lose power as the size grows: there it is the size
-    /// itself.
+    /// The largest size of the lowest free level that costs no unit of the top level. It has the most power
+    /// with it, but for the test in normal theory, which may lose power as the size grows.
+    bool risesWithSize() const { return !isNormal_; }
     double largestWithSameTop(const FreeLevel& free, const Chosen& above, double size) const;
 
 private:

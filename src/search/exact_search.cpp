@@ -62,6 +62,8 @@ private:
     void lookForMostPower();
     void require(double power);
     void seed();
+    template <typename Rule>
+    Chosen withSizes(Rule size);
     void walk();
     void visit(std::size_t place, const Chosen& above);
     SizeRange narrowed(std::size_t place, const Chosen& above);
@@ -70,7 +72,7 @@ private:
     double sweepSize(const FreeLevel& free, const Chosen& above, double size);
     void settle(const Chosen& design);
     double settleCheapest(const Chosen& design);
-    void settleMostPower(const Chosen& design);
+    bool settleMostPower(const Chosen& design);
     double leastReaching(double from, double last);
     void setSize(int level, double size);
     bool tryTop(double top);
@@ -158,20 +160,34 @@ void ExactSearch::require(double power) {
     bounds_.requirePower(power);
 }
 
-// The ratios that cost least are near the best sizes, so that the bounds bite from the beginning.
+// So that the bounds bite from the beginning: the ratios that cost least are near the best sizes. Where they
+// cannot be paid, the least sizes, with as many of the lowest level as can.
 void ExactSearch::seed() {
     Study copy = study_;
     const std::optional<SizeRatios> ratios = computeOptimalRatios(copy, options_);
-    if (!ratios)
-        return;
+    const auto ratio = [&](const FreeLevel& free, const Chosen&) {
+        return std::round((*ratios)(free.level));
+    };
+    const auto least = [&](const FreeLevel& free, const Chosen& above) {
+        const bool isLowest = &free == &levels()[levels().count() - 1];
+        return isLowest ? bounds_.usefulSizes(free, above).last : free.least;
+    };
+    if (ratios)
+        settle(withSizes(ratio));
+    if (!best_)
+        settle(withSizes(least));
+}
+
+// A design whose free sizes a rule tells from the top down.
+template <typename Rule>
+Chosen ExactSearch::withSizes(Rule size) {
     Chosen design = bounds_.topOnly();
     for (std::size_t place = 0; place < levels().count(); ++place) {
         const FreeLevel& free = levels()[place];
-        const double size = std::max(free.least, std::round((*ratios)(free.level)));
-        setSize(free.level, size);
-        design = design.with(free, size);
+        setSize(free.level, std::max(free.least, size(free, design)));
+        design = design.with(free, sizes_(free.level));
     }
-    settle(design);
+    return design;
 }
 
 void ExactSearch::walk() {
@@ -235,14 +251,19 @@ void ExactSearch::sweep(std::size_t place, const Chosen& above) {
 
 // Settles a size and gives the next one that may be better.
 double ExactSearch::sweepSize(const FreeLevel& free, const Chosen& above, double size) {
-    const bool isCheapest = goal_ == OptimalGoal::cheapest;
-    const double settled = isCheapest ? size : bounds_.largestWithSameTop(free, above, size);
-    setSize(free.level, settled);
-    const Chosen design = above.with(free, settled);
-    if (isCheapest)
-        return bounds_.nextSize(free, above, size, settleCheapest(design) - 1);
-    settleMostPower(design);
-    return settled + 1;
+    if (goal_ == OptimalGoal::cheapest) {
+        setSize(free.level, size);
+        return bounds_.nextSize(free, above, size, settleCheapest(above.with(free, size)) - 1);
+    }
+    const double largest = bounds_.largestWithSameTop(free, above, size);
+    for (double each = largest; each >= size; --each) {
+        look();
+        setSize(free.level, each);
+        const bool mayReach = settleMostPower(above.with(free, each));
+        if (bounds_.risesWithSize() || !mayReach)
+            break;
+    }
+    return largest + 1;
 }
 
 // The top level --------------------------------------------------------------------------------------------
@@ -289,16 +310,18 @@ double ExactSearch::leastReaching(double from, double last) {
     return top;
 }
 
-// The largest top level that the budget pays; its cost may round to more.
-void ExactSearch::settleMostPower(const Chosen& design) {
+// The largest top level that the budget pays; its cost may round to more. False when the sum is too large for
+// the power, as that of any smaller size of the lowest level is.
+bool ExactSearch::settleMostPower(const Chosen& design) {
     const double least = bounds_.leastTop(sizes_);
     double top = bounds_.risesWithTop() ? bounds_.largestTop(design) : least;
     while (top >= least && top <= bounds_.largestTop(design) && bounds_.canReachPower(design, top)) {
         tryTop(top);
         if (study_.result.txtCost <= bounds_.costLimit() && !study_.result.txtCostProblem)
-            return;
+            return true;
         --top;
     }
+    return top < least;
 }
 
 void ExactSearch::setSize(int level, double size) {

@@ -15,7 +15,6 @@ namespace lorvane {
 namespace {
 
 constexpr int powerDecimals = 5;
-constexpr int shownPowerDecimals = 4;
 constexpr std::size_t heads = 1;  // rows of the table before the first trial
 
 }  // namespace
@@ -90,7 +89,7 @@ void OptimalOutcome::writeTable(const Study& s) {
         for (int level = s.NumLevels; level >= lowestLevel; --level)
             row.push_back(shortestText(trial.sizes(level)));
         row.push_back(groupedText(trial.cost));
-        row.push_back(fixedText(trial.power, shownPowerDecimals));
+        row.push_back(powerText(trial.power));
     }
 }
 
@@ -107,7 +106,7 @@ void OptimalOutcome::showSelected() {
 }
 
 std::string OptimalOutcome::figure() const {
-    return asksForPower() ? fixedText(shown().power, shownPowerDecimals)
+    return asksForPower() ? powerText(shown().power)
                           : optimalCostText(shown().cost, currency_);
 }
 
@@ -120,7 +119,7 @@ std::string OptimalOutcome::words() const {
 std::string OptimalOutcome::wordsOfCost() const {
     if (showsBest())
         return "Numbers are shown here. Click <Paste> to copy to the main screen.";
-    const std::string words = "Power " + fixedText(shown().power, shownPowerDecimals) + ". " +
+    const std::string words = "Power " + powerText(shown().power) + ". " +
                               (showsOther() ? "This design costs " : "This trial costs ");
     const std::string cheapest = showsOther() ? "the best trial." : "the cheapest.";
     const std::int32_t more = shown().cost - result_.bestTrial().cost;
@@ -137,7 +136,7 @@ std::string OptimalOutcome::wordsOfPower() const {
         return cost + " of " + amountText(budget_, currency_) + left +
                "Click <Paste> to copy to the main screen.";
     const double less = result_.bestTrial().power - shown().power;
-    return cost + left + "This trial has " + fixedText(less, shownPowerDecimals) + " less power.";
+    return cost + left + "This trial has " + powerText(less) + " less power.";
 }
 
 }  // namespace lorvane

@@ -25,9 +25,11 @@ std::string withoutLowCells(const Study& s, const ExactResult& proof, const Curr
            sizesInWords(s, proof.best->sizes) + ".";
 }
 
-std::string mostPowerWords(const ExactResult& proof) {
-    return proof.proven ? "No design has more power for this budget."
-                        : nothingYet(proof, "Nothing with more power found so far");
+std::string mostPowerWords(const OptimalResult& result) {
+    const ExactResult& proof = *result.proof;
+    return proof.proven
+               ? "No design has more power than " + powerText(result.bestTrial().power) + " for this budget."
+               : nothingYet(proof, "Nothing with more power found so far");
 }
 
 }  // namespace
@@ -40,6 +42,8 @@ std::string sizesInWords(const Study& s, const LevelSizes& sizes) {
     }
     return words;
 }
+
+std::string powerText(double power) { return fixedText(power, 4); }
 
 std::string lookingWords(OptimalGoal goal, double share) {
     return std::string(goal == OptimalGoal::cheapest ? "Looking for a cheaper design: "
@@ -57,7 +61,7 @@ std::optional<Trial> otherDesign(const OptimalResult& result) {
 std::string proofWords(const Study& s, const OptimalResult& result, const Currency& currency) {
     const ExactResult& proof = *result.proof;
     if (result.goal == OptimalGoal::mostPower)
-        return mostPowerWords(proof);
+        return mostPowerWords(result);
     if (result.hasForbiddenCells)
         return withoutLowCells(s, proof, currency);
     const std::optional<Trial> other = otherDesign(result);

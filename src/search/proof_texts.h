@@ -13,6 +13,9 @@ namespace lorvane {
 /// "18 Schools, 2 Classes, 12 Students", from the top level down.
 std::string sizesInWords(const Study& study, const LevelSizes& sizes);
 
+/// "0.8423"
+std::string powerText(double power);
+
 /// "Looking for a cheaper design: 40% of the sizes are settled. Esc stops."
 std::string lookingWords(OptimalGoal goal, double share);
 

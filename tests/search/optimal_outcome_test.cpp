@@ -93,7 +93,7 @@ TEST_F(Outcomes, OfABudgetTellPowerCostAndWhatIsLeft) {
     options.budget = 1450;
     found.goal = OptimalGoal::mostPower;
     found.trials = {trialOf(10, 9, 1400, 0.78), trialOf(11, 8, 1399, 0.80061)};
-    EXPECT_EQ(prove(found.trials[1]), "No design has more power for this budget.");
+    EXPECT_EQ(prove(found.trials[1]), "No design has more power than 0.8006 for this budget.");
     EXPECT_EQ(outcome.figure(), "0.8006");
     EXPECT_EQ(outcome.words(), "Cost $1,399 of $1,450, $51 left. Click <Paste> to copy to the main screen.");
     EXPECT_EQ(said({1}), "Cost $1,400, $50 left. This trial has 0.0206 less power.");
