@@ -62,15 +62,11 @@ void addOptimal(CLI::App& cli, OptimalRequest& request) {
     CLI::App* command =
         cli.add_subcommand("optimal", "The cheapest design for a power, or the most power for a budget");
     command->add_option("STUDY", request.study, "Study file")->required();
-    CLI::Option* power =
-        command->add_option("--power", request.power, "Required power; the study's own where it is not given")
-            ->type_name("P");
-    CLI::Option* told =
-        command->add_flag("--told", request.told, "Only the quick search, without the proof behind it");
+    command->add_option("--power", request.power, "Required power; the study's own where it is not given")
+        ->type_name("P");
     command->add_option("--budget", request.budget, "Find the most power that costs at most so much")
-        ->type_name("B")
-        ->excludes(power)
-        ->excludes(told);
+        ->type_name("B");
+    command->add_flag("--told", request.told, "Only the quick search, without the proof behind it");
     command
         ->add_option("--fix", request.fixes,
                      "Keep a level below the top at N units per unit above; may be repeated")

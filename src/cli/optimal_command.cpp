@@ -53,6 +53,9 @@ OptimalOptions optionsOf(const OptimalRequest& request, const Session& session) 
     if (request.power && !(*request.power > 0 && *request.power < 1))
         throw UseProblem("--power takes a power above 0 and below 1, not " + shortestText(*request.power) +
                          ".");
+    if (request.budget && (request.power || request.told))
+        throw UseProblem(std::string("--budget asks for the most power; leave ") +
+                         (request.power ? "--power" : "--told") + " out.");
     if (request.budget && !(*request.budget >= 1 && *request.budget <= highestBudget))
         throw UseProblem("--budget takes an amount from 1 to 2147483647, not " +
                          shortestText(*request.budget) + ".");

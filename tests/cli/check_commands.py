@@ -166,12 +166,20 @@ def check_optimal(folder):
     code, out, _ = run("optimal", STUDY, "--json")
     answer = json.loads(out)
     assert answer["found"] and answer["power"] >= 0.8 and len(answer["sizes"]) == 3 and answer["cost"] > 0, out
+    told = json.loads(run("optimal", STUDY, "--told", "--json")[1])
+    assert answer["proven"] and not told["proven"] and answer["cost"] < told["cost"] == answer["told"]["cost"], answer
     assert run("optimal", STUDY, "--force", "--out", cheap)[0] == 0
+    assert json.loads(run("power", cheap, "--json")[1])["cost"] == answer["cost"], "the proven design is saved"
+    most = json.loads(run("optimal", STUDY, "--budget", str(answer["cost"]), "--json")[1])
+    assert most["proven"] and most["power"] >= answer["power"] and most["cost"] + most["left"] == most["budget"], most
+    code, out, err = run("optimal", STUDY, "--budget", "300")
+    assert code == 1 and out == "" and err.startswith("The budget is too low. The cheapest valid design costs $"), err
     code, out, err = run("optimal", STUDY, "--set", "txtModel(3)=1")
     assert code == 1 and out == "" and err.startswith("Model is fixed. Optimal design cannot be computed"), err
     code, out, err = run("optimal", STUDY, "--json", "--set", "txtNB(3)=1")
     assert code == 1 and not json.loads(out)["found"] and "degrees of freedom" in err, (out, err)
-    for wrong in (["--fix", "3=2"], ["--fix", "1"], ["--fix", "1=0"], ["--power", "1"], ["--iterations", "7"]):
+    for wrong in (["--fix", "3=2"], ["--fix", "1"], ["--fix", "1=0"], ["--power", "1"], ["--iterations", "7"],
+                  ["--budget", "0"], ["--budget", "9", "--power", "0.9"], ["--budget", "9", "--told"]):
         code, out, err = run("optimal", STUDY, *wrong)
         assert code == 2 and out == "" and len(err.splitlines()) == 1, (wrong, code, out, err)
 
