@@ -48,7 +48,7 @@ void noteRaisedSizes(const StudyTrial& trial, const OptimalOptions& options, Opt
 
 OptimalEnding endingOf(const ExactResult& proof, const OptimalOptions& options) {
     if (!proof.best)
-        return OptimalEnding::stopped;
+        return proof.proven ? OptimalEnding::noSolution : OptimalEnding::stopped;
     return proof.best->cost > options.budget ? OptimalEnding::budgetTooLow : OptimalEnding::found;
 }
 

@@ -19,6 +19,8 @@ std::string nothingYet(const ExactResult& proof, const char* words) {
 }
 
 std::string withoutLowCells(const Study& s, const ExactResult& proof, const Currency& currency) {
+    if (!proof.best && proof.proven)
+        return "No design without low cell counts reaches the power.";
     if (!proof.best)
         return nothingYet(proof, "Nothing without low cell counts found so far");
     return "Without low cell counts: " + ReFormatCurrency(proof.best->cost, currency) + " with " +

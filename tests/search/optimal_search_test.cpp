@@ -3,7 +3,9 @@
 
 #include "engine/cell_screening.h"
 #include "engine/effect_metrics.h"
+#include "platform/time_limit.h"
 #include "search/least_sizes.h"
+#include "search/optimal_proof.h"
 #include "search/optimal_ratios.h"
 #include "search/optimal_texts.h"
 #include "search/optimal_window.h"
@@ -404,6 +406,7 @@ TEST(OptimalSearch, ExtremeStudiesEndSoon) {
     std::mt19937 random(3);
     const double extremes[] = {0, -1, 1e-9, 0.999, 3, 1e6, 1e9, 1e15, 1e300};
     int endings[5] = {}, faults = 0;
+    const SteadyClock clock;
     for (int i = 0; i < 400; ++i) {
         SearchBench bench;
         Study& s = bench.study();
@@ -421,7 +424,17 @@ TEST(OptimalSearch, ExtremeStudiesEndSoon) {
         }
         const Study before = s;
         try {
-            ++endings[static_cast<int>(bench.search().ending)];
+            OptimalResult result = bench.search();
+            ++endings[static_cast<int>(result.ending)];
+            TimeLimit limit(bench.progress, clock, std::chrono::milliseconds(50));
+            if (result.ending == OptimalEnding::found) {
+                proveCheapest(bench.trial, bench.options, limit, result);
+                EXPECT_LE(result.proof->best->cost, result.bestTrial().cost) << i;
+            }
+            bench.options.budget = 1e5;
+            const OptimalResult most = searchMostPower(bench.trial, bench.options, limit);
+            EXPECT_EQ(most.ending == OptimalEnding::notReady, result.ending == OptimalEnding::notReady) << i;
+            EXPECT_TRUE(most.ending != OptimalEnding::found || most.bestTrial().cost <= 1e5) << i;
         } catch (const ArithmeticFault&) {
             ++faults;
         }
