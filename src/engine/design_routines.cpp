@@ -34,4 +34,12 @@ const DesignRoutines& routinesOf(int NumLevels, int RandomizedLevel) {
     return designs[static_cast<std::size_t>(NumLevels - 2)][static_cast<std::size_t>(RandomizedLevel - 1)];
 }
 
+void runDesign(Study& s, DistributionLibrary& library) {
+    const DesignRoutines& design = routinesOf(s.NumLevels, s.RandomizedLevel);
+    if (s.isMeans())
+        design.means(s);
+    else
+        design.binary(s, library);
+}
+
 }  // namespace lorvane

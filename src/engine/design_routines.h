@@ -58,4 +58,7 @@ struct DesignRoutines {
 /// as the program.
 const DesignRoutines& routinesOf(int NumLevels, int RandomizedLevel);
 
+/// Runs the routine of the study's design for its outcome. Throws ArithmeticFault.
+void runDesign(Study& study, DistributionLibrary& library);
+
 }  // namespace lorvane

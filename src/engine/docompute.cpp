@@ -62,14 +62,6 @@ void applyModels(Study& s) {
     }
 }
 
-void runDesign(Study& s, DistributionLibrary& library) {
-    const DesignRoutines& design = routinesOf(s.NumLevels, s.RandomizedLevel);
-    if (s.isMeans())
-        design.means(s);
-    else
-        design.binary(s, library);
-}
-
 void summarise(LevelFlags& flags) {
     for (int level = 1; level <= highestLevel; ++level) {
         if (!flags(level))

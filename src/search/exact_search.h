@@ -3,9 +3,10 @@
 // hand stays; where low cell counts are not allowed, level 1 is large enough to avoid them. Knows no window.
 //
 // It walks through the sizes of the free levels from the top down and solves for the top level, since power
-// rises with it: the screening of cells looks at level 1 alone, so it only sets a least size there and does
-// not disturb this. The test in normal theory may: where its bound says nothing, the top level is walked unit
-// by unit.
+// rises with it. Two things might break that. The screening of cells does not: it looks at level 1 alone and
+// sets a least size there. The test in normal theory does where it has one tail and the effect is negative:
+// its power falls, so that only the least top level counts. For a power of about one half and less its bound
+// says nothing, and all sizes that can be paid are walked.
 //
 // What cannot be of use is left out by the bounds of DesignBounds, which hold for every design.
 #pragma once

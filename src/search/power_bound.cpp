@@ -31,11 +31,7 @@ struct Variances {
 void setSize(Study& s, int level, double n) { s.txtNT(level) = s.txtNC(level) = s.txtNB(level) = n; }
 
 Variances variancesOf(Study& s, DistributionLibrary& library) {
-    const DesignRoutines& design = routinesOf(s.NumLevels, s.RandomizedLevel);
-    if (s.isMeans())
-        design.means(s);
-    else
-        design.binary(s, library);
+    runDesign(s, library);
     return {1 / (s.result.xLambda * s.result.xLambda), s.result.txtVarPooled, s.result.txtVarSep};
 }
 
@@ -210,8 +206,10 @@ double PowerBound::largestSum(double top) {
     if (saysNothing_)
         return infinite;
     Known& known = known_[static_cast<std::size_t>(top) % knownSums];
-    if (known.top != top)
-        known = {top, computeLargestSum(top) * (1 + tolerance) + roundingError_};
+    if (known.top != top) {
+        const double sum = computeLargestSum(top);
+        known = {top, sum > 0 ? sum * (1 + tolerance) + roundingError_ : 0};
+    }
     return known.sum;
 }
 

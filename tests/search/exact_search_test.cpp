@@ -6,6 +6,7 @@
 #include <cmath>
 #include <iostream>
 
+#include "search/power_bound.h"
 #include "search/trial_bench.h"
 #include "search_bench.h"
 #include "support/counted_allocations.h"
@@ -132,6 +133,34 @@ bool makeSmall(SearchBench& bench, std::mt19937& random) {
     }
     bench.refresh();
     return s.result.xValid;
+}
+
+// What the bounds rest on: in every design, the variance is a sum with one part a level.
+TEST(PowerBounds, WeightsGiveTheVarianceOfEveryDesignAtAnySizes) {
+    std::mt19937 random(11);
+    for (int design = 0; design < 200;) {
+        SearchBench bench;
+        makeRandom(bench, random);
+        Study& s = bench.study();
+        if (!s.result.xValid)
+            continue;
+        ++design;
+        PowerBound bound(s, bench.library);
+        bound.require(0.8);
+        for (int level = 1; level <= s.NumLevels; ++level)
+            s.txtNT(level) = s.txtNC(level) = s.txtNB(level) = static_cast<double>(6 + random() % 50);
+        const double top = s.txtNT(s.NumLevels);
+        double sum = bound.weights()(s.NumLevels), units = 1;
+        for (int level = s.NumLevels - 1; level >= 1; --level) {
+            units *= s.txtNT(level);
+            sum += bound.weights()(level) / units;
+        }
+        bench.refresh();
+        const double lambda = s.result.xLambda;
+        EXPECT_NEAR(top / sum / (lambda * lambda), 1, 1e-10) << design;
+        EXPECT_EQ(s.result.txtPower >= 0.8, sum <= bound.largestSum(top)) << design;
+        EXPECT_EQ(bound.leastTop(sum, 2) <= top, s.result.txtPower >= 0.8) << design;
+    }
 }
 
 TEST(ExactSearch, AgreesWithFullEnumeration) {
@@ -290,6 +319,49 @@ TEST(ExactSearch, TiesGoToThePowerAndThenToFewerTopUnits) {
     EXPECT_GT(ties, 60) << "more than the designs themselves";
 }
 
+// Where power falls as the top level grows, and where the bound says nothing: against every pair of sizes.
+TEST(ExactSearch, AnswersTheTestInNormalTheoryWhateverItsPowerDoes) {
+    int answered = 0;
+    for (const double difference : {-0.15, 0.15}) {
+        for (const double power : {0.005, 0.02, 0.1, 0.3, 0.5}) {
+            SearchBench bench(2, 2, DataTypes::binary);
+            Study& s = bench.study();
+            s.BinaryType = BinaryTypes::riskDifference;
+            s.PowerOption = PowerOptions::zDistribution;
+            s.txtTails = Tails::one;
+            s.txtRD = difference;
+            s.txtCostT(2) = s.txtCostC(2) = 37;
+            bench.options.power = power;
+            bench.options.budget = 3000;
+            bench.options.allowLowCellCounts = true;
+            bench.refresh();
+            NoProgress unwatched;
+            Study copy = s;
+            TrialBench trials(copy, bench.library, power, unwatched);
+            std::optional<Trial> least, most;
+            for (double top = 2; top <= 40; ++top) {
+                for (double n = 1; n <= 70; ++n) {
+                    trials.setSize(2, top);
+                    trials.trySize(1, n);
+                    const Trial trial = trials.trial();
+                    if (trial.cost > bench.options.budget)
+                        break;
+                    if (trials.reachesPower() && (!least || trial.cost < least->cost))
+                        least = trial;
+                    if (!most || rounded(trial.power) > rounded(most->power))
+                        most = trial;
+                }
+            }
+            if (least) {
+                EXPECT_EQ(cheapest(bench).best->cost, least->cost) << difference << ", " << power;
+            }
+            answered += least ? 1 : 0;
+            EXPECT_NEAR(mostPower(bench).best->power, most->power, 2 * equalPowers) << difference;
+        }
+    }
+    EXPECT_GT(answered, 5);
+}
+
 TEST(ExactSearch, KeepsWhatIsSetByHand) {
     SearchBench bench(3, 3);
     Study& s = bench.study();
@@ -306,6 +378,11 @@ TEST(ExactSearch, KeepsWhatIsSetByHand) {
     EXPECT_EQ(least.sizes(2), 2) << "for the covariate";
     EXPECT_EQ(least.cost, bench.search().bestTrial().cost) << "a fixed model, with all set by hand";
     bench.options.budget = least.cost - 1;
+    for (int level = 1; level <= 3; ++level)
+        s.txtCostT(level) = s.txtCostC(level) = 0;
+    EXPECT_EQ(cheapest(bench).best->sizes(3), least.sizes(3)) << "the least top level, where nothing costs";
+    for (int level = 1; level <= 3; ++level)
+        s.txtCostT(level) = s.txtCostC(level) = 10;
     const Trial most = *mostPower(bench).best;
     EXPECT_EQ(most.sizes(3), least.sizes(3) - 1);
 
