@@ -10,6 +10,7 @@
 #include <vector>
 
 #include "app/command_rows.h"
+#include "app/menu_rows.h"
 #include "base/use_problem.h"
 #include "graphs/graph_screen.h"
 #include "guidance/about_window.h"

@@ -1,4 +1,4 @@
-// The rows of the book of commands and the menus. A new command is one row here, with its key in a menu.
+// The rows of the book of commands. A new command is one row here, with its key in a menu.
 #pragma once
 
 #include <vector>
@@ -10,8 +10,5 @@ namespace lorvane {
 
 /// All commands of a program, which must outlive them.
 std::vector<Command> commandRows(const Program& program);
-
-/// The menus, popups and the tool bar.
-std::vector<Band> bandRows();
 
 }  // namespace lorvane
