@@ -86,6 +86,10 @@ MainWindow::MainWindow(Desk& desk) : desk_(desk), menus_(new Menus(desk, this)) 
     sync();
 }
 
+// A widget with the keyboard is destroyed after the own part of the window and reports a change of focus,
+// which must not arrive here any more.
+MainWindow::~MainWindow() { disconnect(qApp, nullptr, this, nullptr); }
+
 void MainWindow::addBars() {
     menus_->fill(menuBar());
     auto* bar = new QToolBar(this);

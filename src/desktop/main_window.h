@@ -27,6 +27,7 @@ class MainWindow : public QMainWindow {
 
 public:
     explicit MainWindow(Desk& desk);
+    ~MainWindow() override;
 
     /// Copies what has changed from the models.
     void sync();

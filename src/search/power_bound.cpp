@@ -171,11 +171,13 @@ double PowerBound::leastNoncentrality(double df) {
     }
     // False position; the end that stays counts half, so that both close in.
     int stays = 0;
-    while (high - low > stepOfRoot * high && aboveHigh > 0) {
+    while (high - low > stepOfRoot * high && aboveHigh >= 0) {
         const double between = low + (high - low) * belowLow / (belowLow - aboveHigh);
         const double hair = stepOfRoot * high / 4;
         const double middle = std::clamp(between, low + hair, high - hair);
         const double atMiddle = powerOfT(df, middle) - power_;
+        if (atMiddle == 0)
+            return middle * (1 - stepOfRoot);
         if (atMiddle < 0) {
             low = middle;
             belowLow = atMiddle;

@@ -163,6 +163,27 @@ TEST(PowerBounds, WeightsGiveTheVarianceOfEveryDesignAtAnySizes) {
     }
 }
 
+TEST(PowerBounds, TheShareOfTheLargestSumGrowsWithTheTopLevel) {
+    for (const Tails tails : {Tails::one, Tails::two}) {
+        for (const double alpha : {0.001, 0.05, 0.2, 0.49}) {
+            for (const double power : {0.3, 0.5, 0.8, 0.99, 0.9999}) {
+                SearchBench bench(2, 1);
+                bench.study().txtTails = tails;
+                bench.study().txtAlpha = alpha;
+                bench.refresh();
+                PowerBound bound(bench.study(), bench.library);
+                bound.require(power);
+                double share = 0;
+                for (double top = 2; power > alpha && top < 1e8; top = std::floor(1 + 1.07 * top)) {
+                    const double next = bound.largestSum(top) / top;
+                    ASSERT_GE(next, share * (1 - 1e-10)) << alpha << ", " << power << ", " << top;
+                    share = next;
+                }
+            }
+        }
+    }
+}
+
 TEST(ExactSearch, AgreesWithFullEnumeration) {
     std::mt19937 random(20261123);
     int paid = 0;
