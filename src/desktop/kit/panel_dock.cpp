@@ -33,10 +33,13 @@ PanelDock::PanelDock(ToolPanel* panel, const QString& shortName, bool scrollsIts
     connect(this, &QDockWidget::topLevelChanged, this, &PanelDock::syncTitle);
     limitShortcuts();
     syncLeastSize();
-    connect(qApp, &QApplication::focusChanged, title_,
+    connect(qApp, &QApplication::focusChanged, this,
             [this](QWidget*, QWidget* now) { title_->setInUse(now == this || (now && isAncestorOf(now))); });
     syncTitle();
 }
+
+// Its contents are destroyed after its own part. One with the keyboard then reports a change of focus.
+PanelDock::~PanelDock() { disconnect(qApp, nullptr, this, nullptr); }
 
 void PanelDock::addScroll() {
     scroll_->setFrameShape(QFrame::NoFrame);

@@ -23,6 +23,7 @@ public:
     /// The short name stands on the tab of several docks. A panel that scrolls by itself takes the height
     /// that there is; any other scrolls as a whole.
     PanelDock(ToolPanel* panel, const QString& shortName, bool scrollsItself, QWidget* owner);
+    ~PanelDock() override;
 
     ToolPanel* panel() const { return panel_; }
 
