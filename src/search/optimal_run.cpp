@@ -1,6 +1,7 @@
 // The run of the wizard: the search for the question that is asked, and what it shows of the answer.
 #include <utility>
 
+#include "base/arithmetic_fault.h"
 #include "base/number_text.h"
 #include "base/while_set.h"
 #include "platform/time_limit.h"
@@ -78,13 +79,22 @@ constexpr FigureWords wordsOfPower{"Power = ", "Power of each trial", "most powe
 
 }  // namespace
 
+// A fault on the way leaves the wizard as it was before the run.
 void OptimalWindow::ComputeOptimalDesign() {
     if (!design_.study().result.xValid) {
         say(State::problem, wizardTitle, modifyData);
         return;
     }
-    const WhileSet running(running_);
-    const OptimalOptions options = this->options();
+    try {
+        const WhileSet running(running_);
+        compute(options());
+    } catch (const ArithmeticFault&) {
+        ReDisplayOptimal();
+        throw;
+    }
+}
+
+void OptimalWindow::compute(const OptimalOptions& options) {
     for (int level = lowestLevel; level <= highestLevel; ++level)
         writeRow(level);
     forgetResult();

@@ -135,6 +135,7 @@ private:
     void writeCells(int level, const std::string& arms, const std::string& block);
     void showButtons(bool reset, bool compute, bool paste, bool close);
     OptimalOptions options() const;
+    void compute(const OptimalOptions& options);
     void computeCheapest(const OptimalOptions& options);
     void computeMostPower(const OptimalOptions& options);
     void prove(OptimalResult& result, const OptimalOptions& options);

@@ -515,6 +515,24 @@ TEST(OptimalSearch, DescentsLookAtTheProgress) {
     }
 }
 
+// Meets a fault at the first look.
+struct Faulty final : Progress {
+    bool goOn() override { throw ArithmeticFault("Faulty"); }
+};
+
+TEST(OptimalWizard, AFaultLeavesItReadyForTheNextTry) {
+    StudyBench bench;
+    Faulty faulty;
+    OptimalWindow wizard(bench.design, faulty);
+    bench.session.edit({"values"}, [](SessionState& state) { state.study = SearchBench().study(); });
+    wizard.open();
+    const std::string before = wizard.pnlOptimalInner().Caption;
+    EXPECT_THROW(wizard.ComputeOptimalDesign(), ArithmeticFault);
+    EXPECT_FALSE(wizard.isRunning());
+    EXPECT_EQ(wizard.pnlOptimalInner().Caption, before);
+    EXPECT_TRUE(wizard.cmdOpt(2).Visible && wizard.cmdOpt(4).Visible);
+}
+
 TEST(OptimalWizard, AStoppedSearchOffersToStartAgain) {
     StudyBench bench;
     Impatient impatient;
