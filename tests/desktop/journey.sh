@@ -40,6 +40,8 @@ onward() { keys $(yes Tab | head -n "$1"); }
 startScreen 1280 800
 openbox >/dev/null 2>"$scratch/manager.log" &
 manager=$!
+# A window that is there before the manager never gets the keyboard.
+within 8 xdotool get_desktop || fail "no window manager"
 "$program" 2>"$scratch/program.log" &
 running=$!
 
